@@ -1,0 +1,22 @@
+# Installs the Debian packages the build, the tests or the program need, when missing.
+# Quiet when nothing is missing. Sourced by ./test and ./run.
+qh_ensure_packages() {
+    local missing=()
+    local pkg
+    for pkg in "$@"; do
+        if ! dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q "install ok installed"; then
+            missing+=("$pkg")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing: ${missing[*]}"
+    local sudo=""
+    if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+QH_BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6
+                   libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
+                   fonts-liberation fonts-dejavu-core)
+QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth)

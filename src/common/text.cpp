@@ -1,0 +1,21 @@
+#include "common/text.h"
+
+namespace qh {
+
+std::string trimRight(std::string_view text) {
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return std::string(text);
+}
+
+std::string trim(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    return trimRight(text);
+}
+
+std::string rightChars(std::string_view text, std::size_t n) {
+    return std::string(text.size() <= n ? text : text.substr(text.size() - n));
+}
+
+std::string twoDigits(long long number) { return rightChars("0" + std::to_string(number), 2); }
+
+}  // namespace qh

@@ -1,0 +1,84 @@
+#pragma once
+// A control of a window model: plain data that the renderer shows. Positions and sizes are
+// twips (15 to the pixel) relative to the container (the window's client area, or the
+// picture box or frame named in `container`).
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common/color.h"
+#include "platform/canvas.h"
+
+namespace qh {
+
+enum class ControlKind {
+    Label,
+    TextBox,
+    ComboBox,
+    ListBox,
+    CheckBox,
+    RadioButton,
+    CommandButton,
+    PictureBox,  // a container; with `drawable` set it owns a canvas
+    Frame,
+    ScrollBar,   // vertical
+    Timer,
+    Menu,        // a menu or menu entry; caption "-" is a separator
+    ColorGrid,   // a grid of colour swatches, value = selected row (1-based), 0 for none
+};
+
+enum class Alignment { Left, Right, Center };
+
+struct Control {
+    std::string name;
+    int index = -1;  // element of a control array, or -1
+    ControlKind kind = ControlKind::Label;
+    std::string container;  // key of the containing control, empty for the window; for a menu its parent menu
+
+    std::string caption;
+    std::string text;
+    std::vector<std::string> items;  // combo and list boxes
+    int listIndex = -1;              // selected entry, -1 for none
+
+    bool checked = false;  // check box, radio button, menu tick
+    bool enabled = true;
+    bool visible = true;
+    bool locked = false;     // a text box that shows but can't be changed
+    bool multiLine = false;  // text box
+    int maxLength = 0;       // text box, 0 for no limit
+
+    Color foreColor = kBlack;
+    Color backColor = kWhite;
+    bool opaque = true;  // labels: false shows the container through
+
+    std::string fontName = "MS Sans Serif";
+    double fontSize = 8.25;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    Alignment alignment = Alignment::Left;
+    bool border = false;  // a sunken frame round labels, pictures and boxes
+
+    int left = 0, top = 0, width = 0, height = 0;
+    int z = 0;  // stacking order among siblings: higher lies on top
+
+    int helpContextId = 0;
+    int interval = 0;  // timer period in ms; the timer runs while `enabled`
+
+    std::string picture;  // named image shown by a picture box, button or label
+    std::string tag;
+
+    // scroll bar
+    int minimum = 0, maximum = 32767, smallChange = 1, largeChange = 1, value = 0;
+
+    bool drawable = false;           // picture box painted through `canvas`
+    std::shared_ptr<Canvas> canvas;  // set for drawable picture boxes
+
+    std::string key() const { return index < 0 ? name : name + "(" + std::to_string(index) + ")"; }
+    std::string selectedText() const {
+        return listIndex >= 0 && listIndex < int(items.size()) ? items[std::size_t(listIndex)] : std::string();
+    }
+    bool operator==(const Control&) const = default;
+};
+
+}  // namespace qh

@@ -1,0 +1,164 @@
+#include "platform/form.h"
+
+#include <algorithm>
+
+#include "common/failure.h"
+#include "platform/canvas.h"
+
+namespace qh {
+
+Form::Form(std::string name) : name_(std::move(name)) {}
+
+bool Form::hasMenuBar() const {
+    return std::any_of(order_.begin(), order_.end(), [this](const std::string& key) {
+        const Control& control = *controls_.at(key);
+        return control.kind == ControlKind::Menu && control.container.empty();
+    });
+}
+
+void Form::setOuterSize(int widthTwips, int heightTwips) {
+    width = widthTwips;
+    height = heightTwips;
+    scaleWidth = std::max(0, width - kFrameWidth);
+    scaleHeight = std::max(0, height - kFrameHeight - (hasMenuBar() ? kMenuBarHeight : 0));
+}
+
+Control& Form::add(ControlKind kind, const std::string& name, const std::string& container, int left, int top,
+                   int width, int height, int index) {
+    auto control = std::make_unique<Control>();
+    control->name = name;
+    control->index = index;
+    control->kind = kind;
+    control->container = container;
+    control->left = left;
+    control->top = top;
+    control->width = width;
+    control->height = height;
+    control->z = nextZ_++;
+    if (kind == ControlKind::Timer) control->enabled = false;
+    const std::string key = control->key();
+    if (controls_.count(key)) throw UntrappedFailure("Control already exists: " + key);
+    Control& added = *control;
+    controls_.emplace(key, std::move(control));
+    order_.push_back(key);
+    return added;
+}
+
+Control& Form::addDrawable(const std::string& name, const std::string& container, int left, int top, int width,
+                           int height, int index) {
+    if (!canvasFactory_) throw UntrappedFailure("No canvas factory for " + name);
+    Control& control = add(ControlKind::PictureBox, name, container, left, top, width, height, index);
+    control.drawable = true;
+    control.canvas = canvasFactory_->create();
+    control.canvas->resize(width, height);
+    return control;
+}
+
+Control& Form::addMenu(const std::string& name, const std::string& parent, const std::string& caption) {
+    Control& menu = add(ControlKind::Menu, name, parent, 0, 0, 0, 0);
+    menu.caption = caption;
+    return menu;
+}
+
+bool Form::has(const std::string& key) const { return controls_.count(key) != 0; }
+
+Control& Form::find(const std::string& key) {
+    auto it = controls_.find(key);
+    if (it == controls_.end()) throw UntrappedFailure("No control " + key + " on " + name_);
+    return *it->second;
+}
+
+Control& Form::c(const std::string& key) { return find(key); }
+const Control& Form::c(const std::string& key) const { return const_cast<Form*>(this)->find(key); }
+
+void Form::on(const std::string& key, FormEvent event, Handler handler) {
+    handlers_[{key, event}] = std::move(handler);
+}
+
+bool Form::handles(const std::string& key, FormEvent event) const { return handlers_.count({key, event}) != 0; }
+
+void Form::fire(const std::string& key, FormEvent event, const EventArgs& args) {
+    auto it = handlers_.find({key, event});
+    if (it == handlers_.end()) return;
+    // A copy: the handler may replace handlers while it runs.
+    Handler handler = it->second;
+    handler(args);
+}
+
+void Form::click(const std::string& key) {
+    Control& control = find(key);
+    if (!control.enabled || !control.visible) {
+        if (control.kind != ControlKind::Menu || !control.enabled) return;
+    }
+    switch (control.kind) {
+        case ControlKind::CheckBox: control.checked = !control.checked; break;
+        case ControlKind::RadioButton: control.checked = true; break;
+        default: break;
+    }
+    fire(key, FormEvent::Click);
+}
+
+void Form::type(const std::string& key, const std::string& text) {
+    Control& control = find(key);
+    control.text = control.maxLength > 0 && int(text.size()) > control.maxLength
+                       ? text.substr(0, std::size_t(control.maxLength))
+                       : text;
+    fire(key, FormEvent::Change);
+}
+
+void Form::select(const std::string& key, int listIndex) {
+    Control& control = find(key);
+    if (listIndex < -1 || listIndex >= int(control.items.size()))
+        throw UntrappedFailure("Invalid property value");
+    control.listIndex = listIndex;
+    control.text = control.selectedText();
+    fire(key, FormEvent::Click);
+}
+
+void Form::select(const std::string& key, const std::string& entry) {
+    const Control& control = find(key);
+    auto it = std::find(control.items.begin(), control.items.end(), entry);
+    if (it == control.items.end()) throw UntrappedFailure("No entry " + entry + " in " + key);
+    select(key, int(it - control.items.begin()));
+}
+
+void Form::setChecked(const std::string& key, bool checked) {
+    Control& control = find(key);
+    if (control.checked == checked) return;
+    control.checked = checked;
+    fire(key, FormEvent::Click);
+}
+
+void Form::scrollTo(const std::string& key, int value) {
+    Control& control = find(key);
+    value = std::clamp(value, control.minimum, std::max(control.minimum, control.maximum));
+    if (control.value == value) return;
+    control.value = value;
+    fire(key, FormEvent::Change);
+}
+
+void Form::press(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseDown, args); }
+void Form::release(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseUp, args); }
+
+void Form::tick(const std::string& timerKey) {
+    if (find(timerKey).enabled) fire(timerKey, FormEvent::Timer);
+}
+
+void Form::bringToFront(const std::string& key) { find(key).z = nextZ_++; }
+
+void Form::sendToBack(const std::string& key) {
+    int lowest = 0;
+    for (const auto& [k, control] : controls_) lowest = std::min(lowest, control->z);
+    find(key).z = lowest - 1;
+}
+
+void Form::move(const std::string& key, int left, int top, int width, int height) {
+    Control& control = find(key);
+    control.left = left;
+    control.top = top;
+    control.width = width;
+    control.height = height;
+    if (control.canvas) control.canvas->resize(width, height);
+}
+
+}  // namespace qh

@@ -1,0 +1,203 @@
+#include "platform/posix_file_system.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "common/failure.h"
+
+namespace qh {
+namespace {
+
+[[noreturn]] void fail(const std::string& what, const std::string& path) {
+    throw FileFailure(what + " " + path + ": " + std::strerror(errno));
+}
+
+class Descriptor {
+public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() {
+        if (fd_ >= 0) ::close(fd_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int get() const { return fd_; }
+    int release() {
+        int fd = fd_;
+        fd_ = -1;
+        return fd;
+    }
+
+private:
+    int fd_;
+};
+
+void writeAll(int fd, const char* data, std::size_t size, const std::string& path) {
+    while (size > 0) {
+        const ssize_t written = ::write(fd, data, size);
+        if (written < 0) {
+            if (errno == EINTR) continue;
+            fail("Cannot write", path);
+        }
+        data += written;
+        size -= std::size_t(written);
+    }
+}
+
+std::string folderOf(const std::string& path) {
+    const auto slash = path.find_last_of('/');
+    if (slash == std::string::npos) return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+void syncFolder(const std::string& folder) {
+    Descriptor fd(::open(folder.c_str(), O_RDONLY | O_DIRECTORY));
+    if (fd.get() >= 0) ::fsync(fd.get());
+}
+
+class PosixRecordFile : public RecordFile {
+public:
+    PosixRecordFile(int fd, int recordLength, std::string path)
+        : fd_(fd), length_(recordLength), path_(std::move(path)) {}
+
+    bool read(std::int32_t recordNumber, std::string& bytes) override {
+        if (recordNumber < 1) throw FileFailure("Bad record number");
+        bytes.resize(std::size_t(length_));
+        const off_t offset = off_t(recordNumber - 1) * length_;
+        std::size_t got = 0;
+        while (got < bytes.size()) {
+            const ssize_t n = ::pread(fd_.get(), bytes.data() + got, bytes.size() - got, offset + off_t(got));
+            if (n < 0) {
+                if (errno == EINTR) continue;
+                fail("Cannot read", path_);
+            }
+            if (n == 0) return false;
+            got += std::size_t(n);
+        }
+        return true;
+    }
+
+    void write(std::int32_t recordNumber, const std::string& bytes) override {
+        if (recordNumber < 1 || int(bytes.size()) != length_) throw FileFailure("Bad record for " + path_);
+        const off_t offset = off_t(recordNumber - 1) * length_;
+        std::size_t done = 0;
+        while (done < bytes.size()) {
+            const ssize_t n = ::pwrite(fd_.get(), bytes.data() + done, bytes.size() - done, offset + off_t(done));
+            if (n < 0) {
+                if (errno == EINTR) continue;
+                fail("Cannot write", path_);
+            }
+            done += std::size_t(n);
+        }
+        if (::fsync(fd_.get()) != 0) fail("Cannot sync", path_);
+    }
+
+    std::int32_t recordCount() override {
+        struct stat info {};
+        if (::fstat(fd_.get(), &info) != 0) fail("Cannot stat", path_);
+        return std::int32_t(info.st_size / length_);
+    }
+
+private:
+    Descriptor fd_;
+    int length_;
+    std::string path_;
+};
+
+}  // namespace
+
+std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path, int recordLength) {
+    Descriptor fd(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644));
+    if (fd.get() < 0) fail("Cannot open", path);
+    return std::make_unique<PosixRecordFile>(fd.release(), recordLength, path);
+}
+
+std::string PosixFileSystem::readAll(const std::string& path) {
+    Descriptor fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (fd.get() < 0) fail("Cannot open", path);
+    std::string bytes;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd.get(), buffer, sizeof buffer);
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            fail("Cannot read", path);
+        }
+        if (n == 0) break;
+        bytes.append(buffer, std::size_t(n));
+    }
+    return bytes;
+}
+
+void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+    const std::string temporary = path + ".tmp-" + std::to_string(::getpid());
+    {
+        Descriptor fd(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+        if (fd.get() < 0) fail("Cannot create", temporary);
+        try {
+            writeAll(fd.get(), bytes.data(), bytes.size(), temporary);
+            if (::fsync(fd.get()) != 0) fail("Cannot sync", temporary);
+        } catch (...) {
+            ::unlink(temporary.c_str());
+            throw;
+        }
+    }
+    if (::rename(temporary.c_str(), path.c_str()) != 0) {
+        const int saved = errno;
+        ::unlink(temporary.c_str());
+        errno = saved;
+        fail("Cannot replace", path);
+    }
+    syncFolder(folderOf(path));
+}
+
+bool PosixFileSystem::exists(const std::string& path) {
+    struct stat info {};
+    return ::stat(path.c_str(), &info) == 0;
+}
+
+bool PosixFileSystem::isDirectory(const std::string& path) {
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0) fail("No such path", path);
+    return S_ISDIR(info.st_mode);
+}
+
+void PosixFileSystem::makeDirectory(const std::string& path) {
+    if (::mkdir(path.c_str(), 0755) != 0) fail("Cannot make directory", path);
+}
+
+void PosixFileSystem::createEmpty(const std::string& path) {
+    Descriptor fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+    if (fd.get() < 0) fail("Cannot create", path);
+}
+
+void PosixFileSystem::remove(const std::string& path) {
+    if (::unlink(path.c_str()) != 0) fail("Cannot delete", path);
+}
+
+void PosixFileSystem::copy(const std::string& from, const std::string& to) {
+    const std::string bytes = readAll(from);
+    writeWhole(to, bytes);
+}
+
+void PosixFileSystem::rename(const std::string& from, const std::string& to) {
+    if (::rename(from.c_str(), to.c_str()) != 0) fail("Cannot rename", from);
+}
+
+std::vector<std::string> PosixFileSystem::listDirectory(const std::string& path) {
+    DIR* dir = ::opendir(path.c_str());
+    if (!dir) fail("Cannot list", path);
+    std::vector<std::string> names;
+    while (dirent* entry = ::readdir(dir)) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..") names.push_back(name);
+    }
+    ::closedir(dir);
+    return names;
+}
+
+}  // namespace qh

@@ -1,0 +1,22 @@
+#pragma once
+// The real file layer: POSIX calls on real files.
+#include "platform/file_system.h"
+
+namespace qh {
+
+class PosixFileSystem : public FileSystem {
+public:
+    std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
+    std::string readAll(const std::string& path) override;
+    void writeWhole(const std::string& path, const std::string& bytes) override;
+    bool exists(const std::string& path) override;
+    bool isDirectory(const std::string& path) override;
+    void makeDirectory(const std::string& path) override;
+    void createEmpty(const std::string& path) override;
+    void remove(const std::string& path) override;
+    void copy(const std::string& from, const std::string& to) override;
+    void rename(const std::string& from, const std::string& to) override;
+    std::vector<std::string> listDirectory(const std::string& path) override;
+};
+
+}  // namespace qh

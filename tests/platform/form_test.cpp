@@ -1,0 +1,107 @@
+#include "platform/form.h"
+
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "support/fake_platform.h"
+
+namespace qh {
+namespace {
+
+// A small window with one of each kind of control a planner window uses.
+class SampleWindow : public Form {
+public:
+    explicit SampleWindow(CanvasFactory& canvases) : Form("frmSample") {
+        setCanvasFactory(&canvases);
+        add(ControlKind::CommandButton, "ButtonOK", "", 100, 100, 1000, 300).caption = "OK";
+        add(ControlKind::TextBox, "TextBoxName", "", 100, 500, 2000, 300).maxLength = 5;
+        add(ControlKind::ComboBox, "ComboList", "", 100, 900, 2000, 300).items = {"All", "Done", "Not Done"};
+        add(ControlKind::CheckBox, "CheckBoxDone", "", 100, 1300, 2000, 300);
+        add(ControlKind::RadioButton, "RadioA", "", 100, 1700, 2000, 300, 0);
+        add(ControlKind::Timer, "Timer1", "", 0, 0, 0, 0).interval = 1000;
+        addDrawable("picGrid", "", 0, 2000, 3000, 1500);
+        on("ButtonOK", FormEvent::Click, [this](const EventArgs&) { log += "ok;"; hide(); });
+        on("TextBoxName", FormEvent::Change, [this](const EventArgs&) { log += "typed " + c("TextBoxName").text + ";"; });
+        on("ComboList", FormEvent::Click, [this](const EventArgs&) { log += "list " + c("ComboList").text + ";"; });
+        on("CheckBoxDone", FormEvent::Click, [this](const EventArgs&) {
+            log += std::string("done ") + (c("CheckBoxDone").checked ? "on" : "off") + ";";
+        });
+        on("RadioA(0)", FormEvent::Click, [this](const EventArgs&) { log += "radio;"; });
+        on("Timer1", FormEvent::Timer, [this](const EventArgs&) { log += "tick;"; });
+    }
+    bool Form_QueryUnload() override { return allowClose; }
+    std::string log;
+    bool allowClose = false;
+};
+
+TEST(FormKit, DrivesControlsByNameAsAUserWould) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    window.type("TextBoxName", "Algebra");
+    window.select("ComboList", "Not Done");
+    window.click("CheckBoxDone");
+    window.click("CheckBoxDone");
+    window.click("RadioA(0)");
+    window.tick("Timer1");  // off: nothing
+    window.c("Timer1").enabled = true;
+    window.tick("Timer1");
+    EXPECT_EQ(window.log, "typed Algeb;list Not Done;done on;done off;radio;tick;");
+    EXPECT_EQ(window.c("ComboList").listIndex, 2);
+    EXPECT_TRUE(window.c("RadioA", 0).checked);
+}
+
+TEST(FormKit, DisabledOrHiddenControlsIgnoreClicks) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    window.c("ButtonOK").enabled = false;
+    window.click("ButtonOK");
+    window.c("ButtonOK").enabled = true;
+    window.c("ButtonOK").visible = false;
+    window.click("ButtonOK");
+    EXPECT_EQ(window.log, "");
+    EXPECT_THROW(window.c("NoSuchControl"), UntrappedFailure);
+}
+
+TEST(FormKit, ModalShowLastsUntilTheModelHidesTheWindow) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    bool sawVisible = false;
+    fake.windowing.modalUsers["frmSample"].push_back([&](Form& form) {
+        sawVisible = form.visible;
+        form.click("ButtonOK");
+    });
+    fake.windowing.showModal(window, nullptr);
+    EXPECT_TRUE(sawVisible);
+    EXPECT_FALSE(window.visible);
+    EXPECT_EQ(window.log, "ok;");
+}
+
+TEST(FormKit, AModelMayRefuseACloseByTheCloseBox) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    EXPECT_FALSE(window.Form_QueryUnload());
+    window.allowClose = true;
+    EXPECT_TRUE(window.Form_QueryUnload());
+}
+
+TEST(FormKit, DrawablePictureBoxesOwnACanvasThatFollowsTheirSize) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    ASSERT_TRUE(window.c("picGrid").canvas);
+    EXPECT_EQ(window.c("picGrid").canvas->scaleWidth(), 3000);
+    window.move("picGrid", 0, 0, 4500, 600);
+    EXPECT_EQ(window.c("picGrid").canvas->scaleWidth(), 4500);
+    EXPECT_EQ(window.c("picGrid").canvas->scaleHeight(), 600);
+}
+
+TEST(FormKit, ZOrderRaisesAndLowersWithinTheWindow) {
+    FakePlatform fake;
+    SampleWindow window(fake.canvases);
+    window.bringToFront("ButtonOK");
+    EXPECT_GT(window.c("ButtonOK").z, window.c("picGrid").z);
+    window.sendToBack("ButtonOK");
+    EXPECT_LT(window.c("ButtonOK").z, window.c("TextBoxName").z);
+}
+
+}  // namespace
+}  // namespace qh
