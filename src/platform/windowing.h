@@ -14,7 +14,8 @@ public:
     // Shows the window modally, owned by `owner` (may be null), and returns when the model
     // has hidden it (form.visible false).
     virtual void showModal(Form& form, Form* owner) = 0;
-    // Closes a window for good (its unload has run).
+    // Closes a window as its close box would: asks the model (Form_QueryUnload), and if it
+    // agrees runs Form_Unload and takes the window off the screen for good.
     virtual void close(Form& form) = 0;
     // Lets the toolkit paint what changed and handle pending input once.
     virtual void processEvents() = 0;

@@ -238,7 +238,12 @@ void FakeWindowing::showModal(Form& form, Form*) {
 }
 
 void FakeWindowing::close(Form& form) {
+    if (!form.Form_QueryUnload()) {
+        log.push_back("close refused " + form.name());
+        return;
+    }
     log.push_back("close " + form.name());
+    form.Form_Unload();
     form.visible = false;
 }
 

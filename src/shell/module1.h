@@ -1,0 +1,26 @@
+#pragma once
+// The entry routine of the planner: refuses a second copy and a start without the drive
+// platform, shows the splash while the main window loads, then shows the main window.
+#include <memory>
+
+#include "platform/platform.h"
+
+namespace qh {
+
+class MainWindow;
+
+class Module1 {
+public:
+    explicit Module1(Platform& platform);
+    ~Module1();
+    // Returns true when the main window is on the screen and the event loop should run;
+    // false when the run ends here (a message was shown).
+    bool Main();
+    MainWindow* mainWindow() { return main_.get(); }
+
+private:
+    Platform& platform_;
+    std::unique_ptr<MainWindow> main_;
+};
+
+}  // namespace qh
