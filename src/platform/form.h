@@ -43,6 +43,7 @@ public:
     WindowState windowState = WindowState::Normal;
     bool visible = false;
     bool fixedSize = false;  // a dialog that can't be resized
+    int minWidth = 0, minHeight = 0;  // outer size the user can't drag the window below; 0 for none
     std::string focusedControl;
 
     // Sets the outer size and derives the client area as the renderer will give it.
