@@ -1,0 +1,75 @@
+#pragma once
+// The seven record files of the planner and the routines that read and write them.
+//
+// Every routine has the same shape: enter the data directory (a failure shows the
+// directory message and the routine ends), then open the file, do its work and close it
+// (any failure, including a 16-bit counter passing 32767, shows the file message with
+// "reading" or "writing", clears the file's change flag and ends the routine at once,
+// leaving the columns and counters as far as they got). The routines return true when
+// they ran to their end, false after a message; callers may ignore the result.
+//
+// Loads read record 1, 2, ... until the end of the file; a trailing part record counts as
+// the end. Saves of one record (assignments, notes, sessions, tasks, events) write at
+// the Next counter: RecordNumber 0 appends and advances it; any other RecordNumber
+// overwrites that record and puts the counter back afterwards. After a failed overwrite
+// the counter stays on the overwritten number until the next load, so the next append
+// lands there: that is the planner's long-standing behaviour and is kept.
+//
+// Terms.txt and Classes.txt are always replaced whole, atomically: a failed save leaves
+// the file as it was before the save.
+#include "platform/platform.h"
+#include "record_store/columns.h"
+
+namespace qh {
+
+class RecordFiles {
+public:
+    RecordFiles(RecordStore& store, Platform& platform) : store_(store), platform_(platform) {}
+
+    // Appends every record of Terms.txt, then of Classes.txt, to the term and class
+    // columns (tombstones too); NextTermRecord and NextClassRecord end as the number of
+    // whole records plus 1. Missing files are created empty.
+    bool LoadTermsAndClasses();
+
+    // Replaces Terms.txt and Classes.txt with the rows of the columns in order; term
+    // dates may be any text that reads as a date (see record_layout.h) and are written
+    // afresh as "yyyy/MM/dd". Sets TermsChanged and ClassesChanged. A Terms.txt that has
+    // gone missing since the load fails the save with an empty file name in the message,
+    // which clears no change flag.
+    bool SaveTermsAndClasses();
+
+    // Fills the assignment, note and study session columns for CurrentTermID (the caller
+    // empties them first): live assignments of live classes of the active term, every
+    // note with a link above 0, and the sessions linked to a loaded assignment. All three
+    // Next counters end past the end of their files.
+    bool LoadAssignments();
+
+    // Writes AssignmentRecord; sets AssignmentsChanged.
+    bool SaveAssignment(Int16 RecordNumber);
+    // Writes NoteRecord; sets NotesChanged.
+    bool SaveNote(Int16 RecordNumber);
+    // Writes row `Row` of the four EditStudySession columns; sets StudySessionsChanged.
+    bool SaveStudySession(Int16 RecordNumber, int Row);
+    // Reads record RecordNumber of Notes.txt into NoteRecord (all fields empty when the
+    // record lies past the end of the file).
+    bool ReadNote(Int16 RecordNumber);
+
+    // All live tasks, in file order; TaskRecordNos leads back to the file.
+    bool LoadTasks();
+    // Writes TaskRecord (its Date a date text); sets TasksChanged.
+    bool SaveTask(Int16 RecordNumber);
+
+    // All live events, in file order.
+    bool LoadEvents();
+    // Writes EventRecord (Date and EndDate date texts); sets EventsChanged.
+    bool SaveEvent(Int16 RecordNumber);
+
+private:
+    RecordStore& store_;
+    Platform& platform_;
+
+    bool enterDataDirectory();
+    void reportFileError(const std::string& fileName, const char* action);
+};
+
+}  // namespace qh

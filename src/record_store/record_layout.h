@@ -1,0 +1,60 @@
+#pragma once
+// The fixed-width record formats of the seven record files, as tables, and the one
+// builder and parser that all of them use.
+//
+// A record is a run of text fields, each left-justified and padded with spaces to its
+// width, in the Windows-1252 code page (codepage.h). Reserved fields are never assigned:
+// Terms.txt and Classes.txt fill them with spaces, the five other files with NUL bytes.
+// Date fields hold "yyyy/MM/dd" in a width of 15.
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qh {
+
+enum class FieldKind {
+    Text,      // stored as given, cut to the width
+    Date,      // written through year, month and day as "yyyy/MM/dd"; separators repaired on read
+    Reserved,  // not assigned, not read
+};
+
+struct FieldSpec {
+    std::string_view name;
+    int width;
+    FieldKind kind;
+};
+
+struct RecordLayout {
+    std::string_view fileName;  // bare name, as the file routines report it
+    int length;                 // bytes of one record: the sum of the widths
+    char reservedFill;          // ' ' or '\0'
+    std::span<const FieldSpec> fields;
+
+    // Number of fields that carry a value (all but the reserved ones).
+    int valueCount() const;
+    // Byte offset of the n-th field of the table (0-based, reserved ones counted).
+    int offsetOf(int fieldIndex) const;
+};
+
+extern const RecordLayout kTermsLayout;          // Terms.txt, 100
+extern const RecordLayout kClassesLayout;        // Classes.txt, 615
+extern const RecordLayout kAssignmentsLayout;    // Assignments.txt, 160
+extern const RecordLayout kNotesLayout;          // Notes.txt, 1500
+extern const RecordLayout kStudySessionsLayout;  // StudySessions.txt, 55
+extern const RecordLayout kTasksLayout;          // Tasks.txt, 1000
+extern const RecordLayout kEventsLayout;         // Events.txt, 1000
+
+// Builds one record from the values of the non-reserved fields in table order (UTF-8).
+// A date field's value must read as a date once its "." and "-" are taken for "/"
+// ("2026/11/21", "2026-1-5"); anything else is the untrapped "Type mismatch", which the
+// file routines report as an error writing the file. Fewer or more values than the
+// layout has is a programming error (std::invalid_argument).
+std::string buildRecord(const RecordLayout& layout, std::span<const std::string> values);
+
+// Reads the non-reserved fields of one record (exactly layout.length bytes) in table
+// order: UTF-8, trailing spaces removed, every "." and then every "-" of a date field
+// replaced by "/" (a date field that holds no date is otherwise kept as it stands).
+std::vector<std::string> parseRecord(const RecordLayout& layout, std::string_view bytes);
+
+}  // namespace qh

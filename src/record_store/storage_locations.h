@@ -1,0 +1,47 @@
+#pragma once
+// Where the planner's files lie on the drive, and the two failure reports every file
+// routine of the record store shares.
+//
+// DataDirectory is U3_DEVICE_DOCUMENT_PATH + "/Quillhollow/Data", BackupDirectory its
+// "Backup" folder, DocumentDirectory U3_DEVICE_DOCUMENT_PATH + "/Quillhollow". The process's
+// current directory is never changed: "entering" a directory means checking that it is
+// there, and bare file names are then resolved against it (dataFilePath).
+#include <string>
+
+#include "platform/platform.h"
+#include "record_store/columns.h"
+
+namespace qh {
+
+// Sets the help file and the three directories, makes the missing ones (each one level,
+// a failing make passed over), then enters the data directory. When that last step
+// fails it shows "Error creating Quillhollow Data Directory" and returns false: the
+// caller then ends the run at once without saving anything.
+bool SetStorageLocations(RecordStore& store, Platform& platform);
+
+// Checks that `directory` exists as a directory; throws FileFailure when it does not.
+// This is the directory step every file routine begins with.
+void EnterDirectory(Platform& platform, const std::string& directory);
+
+// A bare file name of the data directory as a full path.
+std::string dataFilePath(const RecordStore& store, const std::string& fileName);
+
+// "Quillhollow - Directory Error": the directory step of a file routine failed. The run
+// goes on.
+void ReportDirectoryError(MessageBoxes& messages);
+
+// "Quillhollow - File Read Error" (for reading and writing alike): "Error <Action> the
+// file: <FileName>". Clears the change flag of the file named FileName (none for a name
+// that is not one of the seven record files, such as ""), so a file that met an error in
+// this run is not rotated into the backups at exit. Undoes nothing else.
+void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::string& FileName,
+                     const std::string& Action);
+
+// The message texts, for callers and tests that compare them.
+extern const char* const kDirectoryErrorTitle;      // "Quillhollow - Directory Error"
+extern const char* const kFileErrorTitle;           // "Quillhollow - File Read Error"
+extern const char* const kDataDirectoryErrorText;   // shown by SetStorageLocations
+extern const char* const kDirectoryErrorText;       // shown by ReportDirectoryError
+std::string fileErrorText(const std::string& FileName, const std::string& Action);
+
+}  // namespace qh
