@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/platform.h"
+#include "record_store/columns.h"
 
 namespace qh {
 
@@ -17,9 +18,11 @@ public:
     // false when the run ends here (a message was shown).
     bool Main();
     MainWindow* mainWindow() { return main_.get(); }
+    RecordStore& store() { return store_; }
 
 private:
     Platform& platform_;
+    RecordStore store_;
     std::unique_ptr<MainWindow> main_;
 };
 

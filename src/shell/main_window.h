@@ -1,0 +1,131 @@
+#pragma once
+// frmMain: the planner's main window as a model. It owns its controls by their names, the
+// view state, and the routines of the main window; the record store and the platform
+// come from outside. The routines live in the files of their concern:
+//   startup.cpp          Form_Load, Form_Unload, the .PID file
+//   main_window_layout   the controls and menus at their load places
+//   refresh.cpp          RefreshDisplay, the combo handlers, TintViewPanel, timers
+//   modes.cpp            the five mode routines and the remembered view choices
+//   month_navigator.cpp  BuildCalendar, the arrows, Today/Tomorrow, the start day
+//   term_panel.cpp       SelectTerm, PaintStatusBar
+//   stopwatch.cpp        the study stopwatch
+//   window_layout.cpp    the minimum size and the resize handler
+//   list_view/*          the grid layouts, list builders and hit testing
+//   calendar_days/*      which days are marked
+#include <memory>
+#include <string>
+
+#include "calendar_days/day_marks.h"
+#include "platform/form.h"
+#include "platform/platform.h"
+#include "record_store/columns.h"
+#include "shell/main_window_state.h"
+
+namespace qh {
+
+class RecordFiles;
+struct ColorVocabulary;
+
+class MainWindow : public Form {
+public:
+    MainWindow(RecordStore& store, Platform& platform);
+    ~MainWindow() override;
+
+    RecordStore& store;
+    Platform& platform;
+    MainWindowState state;
+    std::unique_ptr<RecordFiles> files;
+    std::unique_ptr<ColorVocabulary> colors;
+
+    // Window events.
+    void Form_Load() override;
+    bool Form_QueryUnload() override { return true; }
+    void Form_Unload() override;
+    void Form_Resize() override;
+    // True when the load ended the run (the data directory could not be entered).
+    bool loadEndedRun() const { return loadEndedRun_; }
+
+    // The current mode: the mode menu item that carries the tick, tested in the order
+    // Homework, Study Sessions, Tasks, Events, Reminders.
+    Mode CurrentMode() const;
+
+    // Display refresh.
+    void RefreshDisplay();
+    void Refresh(const std::string& reason);  // sets RefreshReason and refreshes
+    void TintViewPanel();
+    // The letters of the steps the last RefreshDisplay ran ("PRCLG"), for tests.
+    const std::string& lastRefreshSteps() const { return lastRefreshSteps_; }
+
+    // Modes.
+    void SetDefaultViewChoices();
+    void SaveViewChoices();
+    void RestoreViewChoices();
+    void SetHomeworkMode();
+    void SetStudySessionMode();
+    void SetTaskMode();
+    void SetEventMode();
+    void SetReminderMode();
+
+    // Month navigator.
+    void BuildCalendar();
+    void PaintCalendarCells();
+    void UpdateQuickDateButtons();
+    void ApplyStartDayOfWeek();
+    void MarkDays(Date firstCell);
+    DayMarks MarkEventDaysFor(Date firstCell);
+
+    // Term panel and status bar.
+    void SelectTerm(std::string termName);
+    void PaintStatusBar();
+
+    // Stopwatch.
+    void UpdateStopwatchLabel();
+
+    // The grid of the list view.
+    void LayoutGrid(Mode mode);
+    void BuildList(Mode mode);
+    void UpdateGridScroll();
+    void RefillGrid();
+    void ResetGridScroll();
+    void HighlightGridRow(int row, bool on);
+    void UpdateGradeList();
+    void UpdateStudyTimeToday(Date date);
+    // A click on visible row k of the grid (press and release agreed).
+    void GridRowClicked(int k);
+
+    // Record actions; the editors arrive later and these then open them.
+    void NewAssignment();
+    void EditAssignment(int row);
+    void NewTask();
+    void EditTask(int row);
+    void NewEvent();
+    void EditEvent(int row);
+
+    // Colour of a colour name of the vocabulary, or of an "&H" text.
+    Color colorValue(const std::string& nameOrHexText) const;
+
+private:
+    void buildControls();
+    void buildMenus();
+    void bindHandlers();
+    void applyModeTable(Mode mode);
+    void calendarButtonPressed(const std::string& button);
+    void calendarButtonReleased(const std::string& button);
+    void dateCellClicked(int index);
+    void dayHeaderClicked(int index);
+    void changeStartDay(const std::string& day);
+    void quickDateClicked(int element);
+    void ButtonStart_Click();
+    void ButtonReset_Click();
+    void Timer1_Timer();
+    void TimerButton_Timer();
+    void picGridMouseDown(const EventArgs& args);
+    void picGridMouseUp(const EventArgs& args);
+    void headerClicked(int index);
+    std::string pidFilePath() const;
+
+    std::string lastRefreshSteps_;
+    bool loadEndedRun_ = false;
+};
+
+}  // namespace qh

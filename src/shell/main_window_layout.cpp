@@ -1,0 +1,230 @@
+// The controls and menus of the main window at their load places (twips, client area).
+#include "shell/main_window.h"
+
+namespace qh {
+namespace {
+
+constexpr const char* kDayHeaderLetters = "MTWTFSS";
+
+Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
+               int height, const std::string& caption, int index = -1) {
+    Control& control = form.add(ControlKind::Label, name, container, left, top, width, height, index);
+    control.caption = caption;
+    control.opaque = false;
+    return control;
+}
+
+Control& summaryBox(Form& form, const std::string& name, int top) {
+    Control& box = form.add(ControlKind::TextBox, name, "", 3240, top, 1095, 315);
+    box.locked = true;
+    box.alignment = Alignment::Center;
+    box.visible = false;
+    box.fontName = "Verdana";
+    box.bold = true;
+    return box;
+}
+
+}  // namespace
+
+void MainWindow::buildMenus() {
+    addMenu("MenuFile", "", "File");
+    addMenu("MenuReminders", "MenuFile", "Today's Reminders");
+    addMenu("MenuHomework", "MenuFile", "Homework");
+    addMenu("MenuStudySessions", "MenuFile", "Study Sessions");
+    addMenu("MenuTasks", "MenuFile", "Tasks");
+    addMenu("MenuEvents", "MenuFile", "Events");
+    addMenu("MenuFileSep1", "MenuFile", "-");
+    addMenu("MenuPrintScreen", "MenuFile", "Print Screen...");
+    addMenu("MenuExport", "MenuFile", "Export for Printing");
+    addMenu("MenuExportCalendar", "MenuExport", "Calendar...");
+    addMenu("MenuExportList", "MenuExport", "Current List...");
+    addMenu("MenuFileSep2", "MenuFile", "-");
+    addMenu("MenuExit", "MenuFile", "Exit");
+
+    addMenu("MenuEdit", "", "Edit");
+    addMenu("MenuClassSchedule", "MenuEdit", "Class Schedule...");
+    addMenu("MenuNewAssignment", "MenuEdit", "New Assignment...");
+    addMenu("MenuEditSep1", "MenuEdit", "-");
+    addMenu("MenuNewTask", "MenuEdit", "New Task...");
+    addMenu("MenuNewEvent", "MenuEdit", "New Event...");
+
+    addMenu("MenuOptions", "", "Options");
+    addMenu("MenuStartDay", "MenuOptions", "Start Day of Week");
+    addMenu("MenuStartSat", "MenuStartDay", "Saturday");
+    addMenu("MenuStartSun", "MenuStartDay", "Sunday");
+    addMenu("MenuStartMon", "MenuStartDay", "Monday");
+
+    addMenu("MenuHelp", "", "Help");
+    addMenu("MenuHelpDB", "MenuHelp", "Help");
+    addMenu("MenuVideos", "MenuHelp", "Video Tutorials");
+    addMenu("MenuVideo1", "MenuVideos", "1) Add a Class Schedule");
+    addMenu("MenuVideo2", "MenuVideos", "2) Add an Assignment");
+    addMenu("MenuVideo3", "MenuVideos", "3) Finish an Assignment");
+    addMenu("MenuHomeworkHelp", "MenuHelp", "Online Homework Help");
+    addMenu("MenuHelpSep1", "MenuHelp", "-");
+    addMenu("MenuShowTips", "MenuHelp", "Show Tips at Startup...");
+    addMenu("MenuAbout", "MenuHelp", "About Quillhollow...");
+}
+
+void MainWindow::buildControls() {
+    // The mode bar and the buttons beside the title bar.
+    const char* bars[] = {"PictureBarReminders", "PictureBarHomework", "PictureBarStudySessions", "PictureBarTasks",
+                          "PictureBarEvents"};
+    const char* tips[] = {" Today's Reminders ", "Homework", "Study Sessions", "Tasks", "Events"};
+    for (int i = 0; i < 5; ++i) {
+        Control& bar = add(ControlKind::PictureBox, bars[i], "", 120 + 600 * i, 15, 465, 345);
+        bar.tag = tips[i];
+        bar.backColor = kButtonFace;
+    }
+    add(ControlKind::PictureBox, "PictureBarWeb", "", 5580, 15, 465, 345).picture = "Web";
+    add(ControlKind::PictureBox, "picHelp", "", 6285, 30, 315, 240).picture = "Help";
+    add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330).picture = "CalDayLeftUp";
+    add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330).picture = "CalDayRightUp";
+    Control& top = add(ControlKind::PictureBox, "picTop", "", 240, 480, 6225, 330);
+    top.backColor = 0x7F4F2F;
+    Control& labelTop = label(*this, "LabelTop", "picTop", 0, 45, 6225, 285, "");
+    labelTop.foreColor = kWhite;
+    labelTop.fontName = "Verdana";
+    labelTop.fontSize = 9;
+    labelTop.bold = true;
+    labelTop.alignment = Alignment::Center;
+
+    // The month calendar.
+    Control& calendar = add(ControlKind::PictureBox, "picCalendar", "", 6760, 30, 2640, 2520);
+    calendar.backColor = kWhite;
+    calendar.border = true;
+    add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270).picture = "CalMonthLeftUp";
+    add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270).backColor = 0x7F4F2F;
+    Control& month = label(*this, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
+    month.alignment = Alignment::Center;
+    month.foreColor = kWhite;
+    month.fontName = "Verdana";
+    month.bold = true;
+    add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270).picture = "CalMonthRightUp";
+    Control& dayBackground = label(*this, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
+    dayBackground.opaque = true;
+    dayBackground.backColor = 0xEEE6DD;
+    for (int i = 0; i < 7; ++i) {
+        Control& header = label(*this, "LabelCalDay", "picCalendar", 150 + 330 * i, 300, 300, 225,
+                                std::string(1, kDayHeaderLetters[i]), i);
+        header.alignment = Alignment::Center;
+        header.fontName = "Verdana";
+        header.bold = true;
+    }
+    Control& tile = label(*this, "LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
+    tile.alignment = Alignment::Center;
+    tile.border = true;
+    tile.visible = false;
+    for (int i = 0; i < 42; ++i) {
+        Control& cell = label(*this, "LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7),
+                              state.CalendarCellWidth, state.CalendarCellHeight, std::to_string(i + 1), i);
+        cell.opaque = true;
+        cell.backColor = kWhite;
+        cell.fontName = "Verdana";
+        cell.fontSize = 8.25;
+        cell.alignment = Alignment::Center;
+        cell.tag = std::to_string(i);
+    }
+    sendToBack("LabelCalTileBorder");
+    add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240).picture = "TodayUp";
+    Control& today = label(*this, "LabelToday", "picToday", 0, 15, 750, 240, "Today");
+    today.alignment = Alignment::Center;
+    add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240).picture = "TomorrowUp";
+    Control& tomorrow = label(*this, "LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow");
+    tomorrow.alignment = Alignment::Center;
+    Control& lock = add(ControlKind::PictureBox, "picLock", "picCalendar", 2355, 2130, 240, 270);
+    lock.picture = "Lock";
+    lock.visible = false;
+
+    // The mode's button and panels at the left.
+    const std::pair<const char*, const char*> buttons[] = {
+        {"ButtonNewAssignment", "New Assignment"}, {"ButtonNewTask", "New Task"}, {"ButtonNewEvent", "New Event"}};
+    for (const auto& [name, caption] : buttons) {
+        Control& button = add(ControlKind::CommandButton, name, "", 120, 930, 1095, 1125);
+        button.caption = caption;
+        button.visible = false;
+    }
+    Control& sessions = add(ControlKind::PictureBox, "PictureBoxStudySessions", "", 120, 930, 1065, 1095);
+    sessions.visible = false;
+    sessions.backColor = kButtonFace;
+    sessions.border = true;
+    Control& time = label(*this, "LabelTime", "PictureBoxStudySessions", 45, 90, 975, 330, "00:00");
+    time.fontName = "Courier";
+    time.fontSize = 14;
+    time.bold = true;
+    time.alignment = Alignment::Center;
+    time.foreColor = rgb(160, 160, 160);
+    add(ControlKind::CommandButton, "ButtonStart", "PictureBoxStudySessions", 90, 480, 885, 270).caption = "Start";
+    add(ControlKind::CommandButton, "ButtonReset", "PictureBoxStudySessions", 90, 765, 885, 270).caption = "Reset";
+    Control& reminders = add(ControlKind::PictureBox, "PictureBoxReminders", "", 120, 930, 1065, 1095);
+    reminders.visible = false;
+    reminders.picture = "RemindersPanel";
+    reminders.backColor = kButtonFace;
+    reminders.border = true;
+
+    // The summary labels and boxes; each mode places and shows its own.
+    label(*this, "LabelTotalAssignments", "", 1410, 990, 1800, 255, "Total Assignments:");
+    label(*this, "LabelFinishedAssignments", "", 1410, 1380, 1800, 255, "Unfinished Assignments:");
+    label(*this, "LabelTimeRemaining", "", 1410, 1770, 1800, 255, "Time Left:");
+    for (const char* name : {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining",
+                             "TextBoxStudySessions", "TextBoxStudyTime", "TextBoxTotalTasks", "TextBoxFinishedTasks",
+                             "TextBoxClasses", "TextBoxOtherEvents", "TextBoxAssignments", "TextBoxTasks",
+                             "TextBoxEvents"})
+        summaryBox(*this, name, 930);
+
+    // The term panel and the study time panel share a place.
+    Control& term = add(ControlKind::PictureBox, "PictureBoxTerm", "", 4530, 930, 2055, 1605);
+    term.backColor = kButtonFace;
+    term.border = true;
+    Control& termName = label(*this, "LabelTerm", "PictureBoxTerm", 90, 60, 1875, 255, "");
+    termName.bold = true;
+    termName.fontName = "Verdana";
+    label(*this, "LabelDaysLeft", "PictureBoxTerm", 90, 330, 1875, 255, "");
+    add(ControlKind::CommandButton, "ButtonSelectTerm", "PictureBoxTerm", 210, 600, 1305, 375).caption =
+        "Select Term";
+    add(ControlKind::ComboBox, "ComboGPA", "PictureBoxTerm", 120, 1140, 1815, 315);
+    Control& studyTime = add(ControlKind::PictureBox, "PictureBoxStudyTime", "", 4530, 930, 2055, 1605);
+    studyTime.visible = false;
+    studyTime.backColor = kButtonFace;
+    studyTime.border = true;
+    label(*this, "LabelStudyTimeToday", "PictureBoxStudyTime", 90, 90, 1875, 255, "Study Time Today").bold = true;
+    label(*this, "LabelMinimum", "PictureBoxStudyTime", 90, 555, 900, 255, "Minimum:");
+    label(*this, "LabelSuggested", "PictureBoxStudyTime", 90, 1005, 900, 255, "Suggested:");
+    for (auto [name, top] : {std::pair{"TextBoxMinimum", 495}, std::pair{"TextBoxSuggested", 945}}) {
+        Control& box = add(ControlKind::TextBox, name, "PictureBoxStudyTime", 1005, top, 930, 315);
+        box.locked = true;
+        box.alignment = Alignment::Center;
+        box.fontName = "Verdana";
+        box.bold = true;
+        box.text = "00:00";
+    }
+
+    // The two filter combos.
+    Control& views = add(ControlKind::PictureBox, "PictureBoxViewMenus", "", 105, 2235, 4275, 405);
+    views.visible = false;
+    views.backColor = 0xF0E8E2;
+    label(*this, "LabelList", "PictureBoxViewMenus", 60, 75, 495, 255, "List:");
+    add(ControlKind::ComboBox, "ComboList", "PictureBoxViewMenus", 570, 15, 1335, 315);
+    label(*this, "LabelDateRange", "PictureBoxViewMenus", 2040, 75, 615, 255, "Range:");
+    add(ControlKind::ComboBox, "ComboDateRange", "PictureBoxViewMenus", 2670, 15, 1425, 315);
+
+    // The list grid, its headers and scroll bar, and the status bar; the layouts of the
+    // list view place them by the window's size.
+    addDrawable("picGrid", "", 100, 2650, 9280, 3355);
+    for (int i = 0; i < 9; ++i) addDrawable("picColHeader", "picGrid", 0, 0, 600, 300, i);
+    Control& scroll = add(ControlKind::ScrollBar, "VSGridScroll", "picGrid", 9025, 0, 255, 3355);
+    scroll.minimum = 1;
+    scroll.maximum = 1;
+    scroll.value = 1;
+    scroll.enabled = false;
+    addDrawable("picStatusBar", "", 0, 6105, 9480, 300);
+
+    Control& statusTimer = add(ControlKind::Timer, "TimerStatusBar", "", 0, 0, 0, 0);
+    statusTimer.interval = 10000;
+    statusTimer.enabled = true;
+    add(ControlKind::Timer, "TimerTip", "", 0, 0, 0, 0).interval = 500;
+    add(ControlKind::Timer, "Timer1", "", 0, 0, 0, 0).interval = 1000;
+    add(ControlKind::Timer, "TimerButton", "", 0, 0, 0, 0).interval = 150;
+}
+
+}  // namespace qh

@@ -1,0 +1,103 @@
+#pragma once
+// The view state of the main window: what the calendar shows, the sort and scroll of the
+// list, the remembered filter choices and the row columns of the list now shown. Plain
+// data; the main window's routines read and write it.
+#include <array>
+#include <string>
+
+#include "common/column.h"
+#include "common/day_number.h"
+#include "common/int16.h"
+
+namespace qh {
+
+enum class Mode { None, Homework, StudySessions, Tasks, Events, Reminders };
+
+// The fixed colours of the main window, as texts "&HBBGGRR".
+struct MainWindowColors {
+    std::string CurrentMonthFore = "&H000000";
+    std::string OtherMonthFore = "&HA9A9A9";
+    std::string SelectedFore = "&HFFFFFF";
+    std::string MarkedBack = "&HF0E8E2";  // rewritten by each marking of the month
+    std::string PlainBack = "&HFFFFFF";
+    std::string SelectedBack = "&H000000";
+    std::string TintBlue = "&HF0E8E2";
+    std::string TintGreen = "&HE2F7E1";
+    std::string TintPink = "&HE5E5FF";
+    std::string TintTan = "&HD7EBFA";
+    std::string SelectedBlue = "&HA88A76";
+    std::string SelectedGreen = "&H00A600";
+    std::string SelectedPink = "&H374EC1";
+    std::string SelectedTan = "&H20A5DA";
+};
+
+// Remembered ComboList and ComboDateRange texts of one mode, for the length of a run.
+struct ViewChoice {
+    std::string List;
+    std::string Range;
+};
+
+struct MainWindowState {
+    Date ClickedDate = 0;
+    Date DisplayedDate = 0;
+    int DisplayedMonth = 13;
+    std::string StartDayOfWeek = "Monday";
+    std::string RefreshReason;
+    Int16 SuppressComboEvents = kFalse;
+    Int16 SortColumn = 7;
+    Int16 SortDirection = 1;
+    Int16 RowPitch = 22;
+    Int16 TopRow = 1;
+    Int16 GridMargin = 100;
+    Int16 PressedRow = 0;
+    Int16 HeaderHeight = 0;
+    Int16 GridBottom = 0;
+    Int16 RowsVisible = 0;
+    Int16 RowCount = 0;
+    Int16 CalendarCellWidth = 300;
+    Int16 CalendarCellHeight = 225;
+    Int16 ButtonRepeatInterval = 300;
+    std::int32_t ProcessID = 0;
+    std::int32_t MinWindowWidth = 0, MinWindowHeight = 0;  // pixels
+    Int16 FirstModeSetup = kFalse;
+    std::string StatusBarText;
+    std::string ShowTipsAtStartup = "Yes";
+    Int16 CurrentTip = 0;
+
+    MainWindowColors Colors;
+    ViewChoice SavedHomework, SavedStudySessions, SavedTasks, SavedEvents, SavedReminders;
+
+    // The month calendar, rebuilt by BuildCalendar.
+    std::array<std::string, 42> CellCaptions{};
+    std::array<std::string, 42> CellForeColors{};
+    std::array<std::string, 42> CellBackColors{};
+    std::array<bool, 42> CellBold{};
+    std::array<bool, 42> CellIsToday{};
+    std::array<bool, 42> CellMarked{};
+    std::array<Date, 50> CalendarDates{};
+    Int16 CalButtonUp = kFalse, CalButtonForward = kFalse, CalButtonMonth = kFalse;
+
+    // The stopwatch: the moment of the last start and the seconds counted.
+    Moment StopwatchStart;
+    double StopwatchRun = 0, StopwatchTotal = 0;
+    long long StopwatchHours = 0, StopwatchMinutes = 0, StopwatchSeconds = 0;
+    bool StopwatchShowSeconds = false;
+
+    // Row columns of the list now shown; the first of each set maps a list position to a
+    // row of the record store.
+    Column<int> ListAssignmentRows;
+    TextColumn ListClassNames, ListForeColors, ListBackColors, ListTimes;
+    Column<int> ListSessionRows, ListSessionLengthRows, ListSessionDateRows;
+    Column<int> ListTaskRows;
+    TextColumn ListTaskForeColors, ListTaskBackColors;
+    Column<int> ListEventRows;
+    Column<Date> ListEventDates;
+    TextColumn ListEventForeColors, ListEventBackColors;
+    Column<int> ReminderRecords;
+    TextColumn ReminderKinds, ReminderForeColors, ReminderBackColors, ReminderClasses, ReminderTypes,
+        ReminderDescriptions;
+    Column<Int16> ReminderDays;
+    Column<Date> ReminderDates;
+};
+
+}  // namespace qh

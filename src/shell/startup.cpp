@@ -1,0 +1,142 @@
+// The load and the unload of the main window.
+#include <array>
+
+#include "common/failure.h"
+#include "record_store/color_vocabulary.h"
+#include "record_store/record_files.h"
+#include "record_store/storage_locations.h"
+#include "record_store/backups.h"
+#include "shell/main_window.h"
+#include "shell/preferences.h"
+
+namespace qh {
+namespace {
+
+// Context-help numbers of the main window's controls, given in runs from a first number.
+struct HelpRun {
+    int first;
+    std::vector<const char*> controls;
+};
+
+const std::array<HelpRun, 3>& helpRuns() {
+    static const std::array<HelpRun, 3> runs{{
+        {101, {"ButtonNewAssignment", "ButtonNewEvent", "ButtonNewTask", "ButtonSelectTerm", "ComboDateRange",
+               "ComboGPA", "ComboList", "picGrid", "picHelp", "picCalDayDown", "picCalDayUp", "picCalMonthDown",
+               "picCalMonthUp"}},
+        {115, {"LabelCalDayBG", "LabelDaysLeft", "LabelMonth", "LabelTerm", "LabelToday", "LabelTomorrow", "LabelTop",
+               "picCalendar", "PictureBarEvents", "PictureBarHomework", "PictureBarReminders",
+               "PictureBarStudySessions", "PictureBarTasks", "PictureBoxReminders", "PictureBoxStudySessions"}},
+        {133, {"picStatusBar", "TextBoxAssignments", "TextBoxClasses", "TextBoxEvents", "TextBoxFinishedAssignments",
+               "TextBoxFinishedTasks", "TextBoxMinimum", "TextBoxOtherEvents", "TextBoxStudySessions",
+               "TextBoxStudyTime", "TextBoxSuggested", "TextBoxTasks", "TextBoxTimeRemaining",
+               "TextBoxTotalAssignments", "TextBoxTotalTasks", "picLock", "PictureBarWeb"}},
+    }};
+    return runs;
+}
+
+}  // namespace
+
+std::string MainWindow::pidFilePath() const {
+    return joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), std::to_string(state.ProcessID) + ".PID");
+}
+
+void MainWindow::Form_Load() {
+    for (const HelpRun& run : helpRuns()) {
+        int number = run.first;
+        for (const char* control : run.controls) c(control).helpContextId = number++;
+    }
+
+    c("TimerButton").enabled = false;
+    c("Timer1").enabled = false;
+    state.StopwatchRun = state.StopwatchTotal = 0;
+    state.StopwatchStart = Moment{};
+    store.TermsChanged = store.ClassesChanged = store.AssignmentsChanged = store.NotesChanged =
+        store.StudySessionsChanged = store.TasksChanged = store.EventsChanged = kFalse;
+
+    state.RowPitch = 22;
+
+    setOuterSize(9600, 7215);
+    caption = "Quillhollow Homework System";
+    left = (platform.windowing.screenWidthTwips() - width) / 2;
+    top = (platform.windowing.screenHeightTwips() - height) / 2;
+
+    state.MinWindowWidth = width / 15;
+    state.MinWindowHeight = height / 15;
+    minWidth = width;
+    minHeight = height;
+
+    state.CalendarCellHeight = 225;
+    state.CalendarCellWidth = 300;
+    state.Colors = MainWindowColors{};
+
+    colors->BuildColorValues();
+    colors->BuildColorNames();
+
+    state.ButtonRepeatInterval = 300;
+    state.ClickedDate = state.DisplayedDate = platform.clock.today();
+    state.StartDayOfWeek = "Monday";
+    state.GridMargin = 100;
+    state.TopRow = 1;
+
+    bringToFront("picStatusBar");
+
+    // Without its .PID file the run may not go on: a failure here ends it.
+    state.ProcessID = platform.processes.ownProcessId();
+    try {
+        platform.files.createEmpty(pidFilePath());
+    } catch (const FileFailure& failure) {
+        throw UntrappedFailure(std::string("Cannot create the process file: ") + failure.what());
+    }
+
+    if (!SetStorageLocations(store, platform)) {
+        loadEndedRun_ = true;
+        return;
+    }
+    files->LoadTermsAndClasses();
+    files->LoadAssignments();
+    files->LoadTasks();
+    files->LoadEvents();
+
+    state.SortDirection = 1;
+    state.SortColumn = 7;
+    state.PressedRow = 0;
+
+    state.FirstModeSetup = kTrue;
+    SetDefaultViewChoices();
+
+    WindowPlacement placement{int(windowState), left, top, width, height};
+    PreferenceValues preferences{store.CurrentTermName, state.StartDayOfWeek, state.ShowTipsAtStartup,
+                                 state.CurrentTip};
+    ReadPreferences(platform, store, platform.windowing.screenWidthTwips() / 15,
+                    platform.windowing.screenHeightTwips() / 15, placement, preferences);
+    windowState = placement.state == 2 ? WindowState::Maximized : WindowState::Normal;
+    left = placement.left;
+    top = placement.top;
+    if (placement.width != width || placement.height != height) setOuterSize(placement.width, placement.height);
+    state.StartDayOfWeek = preferences.StartDayOfWeek;
+    state.ShowTipsAtStartup = preferences.ShowTipsAtStartup;
+    state.CurrentTip = preferences.CurrentTip;
+
+    ApplyStartDayOfWeek();
+    SelectTerm(preferences.ActiveTerm);
+    SetHomeworkMode();
+    c("TimerTip").enabled = true;
+}
+
+void MainWindow::Form_Unload() {
+    c("Timer1").enabled = false;
+    c("TimerButton").enabled = false;
+    // Closing never stops: a failure of any of these steps passes over the rest of them.
+    try {
+        const std::string pidFile = pidFilePath();
+        if (platform.files.exists(pidFile)) platform.files.remove(pidFile);
+        const bool written =
+            WritePreferences(platform, store, WindowPlacement{int(windowState), left, top, width, height},
+                             PreferenceValues{store.CurrentTermName, state.StartDayOfWeek, state.ShowTipsAtStartup,
+                                              state.CurrentTip});
+        if (written) RotateBackups(store, platform);
+    } catch (const std::exception&) {
+    }
+}
+
+}  // namespace qh

@@ -1,0 +1,54 @@
+// The study stopwatch of Study Sessions mode: its time comes from the clock, not from
+// counting ticks, so a late tick loses nothing.
+#include "common/text.h"
+#include "shell/main_window.h"
+
+namespace qh {
+
+void MainWindow::ButtonStart_Click() {
+    Control& start = c("ButtonStart");
+    if (start.caption == "Start") {
+        start.caption = "Pause";
+        c("ButtonReset").enabled = false;
+        c("LabelTime").foreColor = kBlack;
+        c("Timer1").enabled = true;
+        state.StopwatchStart = platform.clock.now();
+    } else {
+        start.caption = "Start";
+        c("ButtonReset").enabled = true;
+        c("LabelTime").foreColor = rgb(160, 160, 160);
+        c("Timer1").enabled = false;
+        state.StopwatchTotal += double(platform.clock.now().secondsSince(state.StopwatchStart));
+    }
+    focusedControl = "picGrid";
+    UpdateStopwatchLabel();
+}
+
+void MainWindow::ButtonReset_Click() {
+    state.StopwatchSeconds = state.StopwatchMinutes = state.StopwatchHours = 0;
+    state.StopwatchTotal = 0;
+    focusedControl = "picGrid";
+    UpdateStopwatchLabel();
+}
+
+void MainWindow::Timer1_Timer() {
+    state.StopwatchRun = double(platform.clock.now().secondsSince(state.StopwatchStart));
+    const long long total = static_cast<long long>(state.StopwatchTotal + state.StopwatchRun);
+    state.StopwatchHours = total / 3600;
+    const long long rest = total - state.StopwatchHours * 3600;
+    state.StopwatchMinutes = rest / 60;
+    state.StopwatchSeconds = rest - state.StopwatchMinutes * 60;
+    UpdateStopwatchLabel();
+}
+
+void MainWindow::UpdateStopwatchLabel() {
+    const std::string hours = twoDigits(state.StopwatchHours), minutes = twoDigits(state.StopwatchMinutes);
+    std::string shown;
+    if (state.StopwatchShowSeconds)
+        shown = hours + ":" + minutes + ":" + twoDigits(state.StopwatchSeconds);
+    else
+        shown = hours + (state.StopwatchSeconds % 2 == 0 ? ":" : " ") + minutes;
+    c("LabelTime").caption = shown;
+}
+
+}  // namespace qh
