@@ -92,7 +92,13 @@ void Form::click(const std::string& key) {
     }
     switch (control.kind) {
         case ControlKind::CheckBox: control.checked = !control.checked; break;
-        case ControlKind::RadioButton: control.checked = true; break;
+        case ControlKind::RadioButton:
+            // Radio buttons of one container are one choice, as on any window.
+            for (auto& [k, other] : controls_)
+                if (other->kind == ControlKind::RadioButton && other->container == control.container)
+                    other->checked = false;
+            control.checked = true;
+            break;
         default: break;
     }
     fire(key, FormEvent::Click);
