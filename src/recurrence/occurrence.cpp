@@ -6,6 +6,15 @@
 
 namespace qh {
 
+namespace {
+
+constexpr int kCalendarCells = 42;
+constexpr const char* kColorTintBlue = "&HF0E8E2";
+constexpr const char* kColorTintGreen = "&HE2F7E1";
+constexpr const char* kColorTintTan = "&HD7EBFA";
+
+}  // namespace
+
 CalendarDay calendarDay(Date date) {
     CalendarDay day;
     day.date = date;
@@ -88,8 +97,8 @@ bool EventOccursOn(const RecordStore& store, Date date, Int16 index) {
     return occursOn(readEventRule(store, index), calendarDay(date));
 }
 
-DayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::string_view filter) {
-    DayMarks marks;
+EventDayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::string_view filter) {
+    EventDayMarks marks;
     marks.ColorMarkedBack = filter == "All" ? kColorTintBlue : filter == "Classes" ? kColorTintTan : kColorTintGreen;
     const int count = store.EventRecordNos.count();
 

@@ -7,10 +7,11 @@
 // exception, kept on purpose: a "Last" weekday rule whose first date lies on day 22..28
 // while a later such weekday exists in that month. The first date is always a hit here,
 // but a walk steps straight to the month's last such weekday and never lists it.
+#include <array>
+#include <string>
 #include <string_view>
 
 #include "common/int16.h"
-#include "recurrence/day_marks.h"
 #include "recurrence/event_rule.h"
 #include "record_store/columns.h"
 
@@ -36,10 +37,17 @@ bool occursOn(const EventRule& rule, const CalendarDay& day);
 // EventHit of the Event at row `index` (1-based) for `date`.
 bool EventOccursOn(const RecordStore& store, Date date, Int16 index);
 
+// The 42 cells of the month calendar in Events mode: cell 0 is the first cell, cell d the
+// cell d days later; `ColorMarkedBack` is the tint of a marked cell (a colour text).
+struct EventDayMarks {
+    std::array<bool, 42> CellMarked{};
+    std::string ColorMarkedBack;
+};
+
 // The calendar marks in Events mode. `firstCell` is the date of cell 0, `filter` the text
 // of `ComboList` ("All", "Classes", "Other Events"). The tint is blue for "All", tan for
 // "Classes" and green for anything else. One-off events mark their own day; then every
 // recurring event is tested against each cell not yet marked, in record order.
-DayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::string_view filter);
+EventDayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::string_view filter);
 
 }  // namespace qh
