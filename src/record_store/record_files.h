@@ -17,8 +17,13 @@
 //
 // Terms.txt and Classes.txt are always replaced whole, atomically: a failed save leaves
 // the file as it was before the save.
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "platform/platform.h"
 #include "record_store/columns.h"
+#include "record_store/record_layout.h"
 
 namespace qh {
 
@@ -68,8 +73,16 @@ private:
     RecordStore& store_;
     Platform& platform_;
 
+    using Values = std::vector<std::string>;
+
     bool enterDataDirectory();
     void reportFileError(const std::string& fileName, const char* action);
+    // Opens the file, resets `next` to 1 and hands each whole record to `take`, advancing
+    // `next` past it. Throws on any failure; the caller reports it.
+    void readRecords(const RecordLayout& layout, Int16& next, const std::function<void(Values&)>& take);
+    // The whole of a one-record save: directory step, counter rules, write, flag.
+    bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
+                 const std::function<Values()>& values);
 };
 
 }  // namespace qh

@@ -1,0 +1,113 @@
+// Assignments.txt, Notes.txt and StudySessions.txt.
+#include <unordered_map>
+
+#include "common/day_number.h"
+#include "common/failure.h"
+#include "record_store/record_files.h"
+#include "record_store/record_io.h"
+#include "record_store/storage_locations.h"
+
+namespace qh {
+namespace {
+
+// How many times each key occurs in a column, keys read as 16-bit numbers the way links
+// are compared. Taking a record once per matching row of a column scanned row by row is
+// the same as taking it as many times as its link occurs here, without the scan.
+using RowCounts = std::unordered_map<Int16, int>;
+
+}  // namespace
+
+bool RecordFiles::LoadAssignments() {
+    if (!enterDataDirectory()) return false;
+    RecordStore& s = store_;
+    std::string current = "Assignments.txt";
+    const bool read = runFileStep([&] {
+        // Live classes of the active term, by ID.
+        RowCounts classRows;
+        for (int i = 1; i <= s.ClassIDs.count(); ++i)
+            if (int16OrZero(s.ClassTermLinks(i)) == s.CurrentTermID && s.ClassNames(i) != kDeletedRecord)
+                ++classRows[int16OrZero(s.ClassIDs(i))];
+
+        TextColumn* const assignments[] = {
+            &s.AssignmentRecordNos, &s.AssignmentIDs,          &s.AssignmentClassLinks, &s.AssignmentDates,
+            &s.AssignmentTypes,     &s.AssignmentDifficulties, &s.AssignmentEstTimes,   &s.AssignmentDescriptions,
+            &s.AssignmentDones,     &s.AssignmentGrades,       &s.AssignmentWeights,    &s.AssignmentReminders};
+        readRecords(kAssignmentsLayout, s.NextAssignmentRecord, [&](Values& v) {
+            if (v[7] == kDeletedRecord) return;
+            const auto found = classRows.find(int16OrZero(v[2]));
+            if (found == classRows.end()) return;
+            for (int n = 1; n < found->second; ++n) {
+                Values copy = v;
+                appendRow(assignments, copy);
+            }
+            appendRow(assignments, v);
+        });
+
+        current = "Notes.txt";
+        TextColumn* const notes[] = {&s.NoteRecordNos, &s.NoteLinkIDs};
+        readRecords(kNotesLayout, s.NextNoteRecord, [&](Values& v) {
+            if (int16OrZero(v[1]) > 0) appendRow(notes, v);
+        });
+
+        current = "StudySessions.txt";
+        RowCounts assignmentRows;
+        for (const std::string& id : s.AssignmentIDs) ++assignmentRows[int16OrZero(id)];
+        TextColumn* const sessions[] = {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
+                                        &s.StudySessionDates};
+        readRecords(kStudySessionsLayout, s.NextStudySessionRecord, [&](Values& v) {
+            if (v[1] == "0") return;
+            const auto found = assignmentRows.find(int16OrZero(v[1]));
+            if (found == assignmentRows.end()) return;
+            for (int n = 1; n < found->second; ++n) {
+                Values copy = v;
+                appendRow(sessions, copy);
+            }
+            appendRow(sessions, v);
+        });
+    });
+    if (!read) reportFileError(current, "reading");
+    return read;
+}
+
+bool RecordFiles::SaveAssignment(Int16 RecordNumber) {
+    return saveOne(kAssignmentsLayout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber, [&] {
+        const AssignmentBuffer& a = store_.AssignmentRecord;
+        return Values{a.RecordNo, a.ID,          a.ClassLink, dateText(a.DateValue), a.Type,   a.Difficulty,
+                      a.EstTime,  a.Description, a.Done,      a.Grade,               a.Weight, a.Reminder};
+    });
+}
+
+bool RecordFiles::SaveNote(Int16 RecordNumber) {
+    return saveOne(kNotesLayout, store_.NextNoteRecord, store_.NotesChanged, RecordNumber, [&] {
+        const NoteBuffer& n = store_.NoteRecord;
+        return Values{n.RecordNo, n.LinkID, n.Text};
+    });
+}
+
+bool RecordFiles::SaveStudySession(Int16 RecordNumber, int Row) {
+    return saveOne(kStudySessionsLayout, store_.NextStudySessionRecord, store_.StudySessionsChanged, RecordNumber,
+                   [&] {
+                       const RecordStore& s = store_;
+                       return Values{s.EditStudySessionRecordNos(Row), s.EditStudySessionLinkIDs(Row),
+                                     s.EditStudySessionLengths(Row), s.EditStudySessionDates(Row)};
+                   });
+}
+
+bool RecordFiles::ReadNote(Int16 RecordNumber) {
+    if (!enterDataDirectory()) return false;
+    const bool read = runFileStep([&] {
+        const auto file = platform_.files.openRecords(dataFilePath(store_, "Notes.txt"), kNotesLayout.length);
+        std::string bytes;
+        NoteBuffer& note = store_.NoteRecord;
+        if (file->read(RecordNumber, bytes)) {
+            Values v = parseRecord(kNotesLayout, bytes);
+            note = {std::move(v[0]), std::move(v[1]), std::move(v[2])};
+        } else {
+            note = {};
+        }
+    });
+    if (!read) reportFileError("Notes.txt", "reading");
+    return read;
+}
+
+}  // namespace qh

@@ -1,0 +1,106 @@
+// The bytes each save puts on the drive, spelt out field by field from the record tables.
+#include <gtest/gtest.h>
+
+#include "common/day_number.h"
+#include "store_fixture.h"
+
+namespace qh {
+namespace {
+
+TEST(RecordBytes, TermsAndClassesAreRewrittenWholeWithSpacesInTheReservedFields) {
+    StoreOnDrive d;
+    ASSERT_TRUE(d.files.LoadTermsAndClasses());
+    RecordStore& s = d.store;
+    s.TermIDs = {"1", "2"};
+    s.TermNames = {"Fall 2026", "Spring \xC3\xA9t\xC3\xA9"};
+    s.TermStarts = {"2026/08/31", "2027.1.5"};  // any date form: written afresh
+    s.TermEnds = {"2026-12-18", "2027/05/14"};
+    s.ClassIDs = {"7"};
+    s.ClassTermLinks = {"1"};
+    s.ClassNames = {"Biology"};
+    s.ClassForeColors = {"Black"};
+    s.ClassBackColors = {"MistyRose"};
+    s.ClassNotes = {std::string(600, 'n')};
+    ASSERT_TRUE(d.files.SaveTermsAndClasses());
+
+    const std::string terms = field("1", 5) + field("Fall 2026", 35) + field("2026/08/31", 15) +
+                              field("2026/12/18", 15) + spaces(15) + spaces(15) + field("2", 5) +
+                              field("Spring \xE9t\xE9", 35) + field("2027/01/05", 15) + field("2027/05/14", 15) +
+                              spaces(15) + spaces(15);
+    EXPECT_EQ(d.bytesOf("Terms.txt"), terms);
+    const std::string classes = field("7", 5) + field("1", 5) + field("Biology", 25) + field("Black", 20) +
+                                field("MistyRose", 20) + std::string(500, 'n') + spaces(20) + spaces(20);
+    EXPECT_EQ(d.bytesOf("Classes.txt"), classes);
+    EXPECT_EQ(s.NextTermRecord, 3);
+    EXPECT_EQ(s.NextClassRecord, 2);
+    EXPECT_EQ(s.TermsChanged, kTrue);
+    EXPECT_EQ(s.ClassesChanged, kTrue);
+}
+
+TEST(RecordBytes, AssignmentNoteAndSessionRecordsHoldNulsInTheReservedFields) {
+    StoreOnDrive d;
+    RecordStore& s = d.store;
+    s.AssignmentRecord = {"1", "1", "7", dateFromYmd(2026, 11, 30), "Homework", "Hard", "01 : 30",
+                          "Read chapter 4", "False", " ", "100", "1 Day Before"};
+    ASSERT_TRUE(d.files.SaveAssignment(0));
+    EXPECT_EQ(d.bytesOf("Assignments.txt"),
+              field("1", 5) + field("1", 5) + field("7", 5) + field("2026/11/30", 15) + field("Homework", 10) +
+                  field("Hard", 10) + field("01 : 30", 7) + field("Read chapter 4", 50) + field("False", 5) +
+                  field(" ", 5) + field("100", 3) + field("1 Day Before", 20) + nuls(20));
+
+    s.NoteRecord = {"1", "1", std::string(1500, 'x')};
+    ASSERT_TRUE(d.files.SaveNote(0));
+    EXPECT_EQ(d.bytesOf("Notes.txt"), field("1", 5) + field("1", 5) + nuls(20) + nuls(20) + std::string(1450, 'x'));
+
+    s.EditStudySessionRecordNos = {"9", "1"};
+    s.EditStudySessionLinkIDs = {"9", "1"};
+    s.EditStudySessionLengths = {"9", "00 : 45"};
+    s.EditStudySessionDates = {"2026/01/01", "2026-11-21"};
+    ASSERT_TRUE(d.files.SaveStudySession(0, 2));
+    EXPECT_EQ(d.bytesOf("StudySessions.txt"),
+              field("1", 5) + field("1", 5) + field("00 : 45", 10) + field("2026/11/21", 15) + nuls(10) + nuls(10));
+    EXPECT_EQ(s.NextAssignmentRecord, 2);
+    EXPECT_EQ(s.NextNoteRecord, 2);
+    EXPECT_EQ(s.NextStudySessionRecord, 2);
+}
+
+TEST(RecordBytes, TaskAndEventRecordsKeepTheirNotesInTheRecord) {
+    StoreOnDrive d;
+    RecordStore& s = d.store;
+    s.TaskRecord = {"1", "1", "2026/12/01", "Buy a calculator", "True", "Errand", "High", "False",
+                    std::string(900, 'a'), "On Date"};
+    ASSERT_TRUE(d.files.SaveTask(0));
+    EXPECT_EQ(d.bytesOf("Tasks.txt"), field("1", 5) + field("1", 5) + field("Buy a calculator", 60) +
+                                          field("True", 5) + field("2026/12/01", 15) + field("Errand", 10) +
+                                          field("High", 10) + field("False", 5) + std::string(845, 'a') +
+                                          field("On Date", 20) + nuls(20));
+
+    s.EventRecord = {"1",     "1",     "2026.12.24", "Holiday party", "Social", "7:00 PM", "Year", "True",
+                     "First", "Day",   "TFFFFFT",    "False",         "2027-1-31", std::string(800, 'e'),
+                     "None"};
+    ASSERT_TRUE(d.files.SaveEvent(0));
+    EXPECT_EQ(d.bytesOf("Events.txt"),
+              field("1", 5) + field("1", 5) + field("2026/12/24", 15) + field("Holiday party", 60) +
+                  field("Social", 10) + field("7:00 PM", 10) + field("Year", 5) + field("True", 5) +
+                  field("First", 10) + field("Day", 10) + field("TFFFFFT", 10) + field("False", 5) +
+                  field("2027/01/31", 15) + std::string(795, 'e') + field("None", 20) + nuls(20));
+    EXPECT_EQ(s.TasksChanged, kTrue);
+    EXPECT_EQ(s.EventsChanged, kTrue);
+}
+
+TEST(RecordBytes, TextIsCutToItsFieldAfterConversionToTheCodePage) {
+    StoreOnDrive d;
+    RecordStore& s = d.store;
+    // 60 characters of two UTF-8 bytes each fill the 60-byte Description exactly.
+    std::string description;
+    for (int i = 0; i < 61; ++i) description += "\xC3\xBC";
+    s.TaskRecord = {"1", "1", "2026/12/01", description + "\xE4\xB8\xAD", "False", "", "", "False",
+                    "\xE4\xB8\xAD note", ""};
+    ASSERT_TRUE(d.files.SaveTask(0));
+    const std::string bytes = d.bytesOf("Tasks.txt");
+    EXPECT_EQ(bytes.substr(10, 60), std::string(60, '\xFC'));
+    EXPECT_EQ(bytes.substr(115, 6), "? note");
+}
+
+}  // namespace
+}  // namespace qh
