@@ -1,0 +1,183 @@
+#include "recurrence/expansion.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "recurrence/event_records.h"
+#include "recurrence/occurrence.h"
+
+namespace qh {
+namespace {
+
+using test::addEvent;
+using test::EventFields;
+
+Date ymd(int y, int m, int d) { return dateFromYmd(y, m, d); }
+
+// The dates of the rows, as texts, in row order: a failure reads as a list.
+std::vector<std::string> rowDates(const EventRows& rows) {
+    std::vector<std::string> texts;
+    for (Date d : rows.ListEventDates) texts.push_back(dateText(d));
+    return texts;
+}
+
+using Texts = std::vector<std::string>;
+
+TEST(EventRangeEnd, BothEndsCountSoAWeekIsEightDates) {
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 11, 22), "Week"), ymd(2026, 11, 29));
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 1, 15), "Month"), ymd(2026, 2, 15));
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 1, 31), "Month"), ymd(2026, 2, 28));
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 3, 3), "Year"), ymd(2027, 3, 2));
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 12, 31), "Year"), ymd(2027, 12, 30));
+    EXPECT_EQ(EventRangeEnd(ymd(2026, 3, 3), "Decade"), ymd(2027, 3, 2));
+}
+
+TEST(ExpandEvents, OneOffEventsAtTheRangeEnds) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/11/21"});  // the day before a Sunday start
+    addEvent(store, {.date = "2026/11/22"});
+    addEvent(store, {.date = "2026/11/29"});  // the Sunday a week on
+    addEvent(store, {.date = "2026/11/30"});
+    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 11, 22), "Week", "All")), (Texts{"2026/11/22", "2026/11/29"}));
+
+    RecordStore year;
+    addEvent(year, {.date = "2027/03/02"});
+    addEvent(year, {.date = "2027/03/03"});
+    addEvent(year, {.date = "2026/03/03"});
+    const EventRows rows = ExpandEvents(year, ymd(2026, 3, 3), "Year", "All");
+    EXPECT_EQ(rowDates(rows), (Texts{"2027/03/02", "2026/03/03"}));
+    EXPECT_EQ(rows.ListEventRows, (Column<Int16>{1, 3}));
+    EXPECT_EQ(rows.EventTotal, 2);
+}
+
+TEST(ExpandEvents, MonthlyAndYearlyStepsStartFromTheFirstDate) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/01/31", .recurrence = "Month"});
+    addEvent(store, {.date = "2024/02/29", .recurrence = "Year"});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 1, 1), "Year", "All");
+    EXPECT_EQ(rowDates(rows), (Texts{"2026/01/31", "2026/02/28", "2026/03/31", "2026/04/30", "2026/05/31",
+                                     "2026/06/30", "2026/07/31", "2026/08/31", "2026/09/30", "2026/10/31",
+                                     "2026/11/30", "2026/12/31", "2026/02/28"}));
+}
+
+TEST(ExpandEvents, OrdinalRulesFindTheirDayInEveryMonth) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/01/26", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+                     .repeatDay = "Monday"});
+    addEvent(store, {.date = "2026/01/22", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Fourth",
+                     .repeatDay = "Thursday"});
+    addEvent(store, {.date = "2026/01/31", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+                     .repeatDay = "Day"});
+    addEvent(store, {.date = "2026/01/02", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Second",
+                     .repeatDay = "Day"});
+    addEvent(store, {.date = "2026/03/12", .recurrence = "Year", .sameDate = "False", .repeatNumber = "Second",
+                     .repeatDay = "Thursday"});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 2, 1), "Month", "All");
+    EXPECT_EQ(rowDates(rows), (Texts{"2026/02/23", "2026/02/26", "2026/02/28", "2026/02/02"}));
+    const EventRows march = ExpandEvents(store, ymd(2027, 3, 1), "Month", "All");
+    EXPECT_EQ(rowDates(march), (Texts{"2027/03/29", "2027/03/25", "2027/03/31", "2027/03/02", "2027/03/11"}));
+}
+
+TEST(ExpandEvents, WeeklyRowsComeWeekdayByWeekday) {
+    RecordStore store;
+    // Monday and Wednesday ticked, first on Tuesday 17 November 2026.
+    addEvent(store, {.date = "2026/11/17", .recurrence = "Day", .repeatDaily = "TFTFFFF"});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 11, 16), "Month", "All");
+    // The walk starts on the first date, a Tuesday, so Wednesdays come before Mondays.
+    EXPECT_EQ(rowDates(rows), (Texts{"2026/11/17", "2026/11/18", "2026/11/25", "2026/12/02", "2026/12/09",
+                                     "2026/12/16", "2026/11/23", "2026/11/30", "2026/12/07", "2026/12/14"}));
+    // A range that starts after the first date doesn't list it again.
+    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 11, 18), "Week", "All")),
+              (Texts{"2026/11/18", "2026/11/25", "2026/11/23"}));
+}
+
+TEST(ExpandEvents, AnEndDateInsideTheRangeIsTheLastRow) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/01/15", .recurrence = "Month", .ends = "True", .endDate = "2026/04/15"});
+    addEvent(store, {.date = "2026/01/05", .recurrence = "Day", .repeatDaily = "TFFFFFF", .ends = "True",
+                     .endDate = "2026/01/19"});
+    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 1, 1), "Year", "All")),
+              (Texts{"2026/01/15", "2026/02/15", "2026/03/15", "2026/04/15", "2026/01/05", "2026/01/12",
+                     "2026/01/19"}));
+}
+
+TEST(ExpandEvents, EventsOutsideTheRangeLeaveNoRowAndNoCount) {
+    RecordStore store;
+    addEvent(store, {.date = "2025/01/15", .recurrence = "Month", .ends = "True", .endDate = "2025/12/31"});
+    addEvent(store, {.date = "2027/01/15", .recurrence = "Month", .type = "Class"});
+    addEvent(store, {.date = "2026/01/15", .recurrence = "Day", .repeatDaily = "TTTTTTT",
+                     .description = "DELETED RECORD"});
+    addEvent(store, {.date = "2026/01/15", .description = "DELETED RECORD"});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 1, 1), "Year", "All");
+    EXPECT_TRUE(rows.ListEventRows.empty());
+    EXPECT_EQ(rows.EventTotal, 0);
+    EXPECT_EQ(rows.EventClassCount, 0);
+    EXPECT_EQ(rows.EventOtherCount, 0);
+}
+
+TEST(ExpandEvents, CountersCountBeforeTheFilter) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/01/05", .recurrence = "Day", .repeatDaily = "TFFFFFF", .type = "Class"});
+    addEvent(store, {.date = "2026/01/10", .type = "Birthday"});
+    addEvent(store, {.date = "2026/01/11", .type = "Work"});
+    const EventRows classes = ExpandEvents(store, ymd(2026, 1, 1), "Month", "Classes");
+    // Mondays 5, 12, 19 and 26 January; 2 February lies past the month's range.
+    EXPECT_EQ(classes.ListEventRows, (Column<Int16>{1, 1, 1, 1}));
+    EXPECT_EQ(classes.EventClassCount, 4);
+    EXPECT_EQ(classes.EventOtherCount, 2);
+    EXPECT_EQ(classes.EventTotal, 6);
+
+    const EventRows others = ExpandEvents(store, ymd(2026, 1, 1), "Month", "Other Events");
+    EXPECT_EQ(others.ListEventRows, (Column<Int16>{2, 3}));
+    EXPECT_EQ(others.ListEventForeColors, (TextColumn{"Black", "Black"}));
+    EXPECT_EQ(others.ListEventBackColors, (TextColumn{"Gold", "PaleTurquoise"}));
+    EXPECT_EQ(others.EventClassCount, 4);
+    EXPECT_EQ(others.EventOtherCount, 2);
+
+    const EventRows none = ExpandEvents(store, ymd(2026, 1, 1), "Month", "Everything");
+    EXPECT_TRUE(none.ListEventRows.empty());
+    EXPECT_EQ(none.EventTotal, 6);
+}
+
+TEST(ExpandEvents, RowsTakeTheColourOfTheirType) {
+    RecordStore store;
+    const std::vector<std::pair<std::string, std::string>> colours = {
+        {"Birthday", "Gold"},         {"Class", "LightYellow"},  {"Holiday", "LightPink"},
+        {"School", "NavajoWhite"},    {"Home", "MistyRose"},     {"Personal", "Lavender"},
+        {"Friends", "PaleGoldenrod"}, {"Family", "Honeydew"},    {"Recreation", "PaleGreen"},
+        {"Work", "PaleTurquoise"},    {"None", "White"},         {"Project", "White"}};
+    for (const auto& [type, colour] : colours) addEvent(store, {.date = "2026/01/02", .type = type});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 1, 1), "Week", "All");
+    ASSERT_EQ(rows.ListEventBackColors.count(), int(colours.size()));
+    for (int i = 1; i <= rows.ListEventBackColors.count(); ++i) {
+        EXPECT_EQ(rows.ListEventBackColors(i), colours[std::size_t(i - 1)].second) << colours[std::size_t(i - 1)].first;
+        EXPECT_EQ(rows.ListEventForeColors(i), "Black");
+    }
+}
+
+TEST(ExpandEvents, AFirstDateCenturiesBackStillLandsOnTheRightDays) {
+    RecordStore store;
+    addEvent(store, {.date = "1700/01/31", .recurrence = "Month"});
+    addEvent(store, {.date = "1704/02/29", .recurrence = "Year"});
+    addEvent(store, {.date = "1700/03/01", .recurrence = "Month", .sameDate = "False", .repeatNumber = "First",
+                     .repeatDay = "Monday"});
+    const EventRows rows = ExpandEvents(store, ymd(2026, 2, 10), "Month", "All");
+    EXPECT_EQ(rowDates(rows), (Texts{"2026/02/28", "2026/02/28", "2026/03/02"}));
+}
+
+// The one corner where the single-date test and the walks part: a "Last" weekday rule
+// first on day 22 to 28 of a month that holds a later such weekday. The first date is a
+// hit of the test, but the walk steps to the month's last such weekday.
+TEST(ExpandEvents, LastWeekdayFirstOnAnEarlierSuchWeekdayIsNotListed) {
+    RecordStore store;
+    const int row = addEvent(store, {.date = "2022/08/22", .recurrence = "Month", .sameDate = "False",
+                                     .repeatNumber = "Last", .repeatDay = "Monday"});
+    EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 22), Int16(row)));
+    EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 29), Int16(row)));
+    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2022, 8, 1), "Month", "All")), (Texts{"2022/08/29"}));
+}
+
+}  // namespace
+}  // namespace qh
