@@ -1,0 +1,165 @@
+#include "recurrence/reminders.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "recurrence/event_records.h"
+
+namespace qh {
+namespace {
+
+using test::addAssignment;
+using test::addClass;
+using test::addEvent;
+using test::addTask;
+
+Date ymd(int y, int m, int d) { return dateFromYmd(y, m, d); }
+
+// One line per row: kind, record, days and date, so a failure reads as a list.
+std::vector<std::string> rowLines(const ReminderRows& rows) {
+    std::vector<std::string> lines;
+    for (int i = 1; i <= rows.ReminderRecords.count(); ++i)
+        lines.push_back(rows.ReminderKinds(i) + " " + std::to_string(rows.ReminderRecords(i)) + " " +
+                        std::to_string(rows.ReminderDays(i)) + " " + dateText(rows.ReminderDates(i)));
+    return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(ReminderOffset, IsTheNegatedNumberOfTheFirstTwoCharacters) {
+    EXPECT_EQ(ReminderOffset("1 Day"), -1);
+    EXPECT_EQ(ReminderOffset("7 Days"), -7);
+    EXPECT_EQ(ReminderOffset("30 Days"), -30);
+    EXPECT_EQ(ReminderOffset("None"), 0);
+    EXPECT_EQ(ReminderOffset(""), 0);
+    EXPECT_EQ(ReminderOffset("123 Days"), -12);
+}
+
+TEST(EventReminders, ThreeDaysAheadOfTheTenth) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/03/10", .reminder = "3 Days"});
+    for (int day = 6; day <= 11; ++day) {
+        const ReminderRows rows = GatherReminders(store, ymd(2026, 3, day), "All");
+        if (day < 7 || day > 10) {
+            EXPECT_TRUE(rows.ReminderRecords.empty()) << day;
+            EXPECT_EQ(rows.EventReminderCount, 0) << day;
+        } else {
+            EXPECT_EQ(rowLines(rows), (Lines{"Event 1 " + std::to_string(10 - day) + " 2026/03/10"})) << day;
+            EXPECT_EQ(rows.EventReminderCount, 1);
+        }
+    }
+}
+
+TEST(EventReminders, WithoutAdvanceNoticeOnlyOnTheDayItself) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/03/02", .recurrence = "Month", .reminder = "None"});
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 4, 2), "All")), (Lines{"Event 1 0 2026/04/02"}));
+    EXPECT_TRUE(GatherReminders(store, ymd(2026, 4, 1), "All").ReminderRecords.empty());
+    EXPECT_TRUE(GatherReminders(store, ymd(2026, 4, 3), "All").ReminderRecords.empty());
+}
+
+TEST(EventReminders, WeeklyMondaysSevenDaysAheadShowTwiceOnAMonday) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/11/16", .recurrence = "Day", .repeatDaily = "TFFFFFF", .reminder = "7 Days"});
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 23), "All")),
+              (Lines{"Event 1 0 2026/11/23", "Event 1 7 2026/11/30"}));
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 24), "All")), (Lines{"Event 1 6 2026/11/30"}));
+    // Before the first date, only what lies within the advance notice of it.
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 10), "All")), (Lines{"Event 1 6 2026/11/16"}));
+}
+
+TEST(EventReminders, AnEndDateCutsTheOccurrencesAfterIt) {
+    RecordStore store;
+    addEvent(store, {.date = "2026/03/01", .recurrence = "Day", .repeatDaily = "TTTTTTT", .ends = "True",
+                     .endDate = "2026/03/10", .reminder = "3 Days"});
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 3, 9), "All")),
+              (Lines{"Event 1 0 2026/03/09", "Event 1 1 2026/03/10"}));
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 3, 10), "All")), (Lines{"Event 1 0 2026/03/10"}));
+    EXPECT_TRUE(GatherReminders(store, ymd(2026, 3, 11), "All").ReminderRecords.empty());
+
+    RecordStore monthly;
+    addEvent(monthly, {.date = "2026/01/10", .recurrence = "Month", .ends = "True", .endDate = "2026/03/10",
+                       .reminder = "30 Days"});
+    EXPECT_EQ(rowLines(GatherReminders(monthly, ymd(2026, 2, 15), "All")), (Lines{"Event 1 23 2026/03/10"}));
+}
+
+TEST(EventReminders, WeeklyFirstDateOnAnUntickedDayIsRemindedOnce) {
+    RecordStore store;
+    // First on Friday 2 January 2026, only Monday ticked.
+    addEvent(store, {.date = "2026/01/02", .recurrence = "Day", .repeatDaily = "TFFFFFF", .reminder = "5 Days"});
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 1, 1), "All")),
+              (Lines{"Event 1 1 2026/01/02", "Event 1 4 2026/01/05"}));
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 1, 3), "All")), (Lines{"Event 1 2 2026/01/05"}));
+}
+
+TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
+    RecordStore store;
+    addTask(store, {.date = "2026/05/10", .reminder = "None"});
+    addTask(store, {.date = "2026/05/12", .type = "Project", .reminder = "2 Days"});
+    addTask(store, {.date = "2026/05/10", .dateExists = "False"});
+    addTask(store, {.date = "2026/05/10", .done = "True"});
+    addTask(store, {.date = "2026/05/10", .description = "DELETED RECORD"});
+    EXPECT_TRUE(GatherReminders(store, ymd(2026, 5, 9), "All").ReminderRecords.empty());
+    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 5, 10), "All")),
+              (Lines{"Task 1 0 2026/05/10", "Task 2 2 2026/05/12"}));
+    const ReminderRows later = GatherReminders(store, ymd(2026, 6, 1), "All");
+    EXPECT_EQ(rowLines(later), (Lines{"Task 1 -22 2026/05/10", "Task 2 -20 2026/05/12"}));
+    EXPECT_EQ(later.ReminderClasses, (TextColumn{"", ""}));
+    EXPECT_EQ(later.ReminderTypes, (TextColumn{"None", "Project"}));
+    EXPECT_EQ(later.ReminderForeColors, (TextColumn{"Black", "Black"}));
+    EXPECT_EQ(later.ReminderBackColors, (TextColumn{"White", "Gold"}));
+    EXPECT_EQ(later.TaskReminderCount, 2);
+}
+
+TEST(HomeworkReminders, FromTheAdvanceNoticeOnWithTheClassColours) {
+    RecordStore store;
+    addClass(store, "3", "History", "Black", "MistyRose");
+    addClass(store, "07", "Chemistry", "Navy", "Honeydew");
+    addAssignment(store, {.date = "2026/05/15", .classLink = "7", .reminder = "7 Days", .description = "Lab report"});
+    addAssignment(store, {.date = "2026/05/18", .classLink = "3", .reminder = "7 Days"});
+    addAssignment(store, {.date = "2026/05/12", .classLink = "3", .done = "True"});
+    addAssignment(store, {.date = "2026/05/12", .classLink = "3", .description = "DELETED RECORD"});
+    const ReminderRows rows = GatherReminders(store, ymd(2026, 5, 10), "All");
+    EXPECT_EQ(rowLines(rows), (Lines{"Homework 1 5 2026/05/15"}));
+    EXPECT_EQ(rows.ReminderClasses, (TextColumn{"Chemistry"}));
+    EXPECT_EQ(rows.ReminderForeColors, (TextColumn{"Navy"}));
+    EXPECT_EQ(rows.ReminderBackColors, (TextColumn{"Honeydew"}));
+    EXPECT_EQ(rows.ReminderTypes, (TextColumn{"Homework"}));
+    EXPECT_EQ(rows.ReminderDescriptions, (TextColumn{"Lab report"}));
+    EXPECT_EQ(rows.HomeworkReminderCount, 1);
+    EXPECT_EQ(GatherReminders(store, ymd(2026, 5, 11), "All").HomeworkReminderCount, 2);
+}
+
+TEST(GatherReminders, TasksThenHomeworkThenEventsAndCountsBeforeTheFilter) {
+    RecordStore store;
+    addClass(store, "1", "Math", "Black", "White");
+    addEvent(store, {.date = "2026/05/10", .type = "Birthday"});
+    addAssignment(store, {.date = "2026/05/10"});
+    addTask(store, {.date = "2026/05/10", .type = "Work"});
+    const Date day = ymd(2026, 5, 10);
+    const ReminderRows all = GatherReminders(store, day, "All");
+    EXPECT_EQ(rowLines(all), (Lines{"Task 1 0 2026/05/10", "Homework 1 0 2026/05/10", "Event 1 0 2026/05/10"}));
+    EXPECT_EQ(all.ReminderBackColors, (TextColumn{"PaleTurquoise", "White", "Gold"}));
+
+    const struct {
+        const char* filter;
+        Lines lines;
+    } filters[] = {{"Tasks", {"Task 1 0 2026/05/10"}},
+                   {"Homework", {"Homework 1 0 2026/05/10"}},
+                   {"Events", {"Event 1 0 2026/05/10"}},
+                   {"Everything", {}}};
+    for (const auto& f : filters) {
+        const ReminderRows rows = GatherReminders(store, day, f.filter);
+        EXPECT_EQ(rowLines(rows), f.lines) << f.filter;
+        EXPECT_EQ(rows.ReminderClasses.count(), rows.ReminderRecords.count()) << f.filter;
+        EXPECT_EQ(rows.ReminderBackColors.count(), rows.ReminderRecords.count()) << f.filter;
+        EXPECT_EQ(rows.TaskReminderCount, 1) << f.filter;
+        EXPECT_EQ(rows.HomeworkReminderCount, 1) << f.filter;
+        EXPECT_EQ(rows.EventReminderCount, 1) << f.filter;
+    }
+}
+
+}  // namespace
+}  // namespace qh
