@@ -1,6 +1,7 @@
 #pragma once
 // A record store on a fresh fake drive with its storage locations set, and helpers that
 // spell out record bytes field by field.
+#include <ostream>
 #include <string>
 
 #include "record_store/columns.h"
@@ -29,6 +30,13 @@ inline std::string field(const std::string& bytes, std::size_t width) {
     return out;
 }
 inline std::string nuls(std::size_t width) { return std::string(width, '\0'); }
+// Columns print as their rows when a comparison fails.
+inline void PrintTo(const TextColumn& column, std::ostream* out) {
+    *out << "{";
+    for (const std::string& value : column) *out << " \"" << value << "\"";
+    *out << " }";
+}
+
 inline std::string spaces(std::size_t width) { return std::string(width, ' '); }
 
 }  // namespace qh
