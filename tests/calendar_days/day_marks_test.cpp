@@ -1,0 +1,77 @@
+#include "calendar_days/day_marks.h"
+
+#include <gtest/gtest.h>
+
+namespace qh {
+namespace {
+
+const Date kFirstCell = dateFromYmd(2026, 10, 25);
+
+void addAssignment(RecordStore& store, Date date, bool done, const std::string& description = "Essay") {
+    store.AssignmentRecordNos.append(std::to_string(store.AssignmentRecordNos.count() + 1));
+    store.AssignmentDates.append(dateText(date));
+    store.AssignmentDones.append(done ? "True" : "False");
+    store.AssignmentDescriptions.append(description);
+}
+
+std::string markedCells(const DayMarks& marks) {
+    std::string cells;
+    for (int i = 0; i < 42; ++i)
+        if (marks.marked[std::size_t(i)]) cells += std::to_string(i) + " ";
+    return cells;
+}
+
+TEST(DayMarks, MarkTheFirstAndLastCellButNothingJustOutside) {
+    RecordStore store;
+    const MainWindowColors colors;
+    for (Date d : {kFirstCell - 1, kFirstCell, kFirstCell + 41, kFirstCell + 42, kFirstCell + 41})
+        addAssignment(store, d, false);
+    const DayMarks marks = MarkHomeworkDays(store, kFirstCell, "All", colors);
+    EXPECT_EQ(markedCells(marks), "0 41 ");
+    EXPECT_EQ(marks.markedBack, colors.TintBlue);
+}
+
+TEST(DayMarks, HomeworkFiltersByDoneAndSkipsTombstones) {
+    RecordStore store;
+    const MainWindowColors colors;
+    addAssignment(store, kFirstCell + 3, true);
+    addAssignment(store, kFirstCell + 3, false);
+    addAssignment(store, kFirstCell + 5, false);
+    addAssignment(store, kFirstCell + 7, true, "DELETED RECORD");
+    EXPECT_EQ(markedCells(MarkHomeworkDays(store, kFirstCell, "Done", colors)), "3 ");
+    EXPECT_EQ(markedCells(MarkHomeworkDays(store, kFirstCell, "Not Done", colors)), "3 5 ");
+    const DayMarks other = MarkHomeworkDays(store, kFirstCell, "Someday", colors);
+    EXPECT_EQ(markedCells(other), "");
+    EXPECT_EQ(other.markedBack, colors.TintPink);
+    EXPECT_EQ(MarkHomeworkDays(store, kFirstCell, "Done", colors).markedBack, colors.TintGreen);
+}
+
+TEST(DayMarks, DeletedSessionsAndUndatedTasksMarkNothing) {
+    RecordStore store;
+    const MainWindowColors colors;
+    store.StudySessionRecordNos = {"1", "2"};
+    store.StudySessionLinkIDs = {"-1", "4"};
+    store.StudySessionDates = {dateText(kFirstCell + 1), dateText(kFirstCell + 2)};
+    EXPECT_EQ(markedCells(MarkStudySessionDays(store, kFirstCell, colors)), "2 ");
+
+    store.TaskRecordNos = {"1", "2", "3"};
+    store.TaskDateExists = {"False", "True", "True"};
+    store.TaskDates = {dateText(kFirstCell + 4), dateText(kFirstCell + 6), dateText(kFirstCell + 8)};
+    store.TaskDescriptions = {"Undated", "Dated", "DELETED RECORD"};
+    store.TaskDones = {"False", "False", "False"};
+    EXPECT_EQ(markedCells(MarkTaskDays(store, kFirstCell, "All", colors)), "6 ");
+}
+
+TEST(DayMarks, RemindersMarkByKindInTheKindsTint) {
+    const MainWindowColors colors;
+    const Column<Date> dates{kFirstCell + 1, kFirstCell + 2, kFirstCell + 3};
+    const TextColumn kinds{"Homework", "Task", "Event"};
+    EXPECT_EQ(markedCells(MarkReminderDays(dates, kinds, kFirstCell, "All", colors)), "1 2 3 ");
+    const DayMarks tasks = MarkReminderDays(dates, kinds, kFirstCell, "Tasks", colors);
+    EXPECT_EQ(markedCells(tasks), "2 ");
+    EXPECT_EQ(tasks.markedBack, colors.TintTan);
+    EXPECT_EQ(MarkReminderDays(dates, kinds, kFirstCell, "Events", colors).markedBack, colors.TintGreen);
+}
+
+}  // namespace
+}  // namespace qh

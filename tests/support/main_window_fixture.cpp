@@ -1,0 +1,44 @@
+#include "support/main_window_fixture.h"
+
+namespace qh {
+namespace {
+
+// Pads a field with blanks (or cuts it) to its width.
+std::string field(const std::string& value, std::size_t width) {
+    std::string text = value.substr(0, width);
+    text.resize(width, ' ');
+    return text;
+}
+
+}  // namespace
+
+std::string termRecord(int id, const std::string& name, const std::string& start, const std::string& end) {
+    return field(std::to_string(id), 5) + field(name, 35) + field(start, 15) + field(end, 15) + std::string(30, ' ');
+}
+
+std::string classRecord(int id, int termLink, const std::string& name, const std::string& fore,
+                        const std::string& back) {
+    return field(std::to_string(id), 5) + field(std::to_string(termLink), 5) + field(name, 25) + field(fore, 20) +
+           field(back, 20) + field("", 500) + std::string(40, ' ');
+}
+
+std::string assignmentRecord(int recordNo, int classLink, const std::string& date, const std::string& description,
+                             bool done, const std::string& estTime) {
+    return field(std::to_string(recordNo), 5) + field(std::to_string(recordNo), 5) + field(std::to_string(classLink), 5) +
+           field(date, 15) + field("Homework", 10) + field("Medium", 10) + field(estTime, 7) + field(description, 50) +
+           field(done ? "True" : "False", 5) + field(" ", 5) + field("100", 3) + field("None", 20) +
+           std::string(20, '\0');
+}
+
+std::string sessionRecord(int recordNo, int link, const std::string& length, const std::string& date) {
+    return field(std::to_string(recordNo), 5) + field(std::to_string(link), 5) + field(length, 10) + field(date, 15) +
+           std::string(20, '\0');
+}
+
+std::string taskRecord(int recordNo, const std::string& description, bool dated, const std::string& date, bool done) {
+    return field(std::to_string(recordNo), 5) + field(std::to_string(recordNo), 5) + field(description, 60) +
+           field(dated ? "True" : "False", 5) + field(date, 15) + field("Personal", 10) + field("Normal", 10) +
+           field(done ? "True" : "False", 5) + field("", 845) + field("None", 20) + std::string(20, '\0');
+}
+
+}  // namespace qh

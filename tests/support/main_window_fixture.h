@@ -1,0 +1,41 @@
+#pragma once
+// A main window loaded on a fake platform and a fresh drive, as a test starts it.
+#include <memory>
+
+#include "platform/form.h"
+#include "record_store/columns.h"
+#include "shell/main_window.h"
+#include "support/fake_platform.h"
+
+namespace qh {
+
+struct LoadedMainWindow {
+    FakePlatform fake;
+    RecordStore store;
+    std::unique_ptr<MainWindow> window;
+
+    // Writes record files into the data directory before the load: bare name -> bytes.
+    void putDataFile(const std::string& name, const std::string& bytes) {
+        fake.writeBytes(fake.dataDirectory() + "/" + name, bytes);
+    }
+    MainWindow& load() {
+        window = std::make_unique<MainWindow>(store, fake.platform);
+        window->Form_Load();
+        return *window;
+    }
+};
+
+// A Terms.txt record: ID, name, start and end as the file holds them.
+std::string termRecord(int id, const std::string& name, const std::string& start, const std::string& end);
+// A Classes.txt record.
+std::string classRecord(int id, int termLink, const std::string& name, const std::string& fore = "White",
+                        const std::string& back = "Black");
+// An Assignments.txt record.
+std::string assignmentRecord(int recordNo, int classLink, const std::string& date, const std::string& description,
+                             bool done, const std::string& estTime = "01 : 00");
+// A StudySessions.txt record.
+std::string sessionRecord(int recordNo, int link, const std::string& length, const std::string& date);
+// A Tasks.txt record.
+std::string taskRecord(int recordNo, const std::string& description, bool dated, const std::string& date, bool done);
+
+}  // namespace qh
