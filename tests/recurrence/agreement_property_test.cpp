@@ -1,0 +1,249 @@
+// The single-date test, the range walk, the calendar marks and the event reminders must
+// agree on the dates of every rule the event editor can make. These properties draw
+// thousands of such events from a fixed seed, so a failure repeats exactly.
+//
+// Left out on purpose: a "Last" weekday rule first on day 22..28 of a month that holds a
+// later such weekday. The single-date test counts the first date, the walks never list it;
+// expansion_test.cpp pins that corner.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "recurrence/date_primitives.h"
+#include "recurrence/event_records.h"
+#include "recurrence/expansion.h"
+#include "recurrence/occurrence.h"
+#include "recurrence/reminders.h"
+
+namespace qh {
+namespace {
+
+using test::addEvent;
+using test::EventFields;
+
+constexpr unsigned kSeed = 20261121;
+const char* const kOrdinals[] = {"First", "Second", "Third", "Fourth", "Last"};
+const char* const kDayChoices[] = {"Day", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+const char* const kWeekdayNames[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+const char* const kTypes[] = {"None", "Class", "School", "Home", "Birthday", "Holiday",
+                              "Personal", "Friends", "Family", "Recreation", "Work"};
+
+// Events as the editor lets them through: a weekly rule has a ticked day, an end date is
+// not before the first date, and an ordinal rule fits its own first date.
+class EditorEvents {
+public:
+    explicit EditorEvents(unsigned seed) : rng_(seed) {}
+
+    int uniform(int low, int high) { return std::uniform_int_distribution<int>(low, high)(rng_); }
+    template <class T, std::size_t N>
+    const T& pick(const T (&items)[N]) { return items[std::size_t(uniform(0, int(N) - 1))]; }
+
+    EventFields next() {
+        EventFields f;
+        const int kind = uniform(0, 99);
+        f.recurrence = kind < 20 ? "None" : kind < 45 ? "Day" : kind < 75 ? "Month" : "Year";
+        // Mostly recent dates, some centuries back, for walks that must skip far ahead.
+        Date first = uniform(0, 9) == 0 ? uniform(dateFromYmd(1700, 1, 1), dateFromYmd(1900, 12, 31))
+                                        : uniform(dateFromYmd(1995, 1, 1), dateFromYmd(2035, 12, 31));
+        f.sameDate = "True";
+        f.repeatNumber = pick(kOrdinals);
+        f.repeatDay = pick(kDayChoices);
+        if ((f.recurrence == "Month" || f.recurrence == "Year") && uniform(0, 9) < 6) {
+            first = ordinalRule(first, f);
+            f.sameDate = "False";
+        }
+        f.date = dateText(first);
+        f.repeatDaily.clear();
+        for (int i = 0; i < 7; ++i) f.repeatDaily += uniform(0, 2) == 0 ? 'T' : 'F';
+        if (f.recurrence == "Day" && f.repeatDaily == "FFFFFFF") f.repeatDaily[std::size_t(uniform(0, 6))] = 'T';
+        const int endChance = f.recurrence == "None" ? 10 : f.recurrence == "Year" ? 30 : 65;
+        if (uniform(0, 99) < endChance) {
+            f.ends = "True";
+            f.endDate = dateText(first + uniform(0, uniform(0, 1) ? 60 : 2500));
+        } else {
+            // The column keeps whatever the editor held; it must not be read.
+            f.endDate = dateText(first + uniform(-900, 900));
+        }
+        const int advance = uniform(-8, 30);
+        f.reminder = advance <= 0 ? "None" : advance == 1 ? "1 Day" : std::to_string(advance) + " Days";
+        f.type = pick(kTypes);
+        return f;
+    }
+
+private:
+    // Moves the first date within its month to a day that one of the ordinal rules fits,
+    // and fills the two combos as the editor's fit test demands.
+    Date ordinalRule(Date first, EventFields& f) {
+        const Ymd ymd = ymdOf(first);
+        const int lastDay = daysInMonth(ymd.year, ymd.month);
+        const int choice = uniform(0, 9);
+        if (choice < 2) {  // "First" .. "Fourth" "Day": days 1 to 4
+            const int day = uniform(1, 4);
+            f.repeatNumber = kOrdinals[day - 1];
+            f.repeatDay = "Day";
+            return dateFromYmd(ymd.year, ymd.month, day);
+        }
+        if (choice < 4) {  // "Last" "Day": the month's last day
+            f.repeatNumber = "Last";
+            f.repeatDay = "Day";
+            return dateFromYmd(ymd.year, ymd.month, lastDay);
+        }
+        const int day = uniform(1, lastDay);
+        const Date date = dateFromYmd(ymd.year, ymd.month, day);
+        f.repeatDay = kWeekdayNames[weekdayOf(date) - 1];
+        if (day <= 21) {
+            f.repeatNumber = kOrdinals[(day - 1) / 7];
+        } else if (day >= 29 || day + 7 > lastDay) {
+            // The last such weekday of the month: "Last", or "Fourth" where that is the same.
+            f.repeatNumber = (day <= 28 && uniform(0, 1)) ? "Fourth" : "Last";
+        } else {
+            f.repeatNumber = "Fourth";  // "Last" here would be the corner left out
+        }
+        return date;
+    }
+
+    std::mt19937 rng_;
+};
+
+std::string describe(const RecordStore& store) {
+    std::ostringstream out;
+    for (int i = 1; i <= store.EventRecordNos.count(); ++i)
+        out << "event " << i << ": " << store.EventDates(i) << " " << store.EventRecurrences(i) << " same "
+            << store.EventSameDates(i) << " " << store.EventRepeatNumbers(i) << " " << store.EventRepeatDays(i) << " "
+            << store.EventRepeatDailies(i) << " ends " << store.EventEnds(i) << " " << store.EventEndDates(i) << " "
+            << store.EventReminders(i) << " " << store.EventTypes(i) << "\n";
+    return out.str();
+}
+
+// Dates of [from, to] on which the single-date test hits row `index`. The rule is read
+// once (EventOccursOn reads it anew for every date, which is what it is for).
+std::vector<Date> hits(const RecordStore& store, int index, Date from, Date to) {
+    std::vector<Date> dates;
+    const EventRule rule = readEventRule(store, index);
+    for (Date d = from; d <= to; ++d)
+        if (occursOn(rule, calendarDay(d))) dates.push_back(d);
+    if (!dates.empty()) {
+        EXPECT_TRUE(EventOccursOn(store, dates.front(), Int16(index)));
+    }
+    return dates;
+}
+
+std::vector<std::string> texts(const std::vector<Date>& dates) {
+    std::vector<std::string> out;
+    for (Date d : dates) out.push_back(dateText(d));
+    return out;
+}
+
+// A store of one to four events and a date near the first of them (or in the 2020s for
+// an event centuries back).
+struct Trial {
+    RecordStore store;
+    Date near = 0;
+};
+
+Trial drawTrial(EditorEvents& events) {
+    Trial trial;
+    const int count = events.uniform(1, 4);
+    for (int i = 0; i < count; ++i) addEvent(trial.store, events.next());
+    const Date first = dateFromText(trial.store.EventDates(1));
+    trial.near = yearOf(first) < 1990 ? events.uniform(dateFromYmd(2020, 1, 1), dateFromYmd(2029, 12, 31))
+                                      : first + events.uniform(-400, 1500);
+    return trial;
+}
+
+TEST(RuleAgreement, ExpansionListsExactlyTheDatesTheSingleDateTestHits) {
+    EditorEvents events(kSeed);
+    const char* const ranges[] = {"Week", "Month", "Year"};
+    long long compared = 0;
+    for (int trialNo = 0; trialNo < 2500; ++trialNo) {
+        Trial trial = drawTrial(events);
+        const Date start = trial.near;
+        const std::string range = events.pick(ranges);
+        const Date end = EventRangeEnd(start, range);
+        const EventRows rows = ExpandEvents(trial.store, start, range, "All");
+        SCOPED_TRACE("trial " + std::to_string(trialNo) + ", " + range + " from " + dateText(start) + "\n" +
+                     describe(trial.store));
+
+        std::map<int, std::vector<Date>> found;
+        for (int r = 1; r <= rows.ListEventRows.count(); ++r)
+            found[rows.ListEventRows(r)].push_back(rows.ListEventDates(r));
+        int expectedTotal = 0;
+        for (int i = 1; i <= trial.store.EventRecordNos.count(); ++i) {
+            const std::vector<Date> expected = hits(trial.store, i, start, end);
+            std::vector<Date> listed = found[i];
+            std::sort(listed.begin(), listed.end());
+            ASSERT_EQ(texts(listed), texts(expected)) << "event " << i;
+            expectedTotal += int(expected.size());
+            compared += int(expected.size());
+        }
+        ASSERT_EQ(rows.EventTotal, expectedTotal);
+        ASSERT_EQ(rows.EventClassCount + rows.EventOtherCount, expectedTotal);
+    }
+    // The draw must reach real occurrences, or the property proves nothing.
+    EXPECT_GT(compared, 20000);
+}
+
+TEST(RuleAgreement, CalendarMarksAreTheDaysWithAHitThatPassesTheFilter) {
+    EditorEvents events(kSeed + 1);
+    const char* const filters[] = {"All", "Classes", "Other Events"};
+    int markedCells = 0;
+    for (int trialNo = 0; trialNo < 1500; ++trialNo) {
+        Trial trial = drawTrial(events);
+        const Date firstCell = trial.near;
+        const std::string filter = events.pick(filters);
+        const EventDayMarks marks = MarkEventDays(trial.store, firstCell, filter);
+        SCOPED_TRACE("trial " + std::to_string(trialNo) + ", " + filter + " from " + dateText(firstCell) + "\n" +
+                     describe(trial.store));
+        std::array<bool, 42> expected{};
+        for (int i = 1; i <= trial.store.EventRecordNos.count(); ++i) {
+            const bool isClass = trial.store.EventTypes(i) == "Class";
+            if (filter != "All" && (filter == "Classes") != isClass) continue;
+            for (Date d : hits(trial.store, i, firstCell, firstCell + 41)) expected[std::size_t(d - firstCell)] = true;
+        }
+        for (int k = 0; k < 42; ++k) {
+            ASSERT_EQ(marks.CellMarked[std::size_t(k)], expected[std::size_t(k)]) << "cell " << k;
+            markedCells += expected[std::size_t(k)] ? 1 : 0;
+        }
+    }
+    EXPECT_GT(markedCells, 2000);
+}
+
+TEST(RuleAgreement, EventRemindersAreTheHitsFromTheDateToTheAdvanceNotice) {
+    EditorEvents events(kSeed + 2);
+    long long compared = 0;
+    for (int trialNo = 0; trialNo < 3000; ++trialNo) {
+        Trial trial = drawTrial(events);
+        const Date date = trial.near;
+        ReminderRows rows;
+        GatherEventReminders(trial.store, date, "All", rows);
+        SCOPED_TRACE("trial " + std::to_string(trialNo) + ", on " + dateText(date) + "\n" + describe(trial.store));
+
+        std::map<int, std::vector<Date>> found;
+        for (int r = 1; r <= rows.ReminderRecords.count(); ++r) {
+            ASSERT_EQ(rows.ReminderDays(r), DaysBetween(date, rows.ReminderDates(r)));
+            ASSERT_EQ(rows.ReminderKinds(r), "Event");
+            found[rows.ReminderRecords(r)].push_back(rows.ReminderDates(r));
+        }
+        int expectedTotal = 0;
+        for (int i = 1; i <= trial.store.EventRecordNos.count(); ++i) {
+            const int advance = -ReminderOffset(trial.store.EventReminders(i));
+            const std::vector<Date> expected = hits(trial.store, i, date, date + advance);
+            std::vector<Date> listed = found[i];
+            std::sort(listed.begin(), listed.end());
+            ASSERT_EQ(texts(listed), texts(expected)) << "event " << i;
+            expectedTotal += int(expected.size());
+        }
+        ASSERT_EQ(rows.EventReminderCount, expectedTotal);
+        compared += expectedTotal;
+    }
+    EXPECT_GT(compared, 3000);
+}
+
+}  // namespace
+}  // namespace qh
