@@ -3,6 +3,7 @@
 #include "calendar_days/day_marks.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
+#include "recurrence/occurrence.h"
 
 namespace qh {
 
@@ -24,6 +25,11 @@ MainWindow::~MainWindow() = default;
 Color MainWindow::colorValue(const std::string& nameOrHexText) const {
     if (nameOrHexText.size() > 1 && nameOrHexText[0] == '&') return colorFromText(nameOrHexText);
     return colors->ColorValues(nameOrHexText);
+}
+
+DayMarks MainWindow::MarkEventDaysFor(Date firstCell) {
+    EventDayMarks events = MarkEventDays(store, firstCell, c("ComboList").text);
+    return DayMarks{events.CellMarked, events.ColorMarkedBack};
 }
 
 void MainWindow::MarkDays(Date firstCell) {

@@ -4,24 +4,14 @@
 
 namespace qh {
 
-void MainWindow::LayoutGrid(Mode) {}
 void MainWindow::BuildList(Mode) {}
-void MainWindow::UpdateGridScroll() {}
-void MainWindow::RefillGrid() {}
-void MainWindow::ResetGridScroll() {}
-void MainWindow::HighlightGridRow(int, bool) {}
 void MainWindow::UpdateGradeList() {}
 void MainWindow::UpdateStudyTimeToday(Date) {}
-void MainWindow::GridRowClicked(int) {}
-void MainWindow::picGridMouseDown(const EventArgs&) {}
-void MainWindow::picGridMouseUp(const EventArgs&) {}
-void MainWindow::headerClicked(int) {}
 void MainWindow::NewAssignment() {}
 void MainWindow::EditAssignment(int) {}
 void MainWindow::NewTask() {}
 void MainWindow::EditTask(int) {}
 void MainWindow::NewEvent() {}
 void MainWindow::EditEvent(int) {}
-DayMarks MainWindow::MarkEventDaysFor(Date) { return {}; }
 
 }  // namespace qh
