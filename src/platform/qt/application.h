@@ -1,0 +1,38 @@
+#pragma once
+// The program's application object and its one handler of last resort: a failure that
+// no routine of the planner traps (qh::UntrappedFailure or any other exception) and that
+// escapes an event handler ends here. It is reported clearly and the run ends at once,
+// without any further handler running or anything more being written.
+#include <QApplication>
+#include <functional>
+#include <string>
+
+namespace qh {
+
+class Application : public QApplication {
+public:
+    Application(int& argc, char** argv);
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+    // Shows the report and ends the run. Tests replace the ending step so that they can
+    // see the report without losing their process.
+    using FailureReport = std::function<void(const std::string& what)>;
+    // An empty report puts back the usual one.
+    void setFailureReport(FailureReport report) {
+        report_ = report ? std::move(report) : FailureReport(&Application::showAndEnd);
+    }
+
+    // Reports a failure caught outside the event loop (the start of the run) the same way.
+    void fail(const std::string& what);
+    // The text of the report: "Quillhollow has stopped: <what failed>".
+    static std::string reportText(const std::string& what);
+    bool failing() const { return failing_; }
+
+private:
+    static void showAndEnd(const std::string& what);
+    FailureReport report_;
+    bool failing_ = false;
+};
+
+}  // namespace qh
