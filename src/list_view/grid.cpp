@@ -1,0 +1,343 @@
+// The grid's geometry, its painter, scrolling, header clicks and the turning of mouse
+// presses into visible rows.
+#include "list_view/grid.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "common/text.h"
+#include "record_store/color_vocabulary.h"
+#include "shell/main_window.h"
+
+namespace qh {
+namespace {
+
+constexpr std::array<float, 9> kHomeworkWidths{28, 0.35f, 80, 0.65f, 70, 45, 70, 45, 50};
+constexpr std::array<float, 8> kStudySessionWidths{28, 0.35f, 85, 0.65f, 75, 50, 70, 75};
+constexpr std::array<float, 6> kTaskWidths{28, 0.995f, 75, 70, 70, 45};
+constexpr std::array<float, 6> kEventWidths{28, 0.995f, 75, 75, 70, 90};
+constexpr std::array<float, 7> kReminderWidths{28, 75, 0.3f, 80, 0.695f, 90, 70};
+
+constexpr int kHeaderCount = 9;
+
+std::string headerKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
+
+// The start of the last whole UTF-8 character of a non-empty text.
+std::size_t lastCharacterStart(const std::string& text) {
+    std::size_t pos = text.size() - 1;
+    while (pos > 0 && (static_cast<unsigned char>(text[pos]) & 0xC0) == 0x80) --pos;
+    return pos;
+}
+
+GridRows currentRows(const MainWindow& window) {
+    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(headerKey(0)).height,
+                           window.state.RowPitch);
+}
+
+}  // namespace
+
+std::span<const float> GridWidthTable(Mode mode) {
+    switch (mode) {
+        case Mode::Homework: return kHomeworkWidths;
+        case Mode::StudySessions: return kStudySessionWidths;
+        case Mode::Tasks: return kTaskWidths;
+        case Mode::Events: return kEventWidths;
+        case Mode::Reminders: return kReminderWidths;
+        case Mode::None: break;
+    }
+    return {};
+}
+
+std::vector<ColumnSpan> PlaceGridColumns(std::span<const float> widths, int gridWidth, int scrollWidth) {
+    std::vector<ColumnSpan> spans(widths.size());
+    int fixedTotal = 0;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (widths[i] >= 1) {
+            spans[i].width = int(widths[i]) * kTwipsPerPixel;
+            fixedTotal += spans[i].width;
+        }
+    }
+    const float rest = float(gridWidth - scrollWidth - fixedTotal + 45);
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (widths[i] < 1) {
+            const float twips = rest * widths[i];
+            spans[i].width = int(std::lround(twips / float(kTwipsPerPixel))) * kTwipsPerPixel;
+        }
+    }
+    for (std::size_t i = 1; i < spans.size(); ++i)
+        spans[i].left = spans[i - 1].left + spans[i - 1].width - kTwipsPerPixel;
+    return spans;
+}
+
+GridRows MeasureGridRows(int canvasHeight, int headerTwips, int rowPitchPixels) {
+    GridRows rows;
+    rows.headerTwips = headerTwips;
+    rows.pitchTwips = rowPitchPixels * kTwipsPerPixel;
+    if (rows.pitchTwips <= 0) return rows;
+    rows.bottomTwips = canvasHeight - canvasHeight % rows.pitchTwips;
+    const int below = canvasHeight - headerTwips;
+    // A remainder takes the sign of the height, so a canvas lower than its header strip
+    // has no rows rather than a negative count.
+    rows.rowsVisible = (below - below % rows.pitchTwips) / rows.pitchTwips;
+    if (rows.rowsVisible < 0) rows.rowsVisible = 0;
+    return rows;
+}
+
+int RowPressedAt(const GridRows& rows, int canvasWidth, int x, int y) {
+    if (rows.pitchTwips <= 0) return kNoRowPressed;
+    for (int k = 0, t = rows.headerTwips; t <= rows.bottomTwips; ++k, t += rows.pitchTwips)
+        if (y <= t && x < canvasWidth - kScrollBarWidth) return k == 0 ? 1 : k;
+    return kNoRowPressed;
+}
+
+int RowReleasedAt(const GridRows& rows, int y) {
+    if (rows.pitchTwips <= 0) return 0;
+    for (int k = 0, t = rows.headerTwips; t <= rows.bottomTwips; ++k, t += rows.pitchTwips)
+        if (y <= t) return k;
+    return 0;
+}
+
+std::string ClipToCell(const Canvas& canvas, const std::string& value, int cellWidth) {
+    std::string text = " " + value;
+    while (!text.empty() && canvas.textWidth(text) > cellWidth - 105) text.erase(lastCharacterStart(text));
+    return text;
+}
+
+bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p) {
+    const int r = (v - 1) * frame.rowPitch;
+    const std::string number = std::to_string(p);
+    canvas.setForeColor(kBlack);
+    const int x = 345 - canvas.textWidth(number);
+    const int y = r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + 60;
+    if (y > frame.gridBottom * kTwipsPerPixel) return false;
+    canvas.printText(x, y, number);
+    return true;
+}
+
+void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
+                   const std::function<GridRow(int position)>& rowAt) {
+    CanvasFont font;
+    font.name = "Arial";
+    font.size = 9;
+    canvas.setFont(font);
+    canvas.setForeColor(kBlack);
+    for (int v = 1; v <= rowCount; ++v) {
+        const int p = topRow + v - 1;
+        // A list that shrank under a scrolled grid ends where it ends.
+        if (p < 1 || p > rowCount) break;
+        if (!PaintNumberCell(canvas, frame, v, p)) break;
+        const GridRow row = rowAt(p);
+        const int r = (v - 1) * frame.rowPitch;
+        const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
+        const int bottom = (r + frame.headerHeight + 21) * kTwipsPerPixel;
+        const int textY = (r + frame.headerHeight + 4) * kTwipsPerPixel;
+        for (std::size_t c = 1; c < frame.columns.size(); ++c) {
+            const ColumnSpan& span = frame.columns[c];
+            canvas.filledBox(span.left + 15, top, span.left + span.width - 30, bottom, row.back);
+            canvas.setForeColor(row.fore);
+            const GridCell cell = c - 1 < row.cells.size() ? row.cells[c - 1] : GridCell{};
+            const int x = span.left + 45;
+            std::string text;
+            switch (cell.kind) {
+                case CellKind::Plain: text = cell.text; break;
+                case CellKind::Trimmed: text = trim(cell.text); break;
+                case CellKind::Clipped: text = ClipToCell(canvas, cell.text, span.width); break;
+                case CellKind::Check:
+                    canvas.paintPicture(cell.checked ? "Checked" : "Unchecked", span.left + 225,
+                                        r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + 75);
+                    break;
+            }
+            if (!text.empty()) canvas.printText(x, textY, text);
+        }
+    }
+}
+
+std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
+    if (column == sortColumn && sortDirection == 1) return "GridTitleUp";
+    if (column == sortColumn && sortDirection == 2) return "GridTitleDown";
+    return "GridTitle";
+}
+
+GridFrame CurrentGridFrame(const MainWindow& window, int columnCount) {
+    GridFrame frame;
+    for (int i = 0; i < columnCount && i < kHeaderCount; ++i) {
+        const Control& header = window.c(headerKey(i));
+        frame.columns.push_back({header.left, header.width});
+    }
+    frame.headerHeight = window.state.HeaderHeight;
+    frame.gridBottom = window.state.GridBottom;
+    frame.rowPitch = window.state.RowPitch;
+    return frame;
+}
+
+void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
+    CanvasFont font;
+    font.name = "Verdana";
+    font.size = 8;
+    font.bold = true;
+    for (std::size_t c = 0; c < titles.size() && c < std::size_t(kHeaderCount); ++c) {
+        Control& header = window.c(headerKey(int(c)));
+        header.picture = HeaderPicture(int(c), window.state.SortColumn, window.state.SortDirection);
+        Canvas& canvas = *header.canvas;
+        canvas.clear(header.backColor);
+        canvas.setFont(font);
+        canvas.setForeColor(kBlack);
+        canvas.printText(45, 45, trim(titles[c]));
+    }
+}
+
+Color RowColor(const MainWindow& window, const std::string& name, Color fallback) {
+    if (name.empty()) return fallback;
+    return window.colors->ColorValues(name);
+}
+
+std::string MediumDateOf(const MainWindow& window, const std::string& field) {
+    const auto date = parseDateText(field);
+    return date ? window.platform.locale.mediumDate(*date) : field;
+}
+
+void LayoutModeGrid(MainWindow& window, Mode mode) {
+    const std::span<const float> table = GridWidthTable(mode);
+    if (table.empty()) return;
+    const int n = int(table.size());
+    for (int i = 0; i < kHeaderCount; ++i) {
+        Control& header = window.c(headerKey(i));
+        header.visible = header.enabled = i < n;
+    }
+
+    window.state.GridMargin = 100;
+    const Control& statusBar = window.c("picStatusBar");
+    const int gridWidth = std::max(0, window.scaleWidth - 200);
+    const int gridHeight = std::max(0, window.scaleHeight - kGridTop - statusBar.height - 100);
+    window.move("picGrid", 100, kGridTop, gridWidth, gridHeight);
+    window.bringToFront("picGrid");
+    Canvas& canvas = *window.c("picGrid").canvas;
+
+    Control& scroll = window.c("VSGridScroll");
+    window.move("VSGridScroll", canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
+
+    const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.c("picGrid").width, scroll.width);
+    for (int i = 0; i < n; ++i) {
+        Control& header = window.c(headerKey(i));
+        window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width,
+                    header.height);
+        header.picture = "GridTitle";
+    }
+
+    canvas.clear(kWhite);
+    const GridRows rows = currentRows(window);
+    const int b = rows.bottomTwips, w = canvas.scaleWidth();
+    const int numberRule = n > 1 ? spans[1].left : 0;
+    for (int i = 1; i < n; ++i) canvas.line(spans[std::size_t(i)].left, 0, spans[std::size_t(i)].left, b, kLightRule);
+    if (rows.pitchTwips > 0) {
+        for (int y = rows.headerTwips; y <= b; y += rows.pitchTwips) canvas.line(0, y, w, y, kLightRule);
+        for (int y = rows.headerTwips; y <= b; y += rows.pitchTwips) canvas.line(0, y, numberRule, y, kDarkRule);
+    }
+    canvas.line(numberRule, 0, numberRule, b, kDarkRule);
+
+    window.state.HeaderHeight = toInt16(rows.headerHeight());
+    window.state.GridBottom = toInt16(rows.gridBottom());
+    window.state.RowsVisible = toInt16(rows.rowsVisible);
+
+    window.bringToFront("picGrid");
+    window.move("picStatusBar", 0, window.scaleHeight - kStatusBarHeight, window.scaleWidth, kStatusBarHeight);
+    window.bringToFront("picStatusBar");
+    window.PaintStatusBar();
+}
+
+void PaintList(MainWindow& window, std::span<const char* const> titles,
+               const std::function<GridRow(int position)>& rowAt) {
+    PaintGridHeaders(window, titles);
+    const GridFrame frame = CurrentGridFrame(window, int(titles.size()));
+    PaintGridRows(*window.c("picGrid").canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
+}
+
+// ---------------------------------------------------------------------------------------
+// Members of the main window.
+
+void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
+
+void MainWindow::UpdateGridScroll() {
+    Control& scroll = c("VSGridScroll");
+    if (state.RowCount > state.RowsVisible) {
+        scroll.enabled = true;
+        scroll.minimum = 1;
+        scroll.maximum = state.RowCount - state.RowsVisible + 1;
+        scroll.smallChange = 1;
+        // A step of a page keeps one row in sight; a grid of a single row still moves.
+        scroll.largeChange = std::max(1, state.RowsVisible - 1);
+        // A list that shrank under a scrolled grid: the bar's value falls to its new
+        // maximum, and the list shows from there, as the bar's own change would make it.
+        if (scroll.value > scroll.maximum) {
+            scroll.value = scroll.maximum;
+            state.TopRow = toInt16(scroll.value);
+        }
+        if (scroll.value < 1) scroll.value = 1;
+    } else {
+        state.TopRow = 1;
+        scroll.enabled = false;
+        scroll.value = 1;
+    }
+}
+
+void MainWindow::RefillGrid() {
+    state.TopRow = toInt16(c("VSGridScroll").value);
+    const Mode mode = CurrentMode();
+    if (mode == Mode::None) return;
+    LayoutGrid(mode);
+    UpdateGridScroll();
+    BuildList(mode);
+}
+
+void MainWindow::ResetGridScroll() {
+    Control& scroll = c("VSGridScroll");
+    if (scroll.value != 1) {
+        // The bar's change event rebuilds the list.
+        scroll.value = 1;
+        fire("VSGridScroll", FormEvent::Change);
+        return;
+    }
+    const Mode mode = CurrentMode();
+    if (mode == Mode::None) return;
+    LayoutGrid(mode);
+    BuildList(mode);
+}
+
+void MainWindow::HighlightGridRow(int row, bool on) {
+    if (row > state.RowCount || row < 1) return;
+    Canvas& canvas = *c("picGrid").canvas;
+    CanvasFont font;
+    font.name = "Arial";
+    font.size = 9;
+    canvas.setFont(font);
+    canvas.setForeColor(on ? kWhite : kBlack);
+    const Control& number = c(headerKey(0));
+    const int r = (row - 1) * state.RowPitch;
+    canvas.filledBox(number.left + 15, (r + state.HeaderHeight + 1) * kTwipsPerPixel,
+                     number.left + number.width - 30, (r + state.HeaderHeight + 21) * kTwipsPerPixel,
+                     on ? kBlack : kWhite);
+    const std::string position = std::to_string(state.TopRow - 1 + row);
+    canvas.printText(345 - canvas.textWidth(position),
+                     r * kTwipsPerPixel + state.HeaderHeight * kTwipsPerPixel + 60, position);
+}
+
+void MainWindow::picGridMouseDown(const EventArgs& args) {
+    state.PressedRow = toInt16(RowPressedAt(currentRows(*this), c("picGrid").canvas->scaleWidth(), args.x, args.y));
+}
+
+void MainWindow::picGridMouseUp(const EventArgs& args) {
+    const int k = RowReleasedAt(currentRows(*this), args.y);
+    // Dragging off the pressed row, or a press on the header strip, drops the click.
+    if (k != state.PressedRow) return;
+    GridRowClicked(k);
+}
+
+void MainWindow::headerClicked(int index) {
+    if (index == 0) return;  // the "#" column doesn't sort
+    if (index == state.SortColumn) state.SortDirection = state.SortDirection == 1 ? 2 : 1;
+    state.SortColumn = toInt16(index);
+    ResetGridScroll();
+}
+
+}  // namespace qh
