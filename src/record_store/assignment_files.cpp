@@ -28,10 +28,10 @@ bool RecordFiles::LoadAssignments() {
             if (int16OrZero(s.ClassTermLinks(i)) == s.CurrentTermID && s.ClassNames(i) != kDeletedRecord)
                 ++classRows[int16OrZero(s.ClassIDs(i))];
 
-        TextColumn* const assignments[] = {
-            &s.AssignmentRecordNos, &s.AssignmentIDs,          &s.AssignmentClassLinks, &s.AssignmentDates,
-            &s.AssignmentTypes,     &s.AssignmentDifficulties, &s.AssignmentEstTimes,   &s.AssignmentDescriptions,
-            &s.AssignmentDones,     &s.AssignmentGrades,       &s.AssignmentWeights,    &s.AssignmentReminders};
+        TextColumn* const assignments[] = {&s.AssignmentRecordNos, &s.AssignmentIDs,          &s.AssignmentClassLinks,
+                                           &s.AssignmentDates,     &s.AssignmentTypes,        &s.AssignmentDifficulties,
+                                           &s.AssignmentEstTimes,  &s.AssignmentDescriptions, &s.AssignmentDones,
+                                           &s.AssignmentGrades,    &s.AssignmentWeights,      &s.AssignmentReminders};
         readRecords(kAssignmentsLayout, s.NextAssignmentRecord, [&](Values& v) {
             if (v[7] == kDeletedRecord) return;
             const auto found = classRows.find(int16OrZero(v[2]));
@@ -72,8 +72,9 @@ bool RecordFiles::LoadAssignments() {
 bool RecordFiles::SaveAssignment(Int16 RecordNumber) {
     return saveOne(kAssignmentsLayout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber, [&] {
         const AssignmentBuffer& a = store_.AssignmentRecord;
-        return Values{a.RecordNo, a.ID,          a.ClassLink, dateText(a.DateValue), a.Type,   a.Difficulty,
-                      a.EstTime,  a.Description, a.Done,      a.Grade,               a.Weight, a.Reminder};
+        return Values{a.RecordNo, a.ID,         a.ClassLink, dateText(a.DateValue),
+                      a.Type,     a.Difficulty, a.EstTime,   a.Description,
+                      a.Done,     a.Grade,      a.Weight,    a.Reminder};
     });
 }
 
@@ -85,12 +86,11 @@ bool RecordFiles::SaveNote(Int16 RecordNumber) {
 }
 
 bool RecordFiles::SaveStudySession(Int16 RecordNumber, int Row) {
-    return saveOne(kStudySessionsLayout, store_.NextStudySessionRecord, store_.StudySessionsChanged, RecordNumber,
-                   [&] {
-                       const RecordStore& s = store_;
-                       return Values{s.EditStudySessionRecordNos(Row), s.EditStudySessionLinkIDs(Row),
-                                     s.EditStudySessionLengths(Row), s.EditStudySessionDates(Row)};
-                   });
+    return saveOne(kStudySessionsLayout, store_.NextStudySessionRecord, store_.StudySessionsChanged, RecordNumber, [&] {
+        const RecordStore& s = store_;
+        return Values{s.EditStudySessionRecordNos(Row), s.EditStudySessionLinkIDs(Row), s.EditStudySessionLengths(Row),
+                      s.EditStudySessionDates(Row)};
+    });
 }
 
 bool RecordFiles::ReadNote(Int16 RecordNumber) {

@@ -14,6 +14,7 @@ struct NamedColor {
 
 // The palette in the order of the class schedule's colour grid, 14 to a line. The values
 // stand as the planner has always had them, MediumPurple and PaleVioletRed included.
+// clang-format off
 constexpr NamedColor kTable[] = {
     {"White", 0xFFFFFF}, {"Black", 0x000000}, {"DimGray", 0x696969}, {"Gray", 0x808080},
     {"DarkGray", 0xA9A9A9}, {"Silver", 0xC0C0C0}, {"LightGray", 0xD3D3D3}, {"Gainsboro", 0xDCDCDC},
@@ -56,6 +57,7 @@ constexpr NamedColor kTable[] = {
     {"HotPink", 0xB469FF}, {"LavenderBlush", 0xF5F0FF}, {"PaleVioletRed", 0x9370D8}, {"Crimson", 0x3C14DC},
     {"Pink", 0xCBC0FF}, {"LightPink", 0xC1B6FF},
 };
+// clang-format on
 static_assert(std::size(kTable) == 140);
 
 std::string keyOf(std::string_view name) {

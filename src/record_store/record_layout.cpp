@@ -13,21 +13,19 @@ namespace {
 using K = FieldKind;
 
 constexpr FieldSpec kTermFields[] = {
-    {"ID", 5, K::Text},    {"Name", 35, K::Text},      {"Start", 15, K::Date},
-    {"End", 15, K::Date},  {"reserved", 15, K::Reserved}, {"reserved", 15, K::Reserved},
+    {"ID", 5, K::Text},   {"Name", 35, K::Text},         {"Start", 15, K::Date},
+    {"End", 15, K::Date}, {"reserved", 15, K::Reserved}, {"reserved", 15, K::Reserved},
 };
 
 constexpr FieldSpec kClassFields[] = {
-    {"ID", 5, K::Text},         {"TermLink", 5, K::Text},   {"Name", 25, K::Text},
-    {"ForeColor", 20, K::Text}, {"BackColor", 20, K::Text}, {"Notes", 500, K::Text},
-    {"reserved", 20, K::Reserved}, {"reserved", 20, K::Reserved},
+    {"ID", 5, K::Text},         {"TermLink", 5, K::Text}, {"Name", 25, K::Text},         {"ForeColor", 20, K::Text},
+    {"BackColor", 20, K::Text}, {"Notes", 500, K::Text},  {"reserved", 20, K::Reserved}, {"reserved", 20, K::Reserved},
 };
 
 constexpr FieldSpec kAssignmentFields[] = {
-    {"RecordNo", 5, K::Text},     {"ID", 5, K::Text},          {"ClassLink", 5, K::Text},
-    {"Date", 15, K::Date},        {"Type", 10, K::Text},       {"Difficulty", 10, K::Text},
-    {"EstTime", 7, K::Text},      {"Description", 50, K::Text}, {"Done", 5, K::Text},
-    {"Grade", 5, K::Text},        {"Weight", 3, K::Text},      {"Reminder", 20, K::Text},
+    {"RecordNo", 5, K::Text},      {"ID", 5, K::Text},          {"ClassLink", 5, K::Text}, {"Date", 15, K::Date},
+    {"Type", 10, K::Text},         {"Difficulty", 10, K::Text}, {"EstTime", 7, K::Text},   {"Description", 50, K::Text},
+    {"Done", 5, K::Text},          {"Grade", 5, K::Text},       {"Weight", 3, K::Text},    {"Reminder", 20, K::Text},
     {"reserved", 20, K::Reserved},
 };
 
@@ -37,25 +35,34 @@ constexpr FieldSpec kNoteFields[] = {
 };
 
 constexpr FieldSpec kStudySessionFields[] = {
-    {"RecordNo", 5, K::Text}, {"LinkID", 5, K::Text},         {"Length", 10, K::Text},
+    {"RecordNo", 5, K::Text}, {"LinkID", 5, K::Text},        {"Length", 10, K::Text},
     {"Date", 15, K::Date},    {"reserved", 10, K::Reserved}, {"reserved", 10, K::Reserved},
 };
 
 constexpr FieldSpec kTaskFields[] = {
-    {"RecordNo", 5, K::Text}, {"ID", 5, K::Text},        {"Description", 60, K::Text},
-    {"DateExists", 5, K::Text}, {"Date", 15, K::Date},   {"Type", 10, K::Text},
-    {"Priority", 10, K::Text}, {"Done", 5, K::Text},     {"Notes", 845, K::Text},
-    {"Reminder", 20, K::Text}, {"reserved", 20, K::Reserved},
+    {"RecordNo", 5, K::Text}, {"ID", 5, K::Text},        {"Description", 60, K::Text},  {"DateExists", 5, K::Text},
+    {"Date", 15, K::Date},    {"Type", 10, K::Text},     {"Priority", 10, K::Text},     {"Done", 5, K::Text},
+    {"Notes", 845, K::Text},  {"Reminder", 20, K::Text}, {"reserved", 20, K::Reserved},
 };
 
 constexpr FieldSpec kEventFields[] = {
-    {"RecordNo", 5, K::Text},      {"ID", 5, K::Text},          {"Date", 15, K::Date},
-    {"Description", 60, K::Text},  {"Type", 10, K::Text},       {"Time", 10, K::Text},
-    {"Recurrence", 5, K::Text},    {"SameDate", 5, K::Text},    {"RepeatNumber", 10, K::Text},
+    {"RecordNo", 5, K::Text},      {"ID", 5, K::Text},           {"Date", 15, K::Date},
+    {"Description", 60, K::Text},  {"Type", 10, K::Text},        {"Time", 10, K::Text},
+    {"Recurrence", 5, K::Text},    {"SameDate", 5, K::Text},     {"RepeatNumber", 10, K::Text},
     {"RepeatDay", 10, K::Text},    {"RepeatDaily", 10, K::Text}, {"End", 5, K::Text},
-    {"EndDate", 15, K::Date},      {"Notes", 795, K::Text},     {"Reminder", 20, K::Text},
+    {"EndDate", 15, K::Date},      {"Notes", 795, K::Text},      {"Reminder", 20, K::Text},
     {"reserved", 20, K::Reserved},
 };
+
+template <std::size_t N>
+constexpr int widthOf(const FieldSpec (&fields)[N]) {
+    int width = 0;
+    for (const FieldSpec& field : fields) width += field.width;
+    return width;
+}
+static_assert(widthOf(kTermFields) == 100 && widthOf(kClassFields) == 615 && widthOf(kAssignmentFields) == 160 &&
+              widthOf(kNoteFields) == 1500 && widthOf(kStudySessionFields) == 55 && widthOf(kTaskFields) == 1000 &&
+              widthOf(kEventFields) == 1000);
 
 // The date as it is written: through its year, month and day parts.
 std::string dateFieldText(const std::string& value) {

@@ -38,10 +38,10 @@ void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::stri
                      const std::string& Action);
 
 // The message texts, for callers and tests that compare them.
-extern const char* const kDirectoryErrorTitle;      // "Quillhollow - Directory Error"
-extern const char* const kFileErrorTitle;           // "Quillhollow - File Read Error"
-extern const char* const kDataDirectoryErrorText;   // shown by SetStorageLocations
-extern const char* const kDirectoryErrorText;       // shown by ReportDirectoryError
+extern const char* const kDirectoryErrorTitle;     // "Quillhollow - Directory Error"
+extern const char* const kFileErrorTitle;          // "Quillhollow - File Read Error"
+extern const char* const kDataDirectoryErrorText;  // shown by SetStorageLocations
+extern const char* const kDirectoryErrorText;      // shown by ReportDirectoryError
 std::string fileErrorText(const std::string& FileName, const std::string& Action);
 
 }  // namespace qh

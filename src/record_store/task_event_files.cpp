@@ -7,8 +7,8 @@ namespace qh {
 bool RecordFiles::LoadTasks() {
     if (!enterDataDirectory()) return false;
     RecordStore& s = store_;
-    TextColumn* const columns[] = {&s.TaskRecordNos, &s.TaskIDs,        &s.TaskDescriptions, &s.TaskDateExists,
-                                   &s.TaskDates,     &s.TaskTypes,      &s.TaskPriorities,   &s.TaskDones,
+    TextColumn* const columns[] = {&s.TaskRecordNos, &s.TaskIDs,      &s.TaskDescriptions, &s.TaskDateExists,
+                                   &s.TaskDates,     &s.TaskTypes,    &s.TaskPriorities,   &s.TaskDones,
                                    &s.TaskNotes,     &s.TaskReminders};
     const bool read = runFileStep([&] {
         readRecords(kTasksLayout, s.NextTaskRecord, [&](Values& v) {
@@ -31,10 +31,9 @@ bool RecordFiles::LoadEvents() {
     if (!enterDataDirectory()) return false;
     RecordStore& s = store_;
     TextColumn* const columns[] = {
-        &s.EventRecordNos,     &s.EventIDs,         &s.EventDates,        &s.EventDescriptions,
-        &s.EventTypes,         &s.EventTimes,       &s.EventRecurrences,  &s.EventSameDates,
-        &s.EventRepeatNumbers, &s.EventRepeatDays,  &s.EventRepeatDailies, &s.EventEnds,
-        &s.EventEndDates,      &s.EventNotes,       &s.EventReminders};
+        &s.EventRecordNos,     &s.EventIDs,         &s.EventDates,     &s.EventDescriptions,  &s.EventTypes,
+        &s.EventTimes,         &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
+        &s.EventRepeatDailies, &s.EventEnds,        &s.EventEndDates,  &s.EventNotes,         &s.EventReminders};
     const bool read = runFileStep([&] {
         readRecords(kEventsLayout, s.NextEventRecord, [&](Values& v) {
             if (v[3] != kDeletedRecord) appendRow(columns, v);
@@ -47,9 +46,9 @@ bool RecordFiles::LoadEvents() {
 bool RecordFiles::SaveEvent(Int16 RecordNumber) {
     return saveOne(kEventsLayout, store_.NextEventRecord, store_.EventsChanged, RecordNumber, [&] {
         const EventBuffer& e = store_.EventRecord;
-        return Values{e.RecordNo,     e.ID,        e.Date,        e.Description, e.Type,
-                      e.Time,         e.Recurrence, e.SameDate,   e.RepeatNumber, e.RepeatDay,
-                      e.RepeatDaily,  e.End,       e.EndDate,     e.Notes,       e.Reminder};
+        return Values{e.RecordNo,    e.ID,         e.Date,     e.Description,  e.Type,
+                      e.Time,        e.Recurrence, e.SameDate, e.RepeatNumber, e.RepeatDay,
+                      e.RepeatDaily, e.End,        e.EndDate,  e.Notes,        e.Reminder};
     });
 }
 

@@ -125,8 +125,8 @@ void ReadPreferencesText(std::string_view text, int screenWidthPx, int screenHei
             } else if (auto v = valueAfter("ActiveTerm=")) {
                 values.ActiveTerm = std::string(*v);
             } else if (auto v = valueAfter("StartDayofWeek=")) {
-                values.StartDayOfWeek = (*v == "Sunday" || *v == "Monday" || *v == "Saturday") ? std::string(*v)
-                                                                                             : "Monday";
+                values.StartDayOfWeek =
+                    (*v == "Sunday" || *v == "Monday" || *v == "Saturday") ? std::string(*v) : "Monday";
             } else if (auto v = valueAfter("ShowTipsAtStartup=")) {
                 values.ShowTipsAtStartup = (*v == "Yes" || *v == "No") ? std::string(*v) : "Yes";
             } else if (auto v = valueAfter("CurrentTip=")) {

@@ -33,8 +33,7 @@ struct AssignmentDrive : StoreOnDrive {
     AssignmentDrive() {
         putClasses(store);
         writeFile("Assignments.txt", assignmentRecord(1, 10, "Lab report") + assignmentRecord(2, 11, "Orphan") +
-                                         assignmentRecord(3, 20, "Essay") +
-                                         assignmentRecord(4, 10, "DELETED RECORD") +
+                                         assignmentRecord(3, 20, "Essay") + assignmentRecord(4, 10, "DELETED RECORD") +
                                          assignmentRecord(5, 10, "Quiz"));
         writeFile("Notes.txt", noteRecord(1, "1", "bring goggles") + noteRecord(2, "0", "") +
                                    noteRecord(3, "3", "five pages") + noteRecord(4, "-1", ""));
@@ -145,8 +144,8 @@ TEST(Assignments, AnAppendAfterAnOverwriteLandsAtTheEnd) {
 
 TEST(Assignments, AFailedOverwriteLeavesTheCounterOnItSoTheNextAppendLandsThere) {
     StoreOnDrive d;
-    d.writeFile("StudySessions.txt", sessionRecord(1, "1", "00 : 45") + sessionRecord(2, "1", "00 : 15") +
-                                         sessionRecord(3, "1", "00 : 30"));
+    d.writeFile("StudySessions.txt",
+                sessionRecord(1, "1", "00 : 45") + sessionRecord(2, "1", "00 : 15") + sessionRecord(3, "1", "00 : 30"));
     ASSERT_TRUE(d.files.LoadAssignments());
     RecordStore& s = d.store;
     s.EditStudySessionRecordNos = {"2"};
@@ -175,8 +174,9 @@ TEST(Assignments, RecordNumbersCannotPass32767) {
     StoreOnDrive d;
     RecordStore& s = d.store;
     s.NextAssignmentRecord = 32767;
-    s.AssignmentRecord = {"32767", "32767", "10", dateFromYmd(2026, 11, 30), "Homework", "Easy", "00 : 30",
-                          "Last one", "False", " ", "100", "None"};
+    s.AssignmentRecord = {"32767",    "32767", "10",      dateFromYmd(2026, 11, 30),
+                          "Homework", "Easy",  "00 : 30", "Last one",
+                          "False",    " ",     "100",     "None"};
     EXPECT_FALSE(d.files.SaveAssignment(0));
     EXPECT_EQ(s.NextAssignmentRecord, 32767);
     EXPECT_EQ(s.AssignmentsChanged, kFalse);

@@ -11,9 +11,7 @@ namespace {
 
 struct BackupDrive : StoreOnDrive {
     std::string backup(const std::string& name) const { return fake.bytesOf(store.BackupDirectory + "/" + name); }
-    bool inBackup(const std::string& name) const {
-        return std::filesystem::exists(store.BackupDirectory + "/" + name);
-    }
+    bool inBackup(const std::string& name) const { return std::filesystem::exists(store.BackupDirectory + "/" + name); }
     // One run of the planner that leaves Tasks.txt holding `content` and flags it.
     void exitAfterChangingTasks(const std::string& content) {
         writeFile("Tasks.txt", content);
@@ -83,8 +81,7 @@ TEST(Backups, FilesAreRotatedInTheirFixedOrder) {
     BackupDrive d;
     for (const char* name : {"Terms", "Classes", "Assignments", "Notes", "StudySessions", "Tasks", "Events"})
         d.writeFile(std::string(name) + ".txt", name);
-    for (Int16* flag : {&d.store.EventsChanged, &d.store.TermsChanged, &d.store.StudySessionsChanged})
-        *flag = kTrue;
+    for (Int16* flag : {&d.store.EventsChanged, &d.store.TermsChanged, &d.store.StudySessionsChanged}) *flag = kTrue;
     d.fake.files.log.clear();
     RotateBackups(d.store, d.fake.platform);
     std::vector<std::string> copies;

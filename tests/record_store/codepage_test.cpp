@@ -13,11 +13,11 @@ TEST(CodePage, AccentsRoundTripThroughOneByteEach) {
 }
 
 TEST(CodePage, CharactersTheCodePageLacksBecomeQuestionMarks) {
-    EXPECT_EQ(toCodePage("\xE4\xB8\xAD!"), "?!");              // a CJK character
-    EXPECT_EQ(toCodePage("\xF0\x9F\x98\x80x"), "?x");          // outside the basic plane
-    EXPECT_EQ(toCodePage("a\xC3"), "a?");                      // cut-off sequence
-    EXPECT_EQ(toCodePage("\x80\xC0\xAF"), "???");              // stray and overlong bytes
-    EXPECT_EQ(toCodePage("\xED\xA0\x80"), "???");              // a surrogate
+    EXPECT_EQ(toCodePage("\xE4\xB8\xAD!"), "?!");      // a CJK character
+    EXPECT_EQ(toCodePage("\xF0\x9F\x98\x80x"), "?x");  // outside the basic plane
+    EXPECT_EQ(toCodePage("a\xC3"), "a?");              // cut-off sequence
+    EXPECT_EQ(toCodePage("\x80\xC0\xAF"), "???");      // stray and overlong bytes
+    EXPECT_EQ(toCodePage("\xED\xA0\x80"), "???");      // a surrogate
 }
 
 TEST(CodePage, EveryByteSurvivesALoadAndASave) {

@@ -40,13 +40,14 @@ TEST(RecordBytes, TermsAndClassesAreRewrittenWholeWithSpacesInTheReservedFields)
 TEST(RecordBytes, AssignmentNoteAndSessionRecordsHoldNulsInTheReservedFields) {
     StoreOnDrive d;
     RecordStore& s = d.store;
-    s.AssignmentRecord = {"1", "1", "7", dateFromYmd(2026, 11, 30), "Homework", "Hard", "01 : 30",
-                          "Read chapter 4", "False", " ", "100", "1 Day Before"};
+    s.AssignmentRecord = {"1",        "1",    "7",       dateFromYmd(2026, 11, 30),
+                          "Homework", "Hard", "01 : 30", "Read chapter 4",
+                          "False",    " ",    "100",     "1 Day Before"};
     ASSERT_TRUE(d.files.SaveAssignment(0));
-    EXPECT_EQ(d.bytesOf("Assignments.txt"),
-              field("1", 5) + field("1", 5) + field("7", 5) + field("2026/11/30", 15) + field("Homework", 10) +
-                  field("Hard", 10) + field("01 : 30", 7) + field("Read chapter 4", 50) + field("False", 5) +
-                  field(" ", 5) + field("100", 3) + field("1 Day Before", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Assignments.txt"), field("1", 5) + field("1", 5) + field("7", 5) + field("2026/11/30", 15) +
+                                                field("Homework", 10) + field("Hard", 10) + field("01 : 30", 7) +
+                                                field("Read chapter 4", 50) + field("False", 5) + field(" ", 5) +
+                                                field("100", 3) + field("1 Day Before", 20) + nuls(20));
 
     s.NoteRecord = {"1", "1", std::string(1500, 'x')};
     ASSERT_TRUE(d.files.SaveNote(0));
@@ -67,23 +68,22 @@ TEST(RecordBytes, AssignmentNoteAndSessionRecordsHoldNulsInTheReservedFields) {
 TEST(RecordBytes, TaskAndEventRecordsKeepTheirNotesInTheRecord) {
     StoreOnDrive d;
     RecordStore& s = d.store;
-    s.TaskRecord = {"1", "1", "2026/12/01", "Buy a calculator", "True", "Errand", "High", "False",
-                    std::string(900, 'a'), "On Date"};
+    s.TaskRecord = {"1",      "1",    "2026/12/01", "Buy a calculator",    "True",
+                    "Errand", "High", "False",      std::string(900, 'a'), "On Date"};
     ASSERT_TRUE(d.files.SaveTask(0));
-    EXPECT_EQ(d.bytesOf("Tasks.txt"), field("1", 5) + field("1", 5) + field("Buy a calculator", 60) +
-                                          field("True", 5) + field("2026/12/01", 15) + field("Errand", 10) +
-                                          field("High", 10) + field("False", 5) + std::string(845, 'a') +
-                                          field("On Date", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Tasks.txt"), field("1", 5) + field("1", 5) + field("Buy a calculator", 60) + field("True", 5) +
+                                          field("2026/12/01", 15) + field("Errand", 10) + field("High", 10) +
+                                          field("False", 5) + std::string(845, 'a') + field("On Date", 20) + nuls(20));
 
-    s.EventRecord = {"1",     "1",     "2026.12.24", "Holiday party", "Social", "7:00 PM", "Year", "True",
-                     "First", "Day",   "TFFFFFT",    "False",         "2027-1-31", std::string(800, 'e'),
+    s.EventRecord = {"1",    "1",     "2026.12.24", "Holiday party", "Social", "7:00 PM",   "Year",
+                     "True", "First", "Day",        "TFFFFFT",       "False",  "2027-1-31", std::string(800, 'e'),
                      "None"};
     ASSERT_TRUE(d.files.SaveEvent(0));
-    EXPECT_EQ(d.bytesOf("Events.txt"),
-              field("1", 5) + field("1", 5) + field("2026/12/24", 15) + field("Holiday party", 60) +
-                  field("Social", 10) + field("7:00 PM", 10) + field("Year", 5) + field("True", 5) +
-                  field("First", 10) + field("Day", 10) + field("TFFFFFT", 10) + field("False", 5) +
-                  field("2027/01/31", 15) + std::string(795, 'e') + field("None", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Events.txt"), field("1", 5) + field("1", 5) + field("2026/12/24", 15) +
+                                           field("Holiday party", 60) + field("Social", 10) + field("7:00 PM", 10) +
+                                           field("Year", 5) + field("True", 5) + field("First", 10) + field("Day", 10) +
+                                           field("TFFFFFT", 10) + field("False", 5) + field("2027/01/31", 15) +
+                                           std::string(795, 'e') + field("None", 20) + nuls(20));
     EXPECT_EQ(s.TasksChanged, kTrue);
     EXPECT_EQ(s.EventsChanged, kTrue);
 }
@@ -94,8 +94,8 @@ TEST(RecordBytes, TextIsCutToItsFieldAfterConversionToTheCodePage) {
     // 60 characters of two UTF-8 bytes each fill the 60-byte Description exactly.
     std::string description;
     for (int i = 0; i < 61; ++i) description += "\xC3\xBC";
-    s.TaskRecord = {"1", "1", "2026/12/01", description + "\xE4\xB8\xAD", "False", "", "", "False",
-                    "\xE4\xB8\xAD note", ""};
+    s.TaskRecord = {"1", "1", "2026/12/01", description + "\xE4\xB8\xAD", "False",
+                    "",  "",  "False",      "\xE4\xB8\xAD note",          ""};
     ASSERT_TRUE(d.files.SaveTask(0));
     const std::string bytes = d.bytesOf("Tasks.txt");
     EXPECT_EQ(bytes.substr(10, 60), std::string(60, '\xFC'));

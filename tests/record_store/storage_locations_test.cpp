@@ -13,7 +13,8 @@ namespace {
 std::vector<std::string> directoriesMade(const FakeFileSystem& files) {
     std::vector<std::string> made;
     for (const std::string& line : files.log)
-        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir") made.push_back(line.substr(6, line.size() - 12));
+        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir")
+            made.push_back(line.substr(6, line.size() - 12));
     return made;
 }
 
@@ -77,8 +78,8 @@ TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNames) {
                                          &RecordStore::AssignmentsChanged,   &RecordStore::NotesChanged,
                                          &RecordStore::StudySessionsChanged, &RecordStore::TasksChanged,
                                          &RecordStore::EventsChanged};
-    const char* const names[] = {"Terms.txt", "Classes.txt", "Assignments.txt", "Notes.txt",
-                                 "StudySessions.txt", "Tasks.txt", "Events.txt"};
+    const char* const names[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
+                                 "StudySessions.txt", "Tasks.txt",   "Events.txt"};
     for (int i = 0; i < 7; ++i) {
         for (auto flag : flags) store.*flag = kTrue;
         ReportFileError(store, fake.messages, names[i], "writing");

@@ -11,8 +11,8 @@ std::string termRecord(const std::string& id, const std::string& name, const std
 }
 
 std::string classRecord(const std::string& id, const std::string& term, const std::string& name) {
-    return field(id, 5) + field(term, 5) + field(name, 25) + field("Black", 20) + field("White", 20) +
-           field("", 500) + spaces(40);
+    return field(id, 5) + field(term, 5) + field(name, 25) + field("Black", 20) + field("White", 20) + field("", 500) +
+           spaces(40);
 }
 
 TEST(TermsAndClasses, MissingFilesLoadEmptyAndAreCreated) {
@@ -30,8 +30,7 @@ TEST(TermsAndClasses, MissingFilesLoadEmptyAndAreCreated) {
 TEST(TermsAndClasses, LoadKeepsTombstonesRepairsDatesAndIgnoresAPartRecord) {
     StoreOnDrive d;
     d.writeFile("Terms.txt", termRecord("1", "Fall 2026", "2026.08.31", "2026-12-18") +
-                                 termRecord("2", "DELETED RECORD", "2027/01/05", "2027/05/14") +
-                                 std::string(50, 'x'));
+                                 termRecord("2", "DELETED RECORD", "2027/01/05", "2027/05/14") + std::string(50, 'x'));
     d.writeFile("Classes.txt", classRecord("10", "1", "Biology") + classRecord("11", "2", "DELETED RECORD"));
     ASSERT_TRUE(d.files.LoadTermsAndClasses());
     const RecordStore& s = d.store;
