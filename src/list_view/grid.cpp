@@ -220,8 +220,7 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
     const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.c("picGrid").width, scroll.width);
     for (int i = 0; i < n; ++i) {
         Control& header = window.c(headerKey(i));
-        window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width,
-                    header.height);
+        window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width, header.height);
         header.picture = "GridTitle";
     }
 
@@ -314,12 +313,11 @@ void MainWindow::HighlightGridRow(int row, bool on) {
     canvas.setForeColor(on ? kWhite : kBlack);
     const Control& number = c(headerKey(0));
     const int r = (row - 1) * state.RowPitch;
-    canvas.filledBox(number.left + 15, (r + state.HeaderHeight + 1) * kTwipsPerPixel,
-                     number.left + number.width - 30, (r + state.HeaderHeight + 21) * kTwipsPerPixel,
-                     on ? kBlack : kWhite);
+    canvas.filledBox(number.left + 15, (r + state.HeaderHeight + 1) * kTwipsPerPixel, number.left + number.width - 30,
+                     (r + state.HeaderHeight + 21) * kTwipsPerPixel, on ? kBlack : kWhite);
     const std::string position = std::to_string(state.TopRow - 1 + row);
-    canvas.printText(345 - canvas.textWidth(position),
-                     r * kTwipsPerPixel + state.HeaderHeight * kTwipsPerPixel + 60, position);
+    canvas.printText(345 - canvas.textWidth(position), r * kTwipsPerPixel + state.HeaderHeight * kTwipsPerPixel + 60,
+                     position);
 }
 
 void MainWindow::picGridMouseDown(const EventArgs& args) {

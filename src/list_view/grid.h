@@ -30,7 +30,7 @@ inline constexpr int kTwipsPerPixel = 15;
 inline constexpr int kScrollBarWidth = 255;  // twips; the strip at the grid's right edge
 inline constexpr int kGridTop = 2650;        // twips from the top of the window's client area
 inline constexpr int kStatusBarHeight = 300;
-inline constexpr int kNoRowPressed = 999;    // PressedRow of a press that hit no row
+inline constexpr int kNoRowPressed = 999;  // PressedRow of a press that hit no row
 
 // Rule colours: the light rules of the cells and the dark rules of the number column.
 inline constexpr Color kLightRule = rgb(224, 224, 224);

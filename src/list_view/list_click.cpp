@@ -46,9 +46,12 @@ void MainWindow::GridRowClicked(int k) {
             if (k > state.ReminderRecords.count() || !state.ReminderKinds.has(p)) break;
             const std::string& kind = state.ReminderKinds(p);
             const int record = at(state.ReminderRecords);
-            if (kind == "Homework") edit(&MainWindow::EditAssignment, record);
-            else if (kind == "Task") edit(&MainWindow::EditTask, record);
-            else if (kind == "Event") edit(&MainWindow::EditEvent, record);
+            if (kind == "Homework")
+                edit(&MainWindow::EditAssignment, record);
+            else if (kind == "Task")
+                edit(&MainWindow::EditTask, record);
+            else if (kind == "Event")
+                edit(&MainWindow::EditEvent, record);
             break;
         }
         case Mode::None: break;

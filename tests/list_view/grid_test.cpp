@@ -320,10 +320,10 @@ TEST_F(GridWindowTest, AClickThatMovesOffItsRowOrStartsOnTheHeaderOrScrollStripD
     window.state.RowCount = 3;
     window.press("picGrid", {1, 0, 500, 700});
     window.release("picGrid", {1, 0, 500, 1000});  // row 3
-    window.press("picGrid", {1, 0, 500, 100});      // header strip: row 1 on press...
+    window.press("picGrid", {1, 0, 500, 100});     // header strip: row 1 on press...
     EXPECT_EQ(window.state.PressedRow, 1);
-    window.release("picGrid", {1, 0, 500, 100});    // ...but 0 on release
-    window.press("picGrid", {1, 0, 9200, 500});     // scroll strip
+    window.release("picGrid", {1, 0, 500, 100});  // ...but 0 on release
+    window.press("picGrid", {1, 0, 9200, 500});   // scroll strip
     EXPECT_EQ(window.state.PressedRow, 999);
     window.release("picGrid", {1, 0, 9200, 500});
     EXPECT_TRUE(numberBoxes(grid()).empty());

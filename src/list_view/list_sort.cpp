@@ -1,0 +1,254 @@
+#include "list_view/list_sort.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "list_view/time_text.h"
+#include "platform/locale.h"
+
+namespace qh {
+namespace {
+
+const std::string kEmpty;
+const std::string kNoneUp = "z";
+const std::string kNoneDown = "a";
+const std::string kNoClassUp = "zzzzzzzzzz";
+const std::string kNoClassDown = "          ";
+
+bool isIdentity(const std::vector<int>& order) {
+    for (std::size_t i = 0; i < order.size(); ++i)
+        if (order[i] != int(i)) return false;
+    return true;
+}
+
+// Moves the first order.size() entries of a column into the given order, after filling a
+// short column up with `fill`; entries beyond the list's rows stay at the end.
+template <class T>
+void reorder(Column<T>& column, const std::vector<int>& order, const T& fill) {
+    std::vector<T>& values = column.values();
+    if (values.size() < order.size()) values.resize(order.size(), fill);
+    std::vector<T> moved;
+    moved.reserve(values.size());
+    for (int i : order) moved.push_back(std::move(values[std::size_t(i)]));
+    for (std::size_t i = order.size(); i < values.size(); ++i) moved.push_back(std::move(values[i]));
+    values.swap(moved);
+}
+
+// A text of a record column through a row index that may be missing.
+const std::string& field(const TextColumn& column, int row) { return column.has(row) ? column(row) : kEmpty; }
+
+template <class T>
+int rowAt(const Column<T>& rows, int i) {
+    return rows.has(i) ? int(rows(i)) : 0;
+}
+
+long long dayOf(const std::string& text) {
+    const auto date = parseDateText(text);
+    return date ? *date : 0;
+}
+
+const std::string& noneReplaced(const std::string& value, int direction) {
+    if (value != "None") return value;
+    return direction == 1 ? kNoneUp : kNoneDown;
+}
+
+SortKeys textKeys(SortRule rule, int n, auto&& textOf) {
+    SortKeys keys;
+    keys.rule = rule;
+    keys.texts.reserve(std::size_t(n));
+    for (int i = 1; i <= n; ++i) keys.texts.push_back(&textOf(i));
+    return keys;
+}
+
+SortKeys numberKeys(SortRule rule, int n, auto&& numberOf) {
+    SortKeys keys;
+    keys.rule = rule;
+    keys.numbers.reserve(std::size_t(n));
+    for (int i = 1; i <= n; ++i) keys.numbers.push_back(numberOf(i));
+    return keys;
+}
+
+}  // namespace
+
+std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& locale) {
+    std::vector<int> order(std::size_t(keys.count()));
+    std::iota(order.begin(), order.end(), 0);
+    if (direction != 1 && direction != 2) return order;
+    const auto before = [&](int a, int b) {
+        switch (keys.rule) {
+            case SortRule::Text:
+                return locale.compareText(*keys.texts[std::size_t(a)], *keys.texts[std::size_t(b)]) < 0;
+            case SortRule::BinaryText: return *keys.texts[std::size_t(a)] < *keys.texts[std::size_t(b)];
+            default: return keys.numbers[std::size_t(a)] < keys.numbers[std::size_t(b)];
+        }
+    };
+    if (direction == 1)
+        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return before(a, b); });
+    else
+        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return before(b, a); });
+    return order;
+}
+
+void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+    const int n = rows.ListAssignmentRows.count();
+    if (n < 2 || column < 1 || column > 8) return;
+    const auto r = [&](int i) { return rowAt(rows.ListAssignmentRows, i); };
+    const auto record = [&](SortRule rule, const TextColumn& c) {
+        return textKeys(rule, n, [&](int i) -> const std::string& { return field(c, r(i)); });
+    };
+    const auto className = [&](int i) -> const std::string& { return field(rows.ListClassNames, i); };
+    const auto timeLeft = [&](int i) { return MinutesOfTimeForm(field(rows.ListTimes, i)); };
+    const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
+    SortKeys keys;
+    switch (column) {
+        case 1: keys = textKeys(SortRule::Text, n, className); break;
+        case 2: keys = record(SortRule::Text, store.AssignmentTypes); break;
+        case 3: keys = record(SortRule::Text, store.AssignmentDescriptions); break;
+        case 4: keys = record(SortRule::Text, store.AssignmentDifficulties); break;
+        case 5: keys = numberKeys(SortRule::Minutes, n, timeLeft); break;
+        case 6: keys = numberKeys(SortRule::Date, n, due); break;
+        case 7: keys = record(SortRule::BinaryText, store.AssignmentDones); break;
+        default: keys = record(SortRule::BinaryText, store.AssignmentGrades); break;
+    }
+    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    if (isIdentity(order)) return;
+    reorder(rows.ListAssignmentRows, order, 0);
+    reorder(rows.ListTimes, order, kEmpty);
+    reorder(rows.ListForeColors, order, kEmpty);
+    reorder(rows.ListBackColors, order, kEmpty);
+    reorder(rows.ListClassNames, order, kEmpty);
+}
+
+void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, int direction,
+                          const Locale& locale) {
+    const int n = rows.ListSessionRows.count();
+    if (n < 2 || column < 1 || column > 7) return;
+    const auto r = [&](int i) { return rowAt(rows.ListAssignmentRows, i); };
+    const auto record = [&](const TextColumn& c) {
+        return textKeys(SortRule::Text, n, [&](int i) -> const std::string& { return field(c, r(i)); });
+    };
+    const auto length = [&](int i) {
+        return ReadSpan(field(store.StudySessionLengths, rowAt(rows.ListSessionLengthRows, i))).totalMinutes();
+    };
+    const auto doneOn = [&](int i) {
+        return dayOf(field(store.StudySessionDates, rowAt(rows.ListSessionDateRows, i)));
+    };
+    const auto className = [&](int i) -> const std::string& { return field(rows.ListClassNames, i); };
+    const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
+    SortKeys keys;
+    switch (column) {
+        case 1: keys = textKeys(SortRule::Text, n, className); break;
+        case 2: keys = record(store.AssignmentTypes); break;
+        case 3: keys = record(store.AssignmentDescriptions); break;
+        case 4: keys = record(store.AssignmentDifficulties); break;
+        case 5: keys = numberKeys(SortRule::Minutes, n, length); break;
+        case 6: keys = numberKeys(SortRule::Date, n, doneOn); break;
+        default: keys = numberKeys(SortRule::Date, n, due); break;
+    }
+    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    if (isIdentity(order)) return;
+    reorder(rows.ListAssignmentRows, order, 0);
+    reorder(rows.ListSessionLengthRows, order, 0);
+    reorder(rows.ListSessionDateRows, order, 0);
+    reorder(rows.ListForeColors, order, kEmpty);
+    reorder(rows.ListBackColors, order, kEmpty);
+    reorder(rows.ListClassNames, order, kEmpty);
+}
+
+void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+    const int n = rows.ListTaskRows.count();
+    if (n < 2 || column < 1 || column > 5) return;
+    const auto r = [&](int i) { return rowAt(rows.ListTaskRows, i); };
+    const auto record = [&](SortRule rule, const TextColumn& c) {
+        return textKeys(rule, n, [&](int i) -> const std::string& { return field(c, r(i)); });
+    };
+    const auto recordOrSubstitute = [&](const TextColumn& c) {
+        return textKeys(SortRule::Text, n,
+                        [&](int i) -> const std::string& { return noneReplaced(field(c, r(i)), direction); });
+    };
+    const auto day = [&](int i) -> long long {
+        const bool dated = field(store.TaskDateExists, r(i)) == kTrueText;
+        const auto date = dated ? parseDateText(field(store.TaskDates, r(i))) : std::nullopt;
+        return date ? *date : (direction == 1 ? kUndatedLast : kUndatedFirst);
+    };
+    SortKeys keys;
+    switch (column) {
+        case 1: keys = record(SortRule::Text, store.TaskDescriptions); break;
+        case 2: keys = recordOrSubstitute(store.TaskTypes); break;
+        case 3: keys = recordOrSubstitute(store.TaskPriorities); break;
+        case 4: keys = numberKeys(SortRule::Date, n, day); break;
+        default: keys = record(SortRule::BinaryText, store.TaskDones); break;
+    }
+    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    if (isIdentity(order)) return;
+    reorder(rows.ListTaskRows, order, 0);
+    reorder(rows.ListTaskForeColors, order, kEmpty);
+    reorder(rows.ListTaskBackColors, order, kEmpty);
+}
+
+void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+    const int n = rows.ListEventRows.count();
+    if (n < 2 || column < 1 || column > 5) return;
+    const auto r = [&](int i) { return rowAt(rows.ListEventRows, i); };
+    const auto recordOrSubstitute = [&](const TextColumn& c) {
+        return textKeys(SortRule::Text, n,
+                        [&](int i) -> const std::string& { return noneReplaced(field(c, r(i)), direction); });
+    };
+    const auto minuteOfDay = [&](int i) -> long long {
+        const auto seconds = ParseTimeOfDay(field(store.EventTimes, r(i)));
+        return seconds ? *seconds / 60 : (direction == 1 ? 23 * 60 + 59 : 0);
+    };
+    const auto name = [&](int i) -> const std::string& { return field(store.EventDescriptions, r(i)); };
+    const auto date = [&](int i) -> long long { return rows.ListEventDates.valueOr(i, 0); };
+    SortKeys keys;
+    switch (column) {
+        case 1: keys = textKeys(SortRule::Text, n, name); break;
+        case 2: keys = recordOrSubstitute(store.EventTypes); break;
+        case 3: keys = numberKeys(SortRule::Date, n, date); break;
+        case 4: keys = numberKeys(SortRule::Date, n, minuteOfDay); break;
+        default: keys = recordOrSubstitute(store.EventRecurrences); break;
+    }
+    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    if (isIdentity(order)) return;
+    reorder(rows.ListEventRows, order, Int16(0));
+    reorder(rows.ListEventDates, order, Date(0));
+    reorder(rows.ListEventForeColors, order, kEmpty);
+    reorder(rows.ListEventBackColors, order, kEmpty);
+}
+
+void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale) {
+    const int n = rows.ReminderRecords.count();
+    if (n < 2 || column < 1 || column > 6) return;
+    const auto own = [&](const TextColumn& c) {
+        return textKeys(SortRule::Text, n, [&](int i) -> const std::string& { return field(c, i); });
+    };
+    const auto classOrSubstitute = [&](int i) -> const std::string& {
+        const std::string& value = field(rows.ReminderClasses, i);
+        if (!value.empty()) return value;
+        return direction == 1 ? kNoClassUp : kNoClassDown;
+    };
+    const auto days = [&](int i) -> long long { return rows.ReminderDays.valueOr(i, 0); };
+    const auto date = [&](int i) -> long long { return rows.ReminderDates.valueOr(i, 0); };
+    SortKeys keys;
+    switch (column) {
+        case 1: keys = own(rows.ReminderKinds); break;
+        case 2: keys = textKeys(SortRule::Text, n, classOrSubstitute); break;
+        case 3: keys = own(rows.ReminderTypes); break;
+        case 4: keys = own(rows.ReminderDescriptions); break;
+        case 5: keys = numberKeys(SortRule::Number, n, days); break;
+        default: keys = numberKeys(SortRule::Date, n, date); break;
+    }
+    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    if (isIdentity(order)) return;
+    reorder(rows.ReminderRecords, order, Int16(0));
+    reorder(rows.ReminderKinds, order, kEmpty);
+    reorder(rows.ReminderForeColors, order, kEmpty);
+    reorder(rows.ReminderBackColors, order, kEmpty);
+    reorder(rows.ReminderClasses, order, kEmpty);
+    reorder(rows.ReminderTypes, order, kEmpty);
+    reorder(rows.ReminderDescriptions, order, kEmpty);
+    reorder(rows.ReminderDays, order, 0);
+    reorder(rows.ReminderDates, order, Date(0));
+}
+
+}  // namespace qh
