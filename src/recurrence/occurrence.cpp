@@ -1,5 +1,6 @@
 #include "recurrence/occurrence.h"
 
+#include <algorithm>
 #include <array>
 
 #include "recurrence/date_primitives.h"
@@ -120,7 +121,14 @@ EventDayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::strin
         if (store.EventRecurrences(i) == "None" || store.EventDescriptions(i) == kDeletedRecord) continue;
         const EventRule rule = readEventRule(store, i);
         const bool passes = eventFilterPasses(filter, rule.isClass);
-        for (std::size_t c = 0; c < cells.size(); ++c) {
+        // No hit lies before the first date, nor after a readable end date unless it is
+        // the first date itself: the cells outside those bounds need no test.
+        const Date lastCell = firstCell + kCalendarCells - 1;
+        const Date from = std::max(firstCell, rule.first);
+        Date to = lastCell;
+        if (rule.ends && rule.readableEnd) to = std::min(lastCell, std::max(*rule.readableEnd, rule.first));
+        for (Date date = from; date <= to; ++date) {
+            const std::size_t c = std::size_t(date - firstCell);
             if (marks.CellMarked[c]) continue;
             if (occursOn(rule, cells[c]) && passes) {
                 marks.CellMarked[c] = true;
