@@ -58,6 +58,28 @@ Qt::Alignment horizontal(Alignment alignment) {
     }
 }
 
+// A button's caption broken at spaces into the lines that fit its width, as the planner's
+// buttons show a long caption ("New Assignment") on two lines.
+QString wrappedCaption(const Control& control, const QFontMetrics& metrics) {
+    const QString caption = qs(control.caption);
+    const int room = toPixels(control.width) - 8;
+    const QString shown = QString(caption).remove(QLatin1Char('&'));
+    if (room <= 0 || metrics.horizontalAdvance(shown) <= room) return caption;
+    QStringList lines;
+    QString line;
+    for (const QString& word : caption.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
+        if (!line.isEmpty() && metrics.horizontalAdvance(QString(longer).remove(QLatin1Char('&'))) > room) {
+            lines.append(line);
+            line = word;
+        } else {
+            line = longer;
+        }
+    }
+    if (!line.isEmpty()) lines.append(line);
+    return lines.join(QLatin1Char('\n'));
+}
+
 void setColors(QWidget* widget, const Control& control, QPalette::ColorRole back, QPalette::ColorRole fore) {
     QPalette palette = widget->palette();
     palette.setColor(back, qtColor(control.backColor));
@@ -394,7 +416,8 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
         }
         case ControlKind::CommandButton: {
             auto* button = static_cast<QPushButton*>(widget);
-            if (changed(&Control::caption)) button->setText(qs(now.caption));
+            if (!before || before->caption != now.caption || before->width != now.width || fontDiffers(*before, now))
+                button->setText(wrappedCaption(now, button->fontMetrics()));
             if (changed(&Control::picture))
                 button->setIcon(now.picture.empty() ? QIcon()
                                                     : QIcon(QStringLiteral(":/pictures/%1.svg").arg(qs(now.picture))));

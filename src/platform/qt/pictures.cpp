@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QSvgRenderer>
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 // Outside any namespace: the resource initialiser has a global name.
@@ -55,24 +56,35 @@ void drawPicture(QPainter& painter, const QString& name, const QRectF& target) {
     initPictures();
     QSvgRenderer* renderer = rendererFor(name);
     if (!renderer || target.isEmpty()) return;
-    const QRectF box = renderer->viewBoxF();
     const QSizeF own = renderer->defaultSize();
     if (target.width() <= own.width() + 0.5 || own.width() <= 0) {
         renderer->render(&painter, target);
         return;
     }
-    // Three slices across: the ends keep their own width (at most half the picture, and
-    // no wider than it is high), the middle stretches.
-    const double capPixels = std::min(own.width() / 2.0, own.height());
-    const double capBox = capPixels * box.width() / own.width();
-    renderer->setViewBox(QRectF(box.left(), box.top(), capBox, box.height()));
-    renderer->render(&painter, QRectF(target.left(), target.top(), capPixels, target.height()));
-    renderer->setViewBox(QRectF(box.left() + capBox, box.top(), box.width() - 2 * capBox, box.height()));
-    renderer->render(&painter, QRectF(target.left() + capPixels, target.top(), target.width() - 2 * capPixels,
-                                      target.height()));
-    renderer->setViewBox(QRectF(box.right() - capBox, box.top(), capBox, box.height()));
-    renderer->render(&painter, QRectF(target.right() - capPixels, target.top(), capPixels, target.height()));
-    renderer->setViewBox(box);
+    // Three slices across: the ends keep their own shape (just under half the picture at
+    // most, and no wider than it is high), the middle stretches. The picture is rendered once at
+    // the target's height in device pixels, then cut.
+    const double scale = target.height() / own.height();
+    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    QImage whole(QSize(int(std::ceil(own.width() * scale * ratio)), int(std::ceil(target.height() * ratio))),
+                 QImage::Format_ARGB32_Premultiplied);
+    whole.fill(Qt::transparent);
+    {
+        QPainter inner(&whole);
+        inner.setRenderHint(QPainter::Antialiasing);
+        renderer->render(&inner, QRectF(QPointF(0, 0), QSizeF(whole.size())));
+    }
+    // One pixel of the middle is always left to stretch: an empty source would be read as
+    // the whole picture.
+    const double cap = std::max(0.0, std::min(own.width() / 2.0 - 1.0, double(own.height()))) * scale;
+    const double capSource = cap * ratio;
+    const double wholeWidth = whole.width(), wholeHeight = whole.height();
+    painter.drawImage(QRectF(target.left(), target.top(), cap, target.height()), whole,
+                      QRectF(0, 0, capSource, wholeHeight));
+    painter.drawImage(QRectF(target.left() + cap, target.top(), target.width() - 2 * cap, target.height()), whole,
+                      QRectF(capSource, 0, wholeWidth - 2 * capSource, wholeHeight));
+    painter.drawImage(QRectF(target.right() - cap, target.top(), cap, target.height()), whole,
+                      QRectF(wholeWidth - capSource, 0, capSource, wholeHeight));
 }
 
 void installFontSubstitutes() {
