@@ -15,6 +15,11 @@ namespace {
 // the same as taking it as many times as its link occurs here, without the scan.
 using RowCounts = std::unordered_map<Int16, int>;
 
+// Positions of the values parseRecord gives, in record order.
+constexpr std::size_t kAssignmentClassLink = 2, kAssignmentDescription = 7;
+constexpr std::size_t kNoteLinkID = 1;
+constexpr std::size_t kSessionLinkID = 1;
+
 }  // namespace
 
 bool RecordFiles::LoadAssignments() {
@@ -33,8 +38,8 @@ bool RecordFiles::LoadAssignments() {
                                            &s.AssignmentEstTimes,  &s.AssignmentDescriptions, &s.AssignmentDones,
                                            &s.AssignmentGrades,    &s.AssignmentWeights,      &s.AssignmentReminders};
         readRecords(kAssignmentsLayout, s.NextAssignmentRecord, [&](Values& v) {
-            if (v[7] == kDeletedRecord) return;
-            const auto found = classRows.find(int16OrZero(v[2]));
+            if (v[kAssignmentDescription] == kDeletedRecord) return;
+            const auto found = classRows.find(int16OrZero(v[kAssignmentClassLink]));
             if (found == classRows.end()) return;
             for (int n = 1; n < found->second; ++n) {
                 Values copy = v;
@@ -46,7 +51,7 @@ bool RecordFiles::LoadAssignments() {
         current = "Notes.txt";
         TextColumn* const notes[] = {&s.NoteRecordNos, &s.NoteLinkIDs};
         readRecords(kNotesLayout, s.NextNoteRecord, [&](Values& v) {
-            if (int16OrZero(v[1]) > 0) appendRow(notes, v);
+            if (int16OrZero(v[kNoteLinkID]) > 0) appendRow(notes, v);
         });
 
         current = "StudySessions.txt";
@@ -55,8 +60,8 @@ bool RecordFiles::LoadAssignments() {
         TextColumn* const sessions[] = {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
                                         &s.StudySessionDates};
         readRecords(kStudySessionsLayout, s.NextStudySessionRecord, [&](Values& v) {
-            if (v[1] == "0") return;
-            const auto found = assignmentRows.find(int16OrZero(v[1]));
+            if (v[kSessionLinkID] == "0") return;
+            const auto found = assignmentRows.find(int16OrZero(v[kSessionLinkID]));
             if (found == assignmentRows.end()) return;
             for (int n = 1; n < found->second; ++n) {
                 Values copy = v;

@@ -3,6 +3,12 @@
 #include "record_store/record_io.h"
 
 namespace qh {
+namespace {
+
+// Where the Description stands among the values of a record.
+constexpr std::size_t kTaskDescription = 2, kEventDescription = 3;
+
+}  // namespace
 
 bool RecordFiles::LoadTasks() {
     if (!enterDataDirectory()) return false;
@@ -12,7 +18,7 @@ bool RecordFiles::LoadTasks() {
                                    &s.TaskNotes,     &s.TaskReminders};
     const bool read = runFileStep([&] {
         readRecords(kTasksLayout, s.NextTaskRecord, [&](Values& v) {
-            if (v[2] != kDeletedRecord) appendRow(columns, v);
+            if (v[kTaskDescription] != kDeletedRecord) appendRow(columns, v);
         });
     });
     if (!read) reportFileError("Tasks.txt", "reading");
@@ -36,7 +42,7 @@ bool RecordFiles::LoadEvents() {
         &s.EventRepeatDailies, &s.EventEnds,        &s.EventEndDates,  &s.EventNotes,         &s.EventReminders};
     const bool read = runFileStep([&] {
         readRecords(kEventsLayout, s.NextEventRecord, [&](Values& v) {
-            if (v[3] != kDeletedRecord) appendRow(columns, v);
+            if (v[kEventDescription] != kDeletedRecord) appendRow(columns, v);
         });
     });
     if (!read) reportFileError("Events.txt", "reading");
