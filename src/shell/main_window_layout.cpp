@@ -78,8 +78,6 @@ void MainWindow::buildControls() {
     }
     add(ControlKind::PictureBox, "PictureBarWeb", "", 5580, 15, 465, 345).picture = "Web";
     add(ControlKind::PictureBox, "picHelp", "", 6285, 30, 315, 240).picture = "Help";
-    add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330).picture = "CalDayLeftUp";
-    add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330).picture = "CalDayRightUp";
     Control& top = add(ControlKind::PictureBox, "picTop", "", 240, 480, 6225, 330);
     top.backColor = 0x7F4F2F;
     Control& labelTop = label(*this, "LabelTop", "picTop", 0, 45, 6225, 285, "");
@@ -88,6 +86,9 @@ void MainWindow::buildControls() {
     labelTop.fontSize = 9;
     labelTop.bold = true;
     labelTop.alignment = Alignment::Center;
+    // The day arrows lie over the ends of the title bar.
+    add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330).picture = "CalDayLeftUp";
+    add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330).picture = "CalDayRightUp";
 
     // The month calendar.
     Control& calendar = add(ControlKind::PictureBox, "picCalendar", "", 6760, 30, 2640, 2520);
@@ -163,9 +164,9 @@ void MainWindow::buildControls() {
     reminders.border = true;
 
     // The summary labels and boxes; each mode places and shows its own.
-    label(*this, "LabelTotalAssignments", "", 1410, 990, 1800, 255, "Total Assignments:");
-    label(*this, "LabelFinishedAssignments", "", 1410, 1380, 1800, 255, "Unfinished Assignments:");
-    label(*this, "LabelTimeRemaining", "", 1410, 1770, 1800, 255, "Time Left:");
+    label(*this, "LabelTotalAssignments", "", 1410, 990, 1830, 255, "Total Assignments:");
+    label(*this, "LabelFinishedAssignments", "", 1410, 1380, 1830, 255, "Unfinished Assignments:");
+    label(*this, "LabelTimeRemaining", "", 1410, 1770, 1830, 255, "Time Left:");
     for (const char* name : {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining",
                              "TextBoxStudySessions", "TextBoxStudyTime", "TextBoxTotalTasks", "TextBoxFinishedTasks",
                              "TextBoxClasses", "TextBoxOtherEvents", "TextBoxAssignments", "TextBoxTasks",
