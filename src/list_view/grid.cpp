@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "common/text.h"
+#include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
 
@@ -256,6 +257,13 @@ void PaintList(MainWindow& window, std::span<const char* const> titles,
 // Members of the main window.
 
 void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
+
+void MainWindow::BuildList(Mode mode) {
+    switch (mode) {
+        case Mode::Homework: BuildHomeworkList(*this); break;
+        default: break;
+    }
+}
 
 void MainWindow::UpdateGridScroll() {
     Control& scroll = c("VSGridScroll");

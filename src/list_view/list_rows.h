@@ -18,6 +18,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/color.h"
 #include "common/column.h"
 #include "common/day_number.h"
 #include "common/int16.h"
@@ -33,8 +34,12 @@ class MainWindow;
 // date of that day can't be told from it.
 inline constexpr Date kAllDatesSentinel = 19583;
 
-// The texts of the record store for done and deleted.
+// A flag of the record store as text.
 inline constexpr const char* kTrueText = "True";
+
+// Backgrounds of the summary boxes: pink while work is open, green when all is done.
+inline constexpr Color kOpenWorkPink = 0xE5E5FF;
+inline constexpr Color kAllDoneGreen = 0xE2F7E1;
 
 // --- Homework -------------------------------------------------------------------------
 

@@ -4,7 +4,6 @@
 
 namespace qh {
 
-void MainWindow::BuildList(Mode) {}
 void MainWindow::UpdateGradeList() {}
 void MainWindow::UpdateStudyTimeToday(Date) {}
 void MainWindow::NewAssignment() {}
