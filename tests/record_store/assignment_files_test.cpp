@@ -64,6 +64,13 @@ TEST(Assignments, LoadTakesLiveAssignmentsOfLiveClassesOfTheActiveTermAndTheirSe
     EXPECT_EQ(s.NextAssignmentRecord, 6);
     EXPECT_EQ(s.NextNoteRecord, 5);
     EXPECT_EQ(s.NextStudySessionRecord, 7);  // the trailing part record is not counted
+
+    // Another term gives its own rows.
+    d.store.clearTermBoundColumns();
+    d.store.CurrentTermID = 2;
+    ASSERT_TRUE(d.files.LoadAssignments());
+    EXPECT_EQ(s.AssignmentDescriptions, (TextColumn{"Essay"}));
+    EXPECT_EQ(s.StudySessionRecordNos, (TextColumn{"4"}));
 }
 
 TEST(Assignments, WithNoActiveTermOnlyNotesAreListedAndTheCountersStillReachTheEnd) {
@@ -75,14 +82,6 @@ TEST(Assignments, WithNoActiveTermOnlyNotesAreListedAndTheCountersStillReachTheE
     EXPECT_EQ(d.store.NextAssignmentRecord, 6);
     EXPECT_EQ(d.store.NextNoteRecord, 5);
     EXPECT_EQ(d.store.NextStudySessionRecord, 7);
-}
-
-TEST(Assignments, OtherTermGivesItsOwnRows) {
-    AssignmentDrive d;
-    d.store.CurrentTermID = 2;
-    ASSERT_TRUE(d.files.LoadAssignments());
-    EXPECT_EQ(d.store.AssignmentDescriptions, (TextColumn{"Essay"}));
-    EXPECT_EQ(d.store.StudySessionRecordNos, (TextColumn{"4"}));
 }
 
 TEST(Assignments, ARecordIsTakenOncePerMatchingClassRowAsTheScanWould) {
@@ -181,13 +180,6 @@ TEST(Assignments, RecordNumbersCannotPass32767) {
     EXPECT_EQ(s.NextAssignmentRecord, 32767);
     EXPECT_EQ(s.AssignmentsChanged, kFalse);
     EXPECT_EQ(d.fake.messages.shown.at(0).text.substr(0, 39), "Error writing the file: Assignments.txt");
-}
-
-TEST(Assignments, ASessionRowThatIsNotThereFailsTheSave) {
-    StoreOnDrive d;
-    EXPECT_FALSE(d.files.SaveStudySession(0, 1));
-    EXPECT_EQ(d.store.NextStudySessionRecord, 1);
-    EXPECT_EQ(d.fake.messages.shown.size(), 1u);
 }
 
 }  // namespace

@@ -77,18 +77,5 @@ TEST(Backups, AFailingFileDoesNotStopTheOthers) {
     EXPECT_TRUE(d.fake.messages.shown.empty());
 }
 
-TEST(Backups, FilesAreRotatedInTheirFixedOrder) {
-    BackupDrive d;
-    for (const char* name : {"Terms", "Classes", "Assignments", "Notes", "StudySessions", "Tasks", "Events"})
-        d.writeFile(std::string(name) + ".txt", name);
-    for (Int16* flag : {&d.store.EventsChanged, &d.store.TermsChanged, &d.store.StudySessionsChanged}) *flag = kTrue;
-    d.fake.files.log.clear();
-    RotateBackups(d.store, d.fake.platform);
-    std::vector<std::string> copies;
-    for (const std::string& line : d.fake.files.log)
-        if (line.find(" copy from ") != std::string::npos) copies.push_back(line.substr(line.rfind('/') + 1));
-    EXPECT_EQ(copies, (std::vector<std::string>{"Terms.txt", "StudySessions.txt", "Events.txt"}));
-}
-
 }  // namespace
 }  // namespace qh

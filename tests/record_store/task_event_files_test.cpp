@@ -33,20 +33,6 @@ TEST(Tasks, TombstonesLeaveNoRowButAreCounted) {
     EXPECT_EQ(s.NextTaskRecord, 4);
 }
 
-TEST(Tasks, AnEditOverwritesInPlaceAndANewTaskIsAppended) {
-    StoreOnDrive d;
-    d.writeFile("Tasks.txt", taskRecord(1, "Buy stamps") + taskRecord(2, "Call home"));
-    ASSERT_TRUE(d.files.LoadTasks());
-    RecordStore& s = d.store;
-    s.TaskRecord = {"1", "1", "2026/12/01", "DELETED RECORD", "True", "Errand", "Low", "False", "notes", "None"};
-    ASSERT_TRUE(d.files.SaveTask(1));
-    s.TaskRecord = {"3", "3", "2026/12/01", "Pay rent", "True", "Errand", "Low", "False", "notes", "None"};
-    ASSERT_TRUE(d.files.SaveTask(0));
-    EXPECT_EQ(d.bytesOf("Tasks.txt"), taskRecord(1, "DELETED RECORD", "2026/12/01") + taskRecord(2, "Call home") +
-                                          taskRecord(3, "Pay rent", "2026/12/01"));
-    EXPECT_EQ(s.NextTaskRecord, 4);
-}
-
 TEST(Events, EndDatesAreRepairedButOtherwiseKeptAsTheyStand) {
     StoreOnDrive d;
     d.writeFile("Events.txt", eventRecord(1, "Holiday party", "2027.1.31") + eventRecord(2, "DELETED RECORD", "") +
