@@ -117,7 +117,7 @@ TEST(Pictures, EveryPictureTheWindowsNameExistsAndDraws) {
         "CalDayLeftUp",      "CalDayRightDown",    "CalDayRightUp",    "TodayDown",      "TodayUp",
         "TomorrowDown",      "TomorrowUp",         "Lock",             "Help",           "Web",
         "GridTitle",         "GridTitleUp",        "GridTitleDown",    "Checked",        "Unchecked",
-        "Splash"};
+        "Splash",            "RemindersPanel"};
     for (const char* name : names) {
         SCOPED_TRACE(name);
         ASSERT_TRUE(hasPicture(name));
@@ -134,6 +134,33 @@ TEST(Pictures, EveryPictureTheWindowsNameExistsAndDraws) {
         EXPECT_GT(opaque, size.width() * size.height() / 10);
     }
     EXPECT_FALSE(hasPicture("NoSuchPicture"));
+}
+
+QImage drawnInto(const char* name, QSize box) {
+    QImage image(box, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    drawPicture(painter, name, QRectF(image.rect()));
+    return image;
+}
+
+TEST(Pictures, APictureStandsAtItsOwnSizeUnlessMadeToFillItsBox) {
+    testApplication();
+    // The padlock in a larger box: at its own size, from the top left.
+    const QSize lock = pictureSize("Lock");
+    const QImage padlock = drawnInto("Lock", QSize(100, 100));
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 100; ++x)
+            if (x >= lock.width() || y >= lock.height()) {
+                ASSERT_EQ(padlock.pixelColor(x, y).alpha(), 0) << x << "," << y;
+            }
+    // A smaller box shrinks it, keeping its shape.
+    const QImage small = drawnInto("Lock", QSize(8, 100));
+    EXPECT_EQ(small.pixelColor(4, lock.height() - 2).alpha(), 0);
+    // A button face fills the width it is given.
+    const QImage face = drawnInto("TodayUp", QSize(200, pictureSize("TodayUp").height()));
+    EXPECT_GT(face.pixelColor(190, 8).alpha(), 0);
+    EXPECT_GT(face.pixelColor(100, 8).alpha(), 0);
 }
 
 TEST(Pictures, AWideColumnHeaderKeepsItsSortMarkAtTheRightEnd) {

@@ -16,21 +16,32 @@ namespace {
 
 QString resourcePath(const QString& name) { return QStringLiteral(":/pictures/%1.svg").arg(name); }
 
+struct Picture {
+    std::shared_ptr<QSvgRenderer> renderer;
+    // Drawn to fill its box (backgrounds of buttons and column headers, the splash);
+    // such pictures say so with preserveAspectRatio="none" on their root.
+    bool fills = false;
+};
+
 // One renderer per picture, made on first use; the program has one thread.
-QSvgRenderer* rendererFor(const QString& name) {
-    static QHash<QString, std::shared_ptr<QSvgRenderer>> cache;
+const Picture& pictureFor(const QString& name) {
+    static QHash<QString, Picture> cache;
     auto it = cache.find(name);
     if (it == cache.end()) {
-        std::shared_ptr<QSvgRenderer> renderer;
-        const QString path = resourcePath(name);
-        if (QFile::exists(path)) {
-            renderer = std::make_shared<QSvgRenderer>(path);
-            if (!renderer->isValid()) renderer.reset();
+        Picture picture;
+        QFile file(resourcePath(name));
+        if (file.open(QIODevice::ReadOnly)) {
+            const QByteArray text = file.readAll();
+            picture.renderer = std::make_shared<QSvgRenderer>(text);
+            if (!picture.renderer->isValid()) picture.renderer.reset();
+            picture.fills = text.contains("preserveAspectRatio=\"none\"");
         }
-        it = cache.insert(name, renderer);
+        it = cache.insert(name, picture);
     }
-    return it.value().get();
+    return it.value();
 }
+
+QSvgRenderer* rendererFor(const QString& name) { return pictureFor(name).renderer.get(); }
 
 }  // namespace
 
@@ -57,7 +68,16 @@ void drawPicture(QPainter& painter, const QString& name, const QRectF& target) {
     QSvgRenderer* renderer = rendererFor(name);
     if (!renderer || target.isEmpty()) return;
     const QSizeF own = renderer->defaultSize();
-    if (target.width() <= own.width() + 0.5 || own.width() <= 0) {
+    if (own.isEmpty()) return;
+    if (!pictureFor(name).fills) {
+        // At its own size from the top left, as a picture box shows a picture; made
+        // smaller, keeping its shape, only where the box is smaller.
+        const double shrink = std::min({1.0, target.width() / own.width(), target.height() / own.height()});
+        renderer->render(&painter, QRectF(target.topLeft(), own * shrink));
+        return;
+    }
+    const double wider = target.width() / target.height() - own.width() / own.height();
+    if (std::abs(wider) < 0.25 * own.width() / own.height()) {
         renderer->render(&painter, target);
         return;
     }

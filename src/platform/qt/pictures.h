@@ -18,10 +18,12 @@ bool hasPicture(const QString& name);
 // The picture's own size in pixels; empty for an unknown name.
 QSize pictureSize(const QString& name);
 
-// Draws the picture into the target rectangle (pixels). A target of the picture's own
-// size shows it as drawn; a wider one stretches the middle and keeps both ends at their
-// own width, so bevels and the sort mark of a column header keep their shape. Unknown
-// names draw nothing.
+// Draws the picture into the target rectangle (pixels). Most pictures stand at their own
+// size at the top left (smaller, keeping their shape, in a smaller box). Pictures made
+// to fill a box (button faces, column headers, the splash) fill it: one of about its
+// shape is scaled, a much wider one keeps both ends at their own width and stretches the
+// middle, so bevels and the sort mark of a column header keep their shape. Unknown names
+// draw nothing.
 void drawPicture(QPainter& painter, const QString& name, const QRectF& target);
 
 // Maps the font names of the planner's windows ("Verdana", "Arial", "MS Sans Serif",
