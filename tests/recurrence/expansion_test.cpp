@@ -7,6 +7,7 @@
 
 #include "recurrence/event_records.h"
 #include "recurrence/occurrence.h"
+#include "recurrence/reminders.h"
 
 namespace qh {
 namespace {
@@ -141,22 +142,6 @@ TEST(ExpandEvents, CountersCountBeforeTheFilter) {
     EXPECT_EQ(none.EventTotal, 6);
 }
 
-TEST(ExpandEvents, RowsTakeTheColourOfTheirType) {
-    RecordStore store;
-    const std::vector<std::pair<std::string, std::string>> colours = {
-        {"Birthday", "Gold"},         {"Class", "LightYellow"},  {"Holiday", "LightPink"},
-        {"School", "NavajoWhite"},    {"Home", "MistyRose"},     {"Personal", "Lavender"},
-        {"Friends", "PaleGoldenrod"}, {"Family", "Honeydew"},    {"Recreation", "PaleGreen"},
-        {"Work", "PaleTurquoise"},    {"None", "White"},         {"Project", "White"}};
-    for (const auto& [type, colour] : colours) addEvent(store, {.date = "2026/01/02", .type = type});
-    const EventRows rows = ExpandEvents(store, ymd(2026, 1, 1), "Week", "All");
-    ASSERT_EQ(rows.ListEventBackColors.count(), int(colours.size()));
-    for (int i = 1; i <= rows.ListEventBackColors.count(); ++i) {
-        EXPECT_EQ(rows.ListEventBackColors(i), colours[std::size_t(i - 1)].second) << colours[std::size_t(i - 1)].first;
-        EXPECT_EQ(rows.ListEventForeColors(i), "Black");
-    }
-}
-
 TEST(ExpandEvents, AFirstDateCenturiesBackStillLandsOnTheRightDays) {
     RecordStore store;
     addEvent(store, {.date = "1700/01/31", .recurrence = "Month"});
@@ -177,6 +162,11 @@ TEST(ExpandEvents, LastWeekdayFirstOnAnEarlierSuchWeekdayIsNotListed) {
     EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 22), Int16(row)));
     EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 29), Int16(row)));
     EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2022, 8, 1), "Month", "All")), (Texts{"2022/08/29"}));
+    // The reminder walk steps the same way: a week's notice on the first date shows only the 29th.
+    store.EventReminders(row) = "7 Days";
+    ReminderRows reminders;
+    GatherEventReminders(store, ymd(2022, 8, 22), "All", reminders);
+    EXPECT_EQ(reminders.ReminderDates, (Column<Date>{ymd(2022, 8, 29)}));
 }
 
 }  // namespace
