@@ -66,6 +66,7 @@ public:
     Control& c(const std::string& key);
     const Control& c(const std::string& key) const;
     Control& c(const std::string& name, int index) { return c(name + "(" + std::to_string(index) + ")"); }
+    const Control& c(const std::string& name, int index) const { return c(name + "(" + std::to_string(index) + ")"); }
     const std::vector<std::string>& order() const { return order_; }
 
     // Handlers. fire() runs the handler of a control's event; an event without a handler

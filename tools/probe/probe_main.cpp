@@ -1,0 +1,32 @@
+// probe DRIVE [HOST]: reads actions from standard input, one a line, and prints what the
+// main window shows at each "print". See the README for the actions.
+#include <filesystem>
+#include <iostream>
+
+#include "probe_session.h"
+
+int main(int argc, char** argv) {
+    if (argc < 2 || argc > 3) {
+        std::cerr << "usage: probe DRIVE [HOST]\n";
+        return 2;
+    }
+    const std::string host = argc == 3 ? argv[2] : std::string(argv[1]) + "/../probe-host";
+    try {
+        std::filesystem::create_directories(host);
+        qh::ProbeSession session(argv[1], host, std::cout);
+        std::string line;
+        int number = 0;
+        while (std::getline(std::cin, line)) {
+            ++number;
+            if (line.empty() || line[0] == '#') continue;
+            if (!session.action(line)) {
+                std::cerr << "probe: line " << number << " not understood: " << line << "\n";
+                return 2;
+            }
+        }
+    } catch (const std::exception& failure) {
+        std::cerr << "probe: the planner stopped: " << failure.what() << "\n";
+        return 1;
+    }
+    return 0;
+}

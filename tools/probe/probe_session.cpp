@@ -1,0 +1,186 @@
+#include "probe_session.h"
+
+#include <sstream>
+
+#include "state_printer.h"
+
+namespace qh {
+namespace {
+
+const char* menuOfMode(const std::string& mode) {
+    if (mode == "homework") return "MenuHomework";
+    if (mode == "sessions") return "MenuStudySessions";
+    if (mode == "tasks") return "MenuTasks";
+    if (mode == "events") return "MenuEvents";
+    if (mode == "reminders") return "MenuReminders";
+    return nullptr;
+}
+
+const char* arrowControl(const std::string& arrow) {
+    if (arrow == "month-up") return "picCalMonthUp";
+    if (arrow == "month-down") return "picCalMonthDown";
+    if (arrow == "day-up") return "picCalDayUp";
+    if (arrow == "day-down") return "picCalDayDown";
+    return nullptr;
+}
+
+std::string restOf(std::istringstream& words) {
+    std::string rest;
+    std::getline(words >> std::ws, rest);
+    return rest;
+}
+
+}  // namespace
+
+ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
+    : out_(out),
+      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_} {
+    environment_.values = {{"U3_DEVICE_PATH", drive},
+                           {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
+                           {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
+                           {"U3_HOST_EXEC_PATH", host}};
+}
+
+ProbeSession::~ProbeSession() = default;
+
+void ProbeSession::start() {
+    window_ = std::make_unique<MainWindow>(store_, platform_);
+    window_->Form_Load();
+    windowing_.show(*window_);
+    reportMessages();
+}
+
+void ProbeSession::reportMessages() {
+    PrintMessages(messages_.shown, messagesReported_, out_);
+    messagesReported_ = messages_.shown.size();
+}
+
+bool ProbeSession::run(std::istream& script) {
+    std::string line;
+    while (std::getline(script, line)) {
+        if (line.empty() || line[0] == '#') continue;
+        if (!action(line)) return false;
+    }
+    return true;
+}
+
+bool ProbeSession::action(const std::string& line) {
+    std::istringstream words(line);
+    std::string verb;
+    words >> verb;
+    if (verb == "clock") {
+        std::string date, time = "09:00";
+        words >> date >> time;
+        int y = 0, m = 0, d = 0, hh = 0, mm = 0;
+        if (std::sscanf(date.c_str(), "%d-%d-%d", &y, &m, &d) != 3 || std::sscanf(time.c_str(), "%d:%d", &hh, &mm) != 2)
+            return false;
+        clock_.set(y, m, d, hh, mm);
+        return true;
+    }
+    if (verb == "answer") {
+        const std::string answer = restOf(words);
+        messages_.answers.push_back(answer == "yes" ? MessageAnswer::Yes
+                                    : answer == "no" ? MessageAnswer::No
+                                    : answer == "cancel" ? MessageAnswer::Cancel
+                                                         : MessageAnswer::OK);
+        return true;
+    }
+    if (verb == "file") {
+        FileDialogAnswer answer;
+        const std::string path = restOf(words);
+        if (path != "cancel") {
+            answer.chosen = true;
+            answer.fullPath = path;
+            answer.fileTitle = path.substr(path.find_last_of('/') + 1);
+        }
+        dialogs_.fileAnswers.push_back(answer);
+        return true;
+    }
+    if (verb == "start") {
+        if (!started()) start();
+        return true;
+    }
+    if (!started()) start();
+    MainWindow& w = *window_;
+
+    if (verb == "print") {
+        PrintWindowState(w, out_);
+    } else if (verb == "mode") {
+        const char* menu = menuOfMode(restOf(words));
+        if (!menu) return false;
+        w.click(menu);
+    } else if (verb == "list") {
+        w.select("ComboList", restOf(words));
+    } else if (verb == "range") {
+        w.select("ComboDateRange", restOf(words));
+    } else if (verb == "cell") {
+        int index = -1;
+        words >> index;
+        if (index < 0 || index > 41) return false;
+        w.click("LabelCalDate(" + std::to_string(index) + ")");
+    } else if (verb == "today") {
+        w.click("LabelToday");
+    } else if (verb == "tomorrow") {
+        w.click("LabelTomorrow");
+    } else if (verb == "arrow") {
+        std::string which;
+        int repeats = 0;
+        words >> which >> repeats;
+        const char* control = arrowControl(which);
+        if (!control) return false;
+        w.press(control);
+        for (int i = 0; i < repeats; ++i) w.tick("TimerButton");
+        w.release(control);
+    } else if (verb == "day-header") {
+        int index = -1;
+        words >> index;
+        if (index < 0 || index > 6) return false;
+        w.click("LabelCalDay(" + std::to_string(index) + ")");
+    } else if (verb == "start-day") {
+        const std::string day = restOf(words);
+        const char* menu = day == "Monday" ? "MenuStartMon" : day == "Saturday" ? "MenuStartSat" : "MenuStartSun";
+        w.click(menu);
+    } else if (verb == "grid-header") {
+        int index = -1;
+        words >> index;
+        if (index < 0 || index > 8) return false;
+        w.click("picColHeader(" + std::to_string(index) + ")");
+    } else if (verb == "scroll") {
+        int value = 1;
+        words >> value;
+        w.scrollTo("VSGridScroll", value);
+    } else if (verb == "row") {
+        int k = 0;
+        words >> k;
+        EventArgs at;
+        at.x = 600;
+        at.y = (w.state.HeaderHeight + (k - 1) * w.state.RowPitch + w.state.RowPitch / 2) * 15;
+        w.press("picGrid", at);
+        w.release("picGrid", at);
+    } else if (verb == "stopwatch") {
+        const std::string what = restOf(words);
+        w.click(what == "start" ? "ButtonStart" : what == "reset" ? "ButtonReset" : "LabelTime");
+    } else if (verb == "wait") {
+        long long seconds = 0;
+        words >> seconds;
+        // The timers that tick in that time: the stopwatch every second, the status bar
+        // every ten. Ticking once at the end is the same, since both read the clock.
+        clock_.advanceSeconds(seconds);
+        w.tick("Timer1");
+        if (seconds >= 10) w.tick("TimerStatusBar");
+    } else if (verb == "resize") {
+        int width = 0, height = 0;
+        words >> width >> height;
+        w.setOuterSize(width, height);
+        w.Form_Resize();
+    } else if (verb == "exit") {
+        windowing_.close(w);
+        out_ << "Closed\n";
+    } else {
+        return false;
+    }
+    reportMessages();
+    return true;
+}
+
+}  // namespace qh

@@ -1,0 +1,145 @@
+#include "state_printer.h"
+
+#include <iomanip>
+
+#include "support/recording_canvas.h"
+
+namespace qh {
+namespace {
+
+const char* modeName(Mode mode) {
+    switch (mode) {
+        case Mode::Homework: return "Homework";
+        case Mode::StudySessions: return "Study Sessions";
+        case Mode::Tasks: return "Tasks";
+        case Mode::Events: return "Events";
+        case Mode::Reminders: return "Reminders";
+        case Mode::None: break;
+    }
+    return "None";
+}
+
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+void printCombo(const Form& window, const std::string& name, std::ostream& out) {
+    const Control& combo = window.c(name);
+    out << name << ": " << quoted(combo.text) << " of [";
+    for (std::size_t i = 0; i < combo.items.size(); ++i) out << (i ? ", " : "") << combo.items[i];
+    out << "]\n";
+}
+
+const RecordingCanvas* recording(const Control& control) {
+    return dynamic_cast<const RecordingCanvas*>(control.canvas.get());
+}
+
+// The texts of a canvas inside a box, and the colour of the filled box that starts there.
+std::string cellText(const RecordingCanvas& canvas, int x1, int y1, int x2, int y2) {
+    return canvas.textsIn(x1, y1, x2, y2);
+}
+
+std::string cellFill(const RecordingCanvas& canvas, int x1, int y1, int x2, int y2) {
+    std::string fill;
+    for (const CanvasCall& call : canvas.calls())
+        if (call.kind == CanvasCall::FilledBox && call.x1 >= x1 && call.x1 <= x2 && call.y1 >= y1 && call.y1 <= y2)
+            fill = colorText(call.color);
+    return fill;
+}
+
+std::string cellPicture(const RecordingCanvas& canvas, int x1, int y1, int x2, int y2) {
+    std::string picture;
+    for (const CanvasCall& call : canvas.calls())
+        if (call.kind == CanvasCall::Picture && call.x1 >= x1 && call.x1 <= x2 && call.y1 >= y1 && call.y1 <= y2)
+            picture = call.text;
+    return picture;
+}
+
+void printGrid(const MainWindow& window, std::ostream& out) {
+    std::vector<const Control*> headers;
+    for (int i = 0; i < 9; ++i)
+        if (window.c("picColHeader", i).visible) headers.push_back(&window.c("picColHeader", i));
+    out << "Grid headers:";
+    for (const Control* header : headers) {
+        const RecordingCanvas* canvas = recording(*header);
+        out << " [" << (canvas ? canvas->textsIn(0, 0, 1 << 20, 1 << 20) : "") << " " << header->picture << "]";
+    }
+    out << "\n";
+    const RecordingCanvas* grid = recording(window.c("picGrid"));
+    if (!grid) return;
+    const MainWindowState& s = window.state;
+    const int pitch = s.RowPitch * 15;
+    const int visible = std::min<int>(s.RowsVisible, std::max<int>(0, s.RowCount - s.TopRow + 1));
+    out << "Rows: " << s.RowCount << " from " << s.TopRow << "\n";
+    for (int v = 1; v <= visible; ++v) {
+        const int top = (v - 1) * pitch + s.HeaderHeight * 15;
+        out << "Row " << v << ":";
+        for (const Control* header : headers) {
+            const int x1 = header->left, x2 = header->left + header->width - 1;
+            out << " | " << cellText(*grid, x1, top, x2, top + pitch - 1);
+            const std::string fill = cellFill(*grid, x1, top, x2, top + pitch - 1);
+            if (!fill.empty()) out << " {" << fill << "}";
+            const std::string picture = cellPicture(*grid, x1, top, x2, top + pitch - 1);
+            if (!picture.empty()) out << " <" << picture << ">";
+        }
+        out << "\n";
+    }
+}
+
+}  // namespace
+
+void PrintWindowState(const MainWindow& window, std::ostream& out) {
+    out << "== " << modeName(window.CurrentMode()) << "\n";
+    out << "LabelTop: " << quoted(window.c("LabelTop").caption) << "\n";
+    for (const char* label : {"LabelTotalAssignments", "LabelFinishedAssignments", "LabelTimeRemaining"}) {
+        const Control& control = window.c(label);
+        if (control.visible) out << label << ": " << quoted(control.caption) << "\n";
+    }
+    for (const std::string& key : window.order()) {
+        const Control& box = window.c(key);
+        if (box.kind == ControlKind::TextBox && box.visible && box.container.empty())
+            out << key << ": " << quoted(box.text) << " on " << colorText(box.backColor) << "\n";
+    }
+    if (window.c("PictureBoxTerm").visible) {
+        out << "Term: " << quoted(window.c("LabelTerm").caption) << " " << quoted(window.c("LabelDaysLeft").caption)
+            << "\n";
+        printCombo(window, "ComboGPA", out);
+    }
+    if (window.c("PictureBoxStudyTime").visible) {
+        for (const char* box : {"TextBoxMinimum", "TextBoxSuggested"})
+            out << box << ": " << quoted(window.c(box).text) << " on " << colorText(window.c(box).backColor) << "\n";
+    }
+    if (window.c("PictureBoxStudySessions").visible)
+        out << "Stopwatch: " << quoted(window.c("LabelTime").caption) << " " << window.c("ButtonStart").caption << "\n";
+    printCombo(window, "ComboList", out);
+    printCombo(window, "ComboDateRange", out);
+    out << "Status: " << quoted(window.state.StatusBarText) << "\n";
+    if (const RecordingCanvas* bar = recording(window.c("picStatusBar"))) {
+        const auto texts = bar->texts();
+        if (texts.size() > 1) out << "Clock: " << quoted(texts.back()) << "\n";
+    }
+
+    out << "Calendar: " << window.c("LabelMonth").caption << "\n";
+    out << "Days:";
+    for (int i = 0; i < 7; ++i) {
+        const Control& day = window.c("LabelCalDay", i);
+        out << " " << day.caption << (day.underline ? "_" : "");
+    }
+    out << "\n";
+    for (int row = 0; row < 6; ++row) {
+        for (int col = 0; col < 7; ++col) {
+            const int i = row * 7 + col;
+            const Control& cell = window.c("LabelCalDate", i);
+            out << (col ? "  " : "") << std::setw(2) << cell.caption << (cell.bold ? "*" : " ")
+                << (window.state.CellIsToday[std::size_t(i)] ? "[" : " ") << colorText(cell.foreColor).substr(2)
+                << "/" << colorText(cell.backColor).substr(2);
+        }
+        out << "\n";
+    }
+    printGrid(window, out);
+}
+
+void PrintMessages(const std::vector<ShownMessage>& shown, std::size_t from, std::ostream& out) {
+    for (std::size_t i = from; i < shown.size(); ++i)
+        out << "Message: " << quoted(shown[i].title) << " " << quoted(shown[i].text) << "\n";
+}
+
+}  // namespace qh
