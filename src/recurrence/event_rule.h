@@ -41,8 +41,8 @@ struct EventRule {
     Date endDate() const;
     std::optional<Date> readableEnd;  // the end date when `ends` is set and its text is a date
 
-    // The letter of `EventRepeatDailies` for the weekday of `date`: Monday at position 1
-    // up to Saturday at 6, Sunday at 7.
+    // The letter of `EventRepeatDailies` for weekday number `weekday` (1 = Sunday): Monday
+    // stands at position 1 up to Saturday at 6, and Sunday at 7.
     char dailyLetter(int weekday) const { return dailies[weekday == 1 ? 6 : weekday - 2]; }
 };
 

@@ -39,7 +39,8 @@ inline int weekdaySearch(int year, int month, int wantedWeekday, Ordinal ordinal
 //
 // Every candidate of step n lies in the n-th month (year) after the first date's, so the
 // steps whose month (year) lies before that of `windowStart` are passed over without
-// being built: a first date centuries back costs no more than one in the range.
+// being built: a first date centuries back costs no more than one in the range. The step
+// counter is a plain int: starting near the window, it never comes close to running out.
 template <class IsPast, class Visit>
 void walkSteppedRule(const EventRule& rule, Date windowStart, IsPast isPast, Visit visit) {
     const bool monthly = rule.recurrence == Recurrence::Month;
