@@ -4,8 +4,6 @@
 
 namespace qh {
 
-void MainWindow::UpdateGradeList() {}
-void MainWindow::UpdateStudyTimeToday(Date) {}
 void MainWindow::NewAssignment() {}
 void MainWindow::EditAssignment(int) {}
 void MainWindow::NewTask() {}
