@@ -347,3 +347,65 @@ TEST_F(FormRendererTest, AFailureInAClickHandlerReachesTheFailureReport) {
 
 }  // namespace
 }  // namespace qh
+
+#include <QFile>
+#include <QHelpEvent>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include "platform/qt/qt_platform.h"
+
+namespace qh {
+namespace {
+
+TEST_F(FormRendererTest, WhatsThisAsksForTheControlsHelpNumber) {
+    window.c("ButtonOK").helpContextId = 203;
+    renderer.show(window);
+    std::vector<int> asked;
+    renderer.showHelp = [&](int number) { asked.push_back(number); };
+    QWidget* ok = widget("ButtonOK");
+    EXPECT_FALSE(ok->whatsThis().isEmpty());
+    QHelpEvent help(QEvent::WhatsThis, QPoint(2, 2), ok->mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(ok, &help);
+    // A control without a number has no help to show.
+    QHelpEvent none(QEvent::WhatsThis, QPoint(2, 2), QPoint(2, 2));
+    QApplication::sendEvent(widget("ButtonBoom"), &none);
+    EXPECT_EQ(asked, std::vector<int>{203});
+}
+
+TEST_F(FormRendererTest, AWindowsImageGoesToTheChosenPrinter) {
+    QTemporaryDir folder;
+    const QString pdf = QDir(folder.path()).filePath("screen.pdf");
+    PrinterChoice choice;
+    choice.printer = std::make_unique<QPrinter>();
+    choice.printer->setOutputFormat(QPrinter::PdfFormat);
+    choice.printer->setOutputFileName(pdf);
+    QtWindowing windowing(renderer, choice);
+    EXPECT_THROW(windowing.printWindowImage(window, ""), FileFailure);  // not on the screen
+    renderer.show(window);
+    windowing.printWindowImage(window, "");
+    QFile printed(pdf);
+    ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(printed.read(4) == "%PDF");
+    EXPECT_GT(printed.size(), 1000);
+}
+
+TEST_F(FormRendererTest, ControlsAddedAfterTheWindowShowsAppearToo) {
+    renderer.show(window);
+    renderer.forward([&] {
+        window.add(ControlKind::Label, "LabelCalDate", "picGrid", 900, 150, 450, 240, 4).caption = "22";
+        window.addMenu("MenuHelp", "", "&Help");
+    });
+    QWidget* added = widget("LabelCalDate(4)");
+    ASSERT_NE(added, nullptr);
+    EXPECT_EQ(added->parentWidget(), widget("picGrid"));
+    EXPECT_EQ(shown().menuBar()->actions().size(), 3);
+    // Rebuilding the menus kept their state and their handlers.
+    ASSERT_NE(shown().action("MenuTasks"), nullptr);
+    shown().action("MenuTasks")->trigger();
+    EXPECT_EQ(window.log, "tasks;");
+    EXPECT_TRUE(shown().action("MenuTasks")->isChecked());
+}
+
+}  // namespace
+}  // namespace qh

@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+#include <functional>
 #include <QFile>
 #include <QLocale>
 #include <QSysInfo>
@@ -93,6 +99,89 @@ TEST(QtPlatform, GivesEveryPartOfThePlatform) {
     auto canvas = platform.canvases.create();
     canvas->resize(1500, 750);
     EXPECT_EQ(canvas->scaleWidth(), 1500);
+}
+
+}  // namespace
+}  // namespace qh
+
+namespace qh {
+namespace {
+
+// Runs `user` on the modal dialog once it is up.
+template <typename Dialog>
+void whenShown(std::function<void(Dialog*)> user) {
+    QTimer::singleShot(0, [user] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        user(dialog);
+    });
+}
+
+TEST(QtMessageBoxes, ShowTitleTextIconAndButtonsAndReturnTheAnswer) {
+    testApplication();
+    QtMessageBoxes messages;
+    QString title, text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    int buttons = 0;
+    whenShown<QMessageBox>([&](QMessageBox* box) {
+        title = box->windowTitle();
+        text = box->text();
+        icon = box->icon();
+        buttons = int(box->buttons().size());
+        box->button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(messages.show("Delete this assignment?", "Quillhollow", MessageButtons::YesNo, MessageIcon::Information),
+              MessageAnswer::No);
+    EXPECT_EQ(title, "Quillhollow");
+    EXPECT_EQ(text, "Delete this assignment?");
+    EXPECT_EQ(icon, QMessageBox::Information);
+    EXPECT_EQ(buttons, 2);
+
+    whenShown<QMessageBox>([&](QMessageBox* box) {
+        icon = box->icon();
+        box->button(QMessageBox::Ok)->click();
+    });
+    EXPECT_EQ(messages.show("Cannot write", "File Error", MessageButtons::OK, MessageIcon::Exclamation),
+              MessageAnswer::OK);
+    EXPECT_EQ(icon, QMessageBox::Warning);
+}
+
+TEST(QtDialogs, TheSaveDialogTakesFiltersExtensionAndTheReplaceQuestion) {
+    testApplication();
+    QTemporaryDir folder;
+    PrinterChoice choice;
+    QtDialogs dialogs(choice);
+    FileDialogRequest request;
+    request.title = "Export Assignment List to HTML File";
+    request.startDirectory = folder.path().toStdString();
+    request.startPath = "Homework.html";
+    request.filters = {{"HTML Files (*.html)", "*.html"}, {"All Files (*.*)", "*.*"}};
+    request.defaultExtension = "html";
+    request.askBeforeReplace = true;
+
+    QStringList filters;
+    bool confirms = false;
+    QString suffix, title;
+    whenShown<QFileDialog>([&](QFileDialog* dialog) {
+        filters = dialog->nameFilters();
+        confirms = !dialog->testOption(QFileDialog::DontConfirmOverwrite);
+        suffix = dialog->defaultSuffix();
+        title = dialog->windowTitle();
+        dialog->selectFile("Fall list");
+        static_cast<QDialog*>(dialog)->accept();  // as the Save button does
+    });
+    const FileDialogAnswer answer = dialogs.fileDialog(request);
+    EXPECT_EQ(filters, QStringList({"HTML Files (*.html)", "All Files (*)"}));
+    EXPECT_TRUE(confirms);
+    EXPECT_EQ(suffix, "html");
+    EXPECT_EQ(title, "Export Assignment List to HTML File");
+    ASSERT_TRUE(answer.chosen);
+    EXPECT_EQ(answer.errorCode, 0);
+    EXPECT_EQ(answer.fullPath, QDir(folder.path()).filePath("Fall list.html").toStdString());
+    EXPECT_EQ(answer.fileTitle, "Fall list.html");
+
+    whenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
+    EXPECT_FALSE(dialogs.fileDialog(request).chosen);
 }
 
 }  // namespace

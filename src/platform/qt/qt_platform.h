@@ -2,6 +2,7 @@
 // The real platform of the program: Qt for the screen, the dialogs, processes and the
 // host's formats; POSIX for files. One object owns every part and hands out qh::Platform.
 #include <QLockFile>
+#include <QPrinter>
 #include <memory>
 
 #include "platform/platform.h"
@@ -9,7 +10,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_canvas.h"
 
-class QPrinter;
+
 
 namespace qh {
 
