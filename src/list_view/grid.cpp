@@ -261,6 +261,7 @@ void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
 void MainWindow::BuildList(Mode mode) {
     switch (mode) {
         case Mode::Homework: BuildHomeworkList(*this); break;
+        case Mode::StudySessions: BuildStudySessionList(*this); break;
         default: break;
     }
 }
