@@ -262,6 +262,7 @@ void MainWindow::BuildList(Mode mode) {
     switch (mode) {
         case Mode::Homework: BuildHomeworkList(*this); break;
         case Mode::StudySessions: BuildStudySessionList(*this); break;
+        case Mode::Tasks: BuildTaskList(*this); break;
         default: break;
     }
 }
