@@ -261,6 +261,8 @@ void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
 void MainWindow::BuildList(Mode mode) {
     switch (mode) {
         case Mode::Homework: BuildHomeworkList(*this); break;
+        case Mode::Events: BuildEventList(*this); break;
+        case Mode::Reminders: BuildReminderList(*this); break;
         case Mode::StudySessions: BuildStudySessionList(*this); break;
         case Mode::Tasks: BuildTaskList(*this); break;
         default: break;
