@@ -1,0 +1,255 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "list_view/list_fixture.h"
+#include "recurrence/event_records.h"
+#include "shell/month_navigator.h"
+#include "support/main_window_fixture.h"
+
+namespace qh {
+namespace {
+
+using namespace qh::testing;
+using test::addEvent;
+using test::EventFields;
+
+const Date kDay = dateFromYmd(2026, 11, 21);  // a Saturday; the fake clock's today
+
+// Weekday letters run Monday to Sunday.
+constexpr const char* kSaturdays = "FFFFFTF";
+constexpr const char* kMondaysAndWednesdays = "TFTFFFF";
+
+int addTimedEvent(RecordStore& s, const EventFields& f, const std::string& time) {
+    const int row = addEvent(s, f);
+    s.EventTimes(row) = time;
+    return row;
+}
+
+// --- One day ---------------------------------------------------------------------------------
+
+TEST(GatherEvents, ListsTheDaysOccurrencesAndCountsBeforeTheFilter) {
+    RecordStore s;
+    addEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class"});
+    addEvent(s, {.date = "2026/11/21", .type = "Birthday"});
+    addEvent(s, {.date = "2026/11/22", .type = "Work"});                          // the next day
+    addEvent(s, {.date = "2026/11/21", .type = "Work", .description = "DELETED RECORD"});
+    addEvent(s, {.date = "2025/11/21", .recurrence = "Year", .type = "None"});  // a year on
+
+    const EventRows all = GatherEvents(s, kDay, "All");
+    EXPECT_EQ(all.ListEventRows, (Column<Int16>{1, 2, 5}));
+    EXPECT_EQ(all.ListEventDates, (Column<Date>{kDay, kDay, kDay}));
+    EXPECT_EQ(all.ListEventForeColors, (TextColumn{"Black", "Black", "Black"}));
+    EXPECT_EQ(all.ListEventBackColors, (TextColumn{"LightYellow", "Gold", "White"}));
+    EXPECT_EQ(all.EventTotal, 3);
+
+    const EventRows classes = GatherEvents(s, kDay, "Classes");
+    EXPECT_EQ(classes.ListEventRows, (Column<Int16>{1}));
+    EXPECT_EQ(classes.EventClassCount, 1);
+    EXPECT_EQ(classes.EventOtherCount, 2);  // counted, though not listed
+
+    const EventRows others = GatherEvents(s, kDay, "Other Events");
+    EXPECT_EQ(others.ListEventRows, (Column<Int16>{2, 5}));
+    EXPECT_EQ(others.ListEventBackColors, (TextColumn{"Gold", "White"}));
+}
+
+TEST(GatherEvents, EveryDayOfAWeekTogetherGivesTheWeeksExpansion) {
+    RecordStore s;
+    addEvent(s, {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays, .type = "Class"});
+    addEvent(s, {.date = "2026/10/24", .recurrence = "Month", .sameDate = "True"});
+    addEvent(s, {.date = "2026/09/26", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+                 .repeatDay = "Saturday"});
+    addEvent(s, {.date = "2026/11/25", .type = "Holiday"});
+    addEvent(s, {.date = "2026/11/20", .recurrence = "Day", .repeatDaily = kSaturdays, .ends = "True",
+                 .endDate = "2026/11/26"});
+
+    std::multiset<std::pair<int, Date>> byDay, byRange;
+    for (Date d = kDay; d <= kDay + 7; ++d) {
+        const EventRows rows = GatherEvents(s, d, "All");
+        for (int i = 1; i <= rows.ListEventRows.count(); ++i) byDay.insert({rows.ListEventRows(i), rows.ListEventDates(i)});
+    }
+    const EventRows week = ExpandEvents(s, kDay, "Week", "All");
+    for (int i = 1; i <= week.ListEventRows.count(); ++i) byRange.insert({week.ListEventRows(i), week.ListEventDates(i)});
+    EXPECT_EQ(byDay, byRange);
+    EXPECT_EQ(byDay.size(), 6u);  // Monday 23 and Wednesday 25; the 24th; the 28th; the 25th; the 21st
+}
+
+// --- The list in the window ------------------------------------------------------------------
+
+class EventListTest : public ::testing::Test {
+protected:
+    EventListTest() : list(Mode::Events) { list.filters("All", "Day"); }
+    void sortBy(int column, int direction) {
+        list.window.state.SortColumn = Int16(column);
+        list.window.state.SortDirection = Int16(direction);
+        list.build();
+    }
+    std::vector<std::string> names() {
+        std::vector<std::string> found;
+        for (int v = 1; v <= list.window.state.RowCount; ++v) found.push_back(list.cell(v, 1));
+        return found;
+    }
+    ListWindow list;
+    RecordStore& s = list.store;
+};
+
+TEST_F(EventListTest, TitleNamesTheDayOrTheLastDateOfTheRange) {
+    const std::pair<const char*, const char*> titles[] = {
+        {"Day", "Events for Saturday, November 21, 2026"},
+        {"Week", "Events until Saturday, November 28, 2026"},  // eight dates
+        {"Month", "Events until Monday, December 21, 2026"},
+        {"Year", "Events until Saturday, November 20, 2027"},  // one day short of a year
+    };
+    for (const auto& [range, title] : titles) {
+        list.filters("Other Events", range);
+        list.build();
+        EXPECT_EQ(list.window.c("LabelTop").caption, title) << range;
+    }
+}
+
+TEST_F(EventListTest, RowsShowTheOccurrenceWithItsTimeAndEmptyCellsForNone) {
+    addTimedEvent(s, {.date = "2001/11/23", .recurrence = "Year", .type = "Birthday", .description = "Grandma"},
+                  "9:05 PM");
+    addTimedEvent(s, {.date = "2026/11/21", .type = "None", .description = "Dentist"}, "None");
+    addTimedEvent(s, {.date = "2026/11/22", .type = "Work", .description = "Shift"}, "7:30");
+    list.filters("All", "Year");
+    list.build();
+
+    ASSERT_EQ(list.window.state.RowCount, 3);  // sorted by date
+    EXPECT_EQ(list.cell(1, 1), " Dentist");
+    EXPECT_EQ(list.cell(1, 2), "");  // type "None"
+    EXPECT_EQ(list.cell(1, 3), "21-Nov-26");
+    EXPECT_EQ(list.cell(1, 4), "");  // time "None"
+    EXPECT_EQ(list.cell(1, 5), "");  // recurrence "None"
+    EXPECT_EQ(list.cellBack(1, 2), kWhite);
+    EXPECT_EQ(list.cell(2, 4), "07:30 AM");
+    // A yearly event shows the date of its occurrence in the range, not its first date.
+    EXPECT_EQ(list.cell(3, 1), " Grandma");
+    EXPECT_EQ(list.cell(3, 2), "Birthday");
+    EXPECT_EQ(list.cell(3, 3), "23-Nov-26");
+    EXPECT_EQ(list.cell(3, 4), "09:05 PM");
+    EXPECT_EQ(list.cell(3, 5), "Year");
+    EXPECT_EQ(list.cellBack(3, 5), list.window.colors->ColorValues("Gold"));
+    EXPECT_EQ(list.window.state.ListEventDates(3), dateFromYmd(2026, 11, 23));
+    EXPECT_EQ(list.window.state.ListEventRows(3), 1);
+    for (const CanvasCall& call : list.grid().calls()) {
+        if (call.kind == CanvasCall::Text) {
+            EXPECT_EQ(call.color, kBlack) << call.text;
+        }
+    }
+}
+
+TEST_F(EventListTest, HeadersCarryTheSixTitlesWithTheArrowOnTheSortedOne) {
+    list.build();
+    const char* titles[] = {"#", "Name", "Type", "Date", "Time", "Recurrence"};
+    for (int c = 0; c < 6; ++c) EXPECT_EQ(list.header(c).texts(), std::vector<std::string>{titles[c]});
+    EXPECT_FALSE(list.window.c("picColHeader", 6).visible);
+    EXPECT_EQ(list.window.c("picColHeader", 3).picture, "GridTitleUp");
+    list.window.click("picColHeader(3)");
+    EXPECT_EQ(list.window.c("picColHeader", 3).picture, "GridTitleDown");
+}
+
+TEST_F(EventListTest, SummaryCountsBothKindsOnWhiteWhateverTheFilterShows) {
+    addEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class"});
+    addEvent(s, {.date = "2026/11/21", .type = "Family"});
+    addEvent(s, {.date = "2026/11/23", .type = "Family"});
+    list.window.c("TextBoxClasses").backColor = kOpenWorkPink;
+    list.window.c("TextBoxOtherEvents").backColor = kOpenWorkPink;
+    list.filters("Classes", "Week");
+    list.build();
+    EXPECT_EQ(list.text("TextBoxClasses"), "2");  // the 21st and the 28th
+    EXPECT_EQ(list.text("TextBoxOtherEvents"), "2");
+    EXPECT_EQ(list.back("TextBoxClasses"), kWhite);
+    EXPECT_EQ(list.back("TextBoxOtherEvents"), kWhite);
+    EXPECT_EQ(list.numbers(), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(list.window.state.ListEventRows, (Column<int>{1, 1}));
+
+    list.filters("Classes", "Day");
+    list.build();
+    EXPECT_EQ(list.text("TextBoxClasses"), "1");
+    EXPECT_EQ(list.text("TextBoxOtherEvents"), "1");
+}
+
+TEST_F(EventListTest, RowsWithoutTypeTimeOrRecurrenceSinkInBothDirections) {
+    addTimedEvent(s, {.date = "2026/11/21", .description = "Dentist"}, "None");
+    addTimedEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class",
+                      .description = "Chemistry"},
+                  "10:00 AM");
+    addTimedEvent(s, {.date = "2026/10/21", .recurrence = "Month", .type = "Friends", .description = "Party"},
+                  "21:05");
+    // Type: Class < Friends, recurrence: Day < Month, time: 10:00 < 21:05; the dentist has
+    // none of the three.
+    for (int column : {2, 4, 5}) {
+        sortBy(column, 1);
+        EXPECT_EQ(names(), (std::vector<std::string>{" Chemistry", " Party", " Dentist"})) << column;
+        sortBy(column, 2);
+        EXPECT_EQ(names(), (std::vector<std::string>{" Party", " Chemistry", " Dentist"})) << column;
+    }
+    sortBy(1, 2);
+    EXPECT_EQ(names(), (std::vector<std::string>{" Party", " Dentist", " Chemistry"}));
+}
+
+TEST_F(EventListTest, TimesThatAreNoTimeSinkAndShowAsTheyStand) {
+    addTimedEvent(s, {.date = "2026/11/21", .description = "Odd"}, "soon");
+    addTimedEvent(s, {.date = "2026/11/21", .description = "Late"}, "11:58 PM");
+    addTimedEvent(s, {.date = "2026/11/21", .description = "Early"}, "12:01 AM");
+    sortBy(4, 1);
+    EXPECT_EQ(names(), (std::vector<std::string>{" Early", " Late", " Odd"}));
+    EXPECT_EQ(list.cell(3, 4), "soon");
+    sortBy(4, 2);
+    EXPECT_EQ(names(), (std::vector<std::string>{" Late", " Early", " Odd"}));
+}
+
+TEST_F(EventListTest, AWeeklyEventsRowsSortByTheirOwnDates) {
+    addEvent(s, {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays,
+                 .description = "Lab"});
+    list.filters("All", "Month");
+    list.window.state.SortColumn = 0;  // gathering order: weekday by weekday
+    list.build();
+    ASSERT_EQ(list.window.state.RowCount, 9);
+    EXPECT_EQ(list.cell(1, 3), "23-Nov-26");
+    EXPECT_EQ(list.cell(2, 3), "30-Nov-26");
+    sortBy(3, 1);
+    EXPECT_EQ(list.cell(1, 3), "23-Nov-26");
+    EXPECT_EQ(list.cell(2, 3), "25-Nov-26");
+    EXPECT_EQ(list.cell(9, 3), "21-Dec-26");
+    sortBy(3, 2);
+    EXPECT_EQ(list.cell(1, 3), "21-Dec-26");
+    EXPECT_EQ(list.cell(2, 3), "16-Dec-26");
+    EXPECT_EQ(list.cell(9, 3), "23-Nov-26");
+}
+
+// --- The calendar in Events mode ----------------------------------------------------------------
+
+TEST(EventMode, TheCalendarAndTheListFollowTheFilter) {
+    LoadedMainWindow main;
+    MainWindow& window = main.load();
+    addEvent(main.store, {.date = "2026/11/02", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays,
+                          .type = "Class", .description = "Lab"});
+    addEvent(main.store, {.date = "2026/11/21", .type = "Holiday", .description = "Fair"});
+    window.click("MenuEvents");
+    window.select("ComboDateRange", "Day");
+
+    const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);
+    const auto cell = [&](int month, int day) { return std::size_t(dateFromYmd(2026, month, day) - first); };
+    EXPECT_TRUE(window.state.CellMarked[cell(11, 21)]);
+    EXPECT_TRUE(window.state.CellMarked[cell(11, 25)]);
+    EXPECT_FALSE(window.state.CellMarked[cell(11, 24)]);
+    EXPECT_EQ(window.state.CellBackColors[cell(11, 25)], window.state.Colors.TintBlue);
+    EXPECT_EQ(window.c("LabelTop").caption, "Events for Saturday, November 21, 2026");
+    EXPECT_EQ(window.state.ListEventRows, (Column<int>{2}));
+
+    window.select("ComboList", "Classes");
+    EXPECT_FALSE(window.state.CellMarked[cell(11, 21)]);
+    EXPECT_TRUE(window.state.CellMarked[cell(11, 25)]);
+    EXPECT_EQ(window.state.CellBackColors[cell(11, 25)], window.state.Colors.TintTan);
+    EXPECT_TRUE(window.state.ListEventRows.empty());
+    EXPECT_EQ(window.c("TextBoxOtherEvents").text, "1");
+
+    window.click("LabelCalDate(" + std::to_string(cell(11, 25)) + ")");
+    EXPECT_EQ(window.c("LabelTop").caption, "Events for Wednesday, November 25, 2026");
+    EXPECT_EQ(window.state.ListEventRows, (Column<int>{1}));
+}
+
+}  // namespace
+}  // namespace qh
