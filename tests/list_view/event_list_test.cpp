@@ -32,7 +32,7 @@ TEST(GatherEvents, ListsTheDaysOccurrencesAndCountsBeforeTheFilter) {
     RecordStore s;
     addEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class"});
     addEvent(s, {.date = "2026/11/21", .type = "Birthday"});
-    addEvent(s, {.date = "2026/11/22", .type = "Work"});                          // the next day
+    addEvent(s, {.date = "2026/11/22", .type = "Work"});  // the next day
     addEvent(s, {.date = "2026/11/21", .type = "Work", .description = "DELETED RECORD"});
     addEvent(s, {.date = "2025/11/21", .recurrence = "Year", .type = "None"});  // a year on
 
@@ -57,19 +57,27 @@ TEST(GatherEvents, EveryDayOfAWeekTogetherGivesTheWeeksExpansion) {
     RecordStore s;
     addEvent(s, {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays, .type = "Class"});
     addEvent(s, {.date = "2026/10/24", .recurrence = "Month", .sameDate = "True"});
-    addEvent(s, {.date = "2026/09/26", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+    addEvent(s, {.date = "2026/09/26",
+                 .recurrence = "Month",
+                 .sameDate = "False",
+                 .repeatNumber = "Last",
                  .repeatDay = "Saturday"});
     addEvent(s, {.date = "2026/11/25", .type = "Holiday"});
-    addEvent(s, {.date = "2026/11/20", .recurrence = "Day", .repeatDaily = kSaturdays, .ends = "True",
+    addEvent(s, {.date = "2026/11/20",
+                 .recurrence = "Day",
+                 .repeatDaily = kSaturdays,
+                 .ends = "True",
                  .endDate = "2026/11/26"});
 
     std::multiset<std::pair<int, Date>> byDay, byRange;
     for (Date d = kDay; d <= kDay + 7; ++d) {
         const EventRows rows = GatherEvents(s, d, "All");
-        for (int i = 1; i <= rows.ListEventRows.count(); ++i) byDay.insert({rows.ListEventRows(i), rows.ListEventDates(i)});
+        for (int i = 1; i <= rows.ListEventRows.count(); ++i)
+            byDay.insert({rows.ListEventRows(i), rows.ListEventDates(i)});
     }
     const EventRows week = ExpandEvents(s, kDay, "Week", "All");
-    for (int i = 1; i <= week.ListEventRows.count(); ++i) byRange.insert({week.ListEventRows(i), week.ListEventDates(i)});
+    for (int i = 1; i <= week.ListEventRows.count(); ++i)
+        byRange.insert({week.ListEventRows(i), week.ListEventDates(i)});
     EXPECT_EQ(byDay, byRange);
     EXPECT_EQ(byDay.size(), 6u);  // Monday 23 and Wednesday 25; the 24th; the 28th; the 25th; the 21st
 }
@@ -172,11 +180,14 @@ TEST_F(EventListTest, SummaryCountsBothKindsOnWhiteWhateverTheFilterShows) {
 
 TEST_F(EventListTest, RowsWithoutTypeTimeOrRecurrenceSinkInBothDirections) {
     addTimedEvent(s, {.date = "2026/11/21", .description = "Dentist"}, "None");
-    addTimedEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class",
-                      .description = "Chemistry"},
+    addTimedEvent(s,
+                  {.date = "2026/11/07",
+                   .recurrence = "Day",
+                   .repeatDaily = kSaturdays,
+                   .type = "Class",
+                   .description = "Chemistry"},
                   "10:00 AM");
-    addTimedEvent(s, {.date = "2026/10/21", .recurrence = "Month", .type = "Friends", .description = "Party"},
-                  "21:05");
+    addTimedEvent(s, {.date = "2026/10/21", .recurrence = "Month", .type = "Friends", .description = "Party"}, "21:05");
     // Type: Class < Friends, recurrence: Day < Month, time: 10:00 < 21:05; the dentist has
     // none of the three.
     for (int column : {2, 4, 5}) {
@@ -201,8 +212,8 @@ TEST_F(EventListTest, TimesThatAreNoTimeSinkAndShowAsTheyStand) {
 }
 
 TEST_F(EventListTest, AWeeklyEventsRowsSortByTheirOwnDates) {
-    addEvent(s, {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays,
-                 .description = "Lab"});
+    addEvent(s,
+             {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays, .description = "Lab"});
     list.filters("All", "Month");
     list.window.state.SortColumn = 0;  // gathering order: weekday by weekday
     list.build();
@@ -224,8 +235,11 @@ TEST_F(EventListTest, AWeeklyEventsRowsSortByTheirOwnDates) {
 TEST(EventMode, TheCalendarAndTheListFollowTheFilter) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
-    addEvent(main.store, {.date = "2026/11/02", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays,
-                          .type = "Class", .description = "Lab"});
+    addEvent(main.store, {.date = "2026/11/02",
+                          .recurrence = "Day",
+                          .repeatDaily = kMondaysAndWednesdays,
+                          .type = "Class",
+                          .description = "Lab"});
     addEvent(main.store, {.date = "2026/11/21", .type = "Holiday", .description = "Fair"});
     window.click("MenuEvents");
     window.select("ComboDateRange", "Day");
