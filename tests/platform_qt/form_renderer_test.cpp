@@ -339,7 +339,9 @@ TEST_F(FormRendererTest, AFailureInAClickHandlerReachesTheFailureReport) {
     renderer.show(window);
     std::vector<std::string> reports;
     app.setFailureReport([&](const std::string& what) { reports.push_back(Application::reportText(what)); });
-    QTest::mouseClick(widget("ButtonBoom"), Qt::LeftButton);
+    // The click comes through the event loop, as a user's does.
+    QMetaObject::invokeMethod(widget<QPushButton>("ButtonBoom"), &QPushButton::click, Qt::QueuedConnection);
+    QCoreApplication::processEvents();
     ASSERT_EQ(reports.size(), 1u);
     EXPECT_EQ(reports[0], "Quillhollow has stopped: Subscript out of range");
     app.setFailureReport(nullptr);
