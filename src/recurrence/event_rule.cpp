@@ -47,12 +47,20 @@ int weekdayNamed(std::string_view name) {
 }  // namespace
 
 EventRule readEventRule(const RecordStore& store, int index) {
+    if (store.EventDescriptions(index) == kDeletedRecord) {
+        EventRule rule;
+        rule.index = index;
+        rule.deleted = true;
+        return rule;
+    }
+    return readEventRule(store, index, dateFromText(store.EventDates(index)));
+}
+
+EventRule readEventRule(const RecordStore& store, int index, Date first) {
     EventRule rule;
     rule.index = index;
-    rule.deleted = store.EventDescriptions(index) == kDeletedRecord;
-    if (rule.deleted) return rule;
     rule.isClass = store.EventTypes(index) == "Class";
-    rule.first = dateFromText(store.EventDates(index));
+    rule.first = first;
     rule.firstYmd = ymdOf(rule.first);
     rule.firstWeekday = weekdayOf(rule.first);
     rule.recurrence = recurrenceOf(store.EventRecurrences(index));

@@ -50,6 +50,10 @@ struct EventRule {
 // others a first date that is no date is the untrapped "Type mismatch".
 EventRule readEventRule(const RecordStore& store, int index);
 
+// The same for a live record whose first date the caller has already read, so that a
+// routine can pass over an event by its first date before reading the rest of the rule.
+EventRule readEventRule(const RecordStore& store, int index, Date first);
+
 // The event filter of `ComboList` in Events mode: "All"; "Classes" and the type is "Class";
 // "Other Events" and it is not. Any other text lets nothing pass.
 bool eventFilterPasses(std::string_view filter, bool isClass);

@@ -49,15 +49,16 @@ EventRows ExpandEvents(const RecordStore& store, Date start, std::string_view da
     const int count = store.EventRecordNos.count();
     for (int i = 1; i <= count; ++i) {
         if (store.EventDescriptions(i) == kDeletedRecord) continue;
-        const EventRule rule = readEventRule(store, i);
         const Int16 index = toInt16(i);
-        auto add = [&](Date date) { fileOccurrence(rows, index, rule.isClass, date, filter); };
-
-        if (rule.recurrence == Recurrence::None) {
-            if (rule.first >= rangeStart && rule.first <= rangeEnd) add(rule.first);
+        const Date first = dateFromText(store.EventDates(i));
+        if (store.EventRecurrences(i) == "None") {
+            if (first >= rangeStart && first <= rangeEnd)
+                fileOccurrence(rows, index, store.EventTypes(i) == "Class", first, filter);
             continue;
         }
-        if (rule.first > rangeEnd) continue;
+        if (first > rangeEnd) continue;
+        const EventRule rule = readEventRule(store, i, first);
+        auto add = [&](Date date) { fileOccurrence(rows, index, rule.isClass, date, filter); };
         if (rule.ends && rule.endDate() < rangeStart) continue;
         const Date windowStart = std::max(rule.first, rangeStart);
         const Date windowEnd = (rule.ends && rule.endDate() <= rangeEnd) ? rule.endDate() : rangeEnd;

@@ -115,15 +115,17 @@ EventDayMarks MarkEventDays(const RecordStore& store, Date firstCell, std::strin
     // Pass two: every recurring event against every cell not marked yet.
     std::array<CalendarDay, kCalendarCells> cells;
     for (int c = 0; c < kCalendarCells; ++c) cells[std::size_t(c)] = calendarDay(firstCell + c);
+    const Date lastCell = firstCell + kCalendarCells - 1;
     int unmarked = 0;
     for (bool marked : marks.CellMarked) unmarked += marked ? 0 : 1;
     for (int i = 1; i <= count && unmarked > 0; ++i) {
         if (store.EventRecurrences(i) == "None" || store.EventDescriptions(i) == kDeletedRecord) continue;
-        const EventRule rule = readEventRule(store, i);
-        const bool passes = eventFilterPasses(filter, rule.isClass);
         // No hit lies before the first date, nor after a readable end date unless it is
         // the first date itself: the cells outside those bounds need no test.
-        const Date lastCell = firstCell + kCalendarCells - 1;
+        const Date first = dateFromText(store.EventDates(i));
+        if (first > lastCell) continue;
+        const EventRule rule = readEventRule(store, i, first);
+        const bool passes = eventFilterPasses(filter, rule.isClass);
         const Date from = std::max(firstCell, rule.first);
         Date to = lastCell;
         if (rule.ends && rule.readableEnd) to = std::min(lastCell, std::max(*rule.readableEnd, rule.first));

@@ -90,19 +90,20 @@ void GatherEventReminders(const RecordStore& store, Date date, std::string_view 
     const int count = store.EventRecordNos.count();
     for (int i = 1; i <= count; ++i) {
         if (store.EventDescriptions(i) == kDeletedRecord) continue;
-        const EventRule rule = readEventRule(store, i);
+        const Date first = dateFromText(store.EventDates(i));
         const int offset = ReminderOffset(store.EventReminders(i));  // 0 or negative
         const Int16 index = toInt16(i);
         auto add = [&](Date occurrence) { AddEventReminder(rows, store, index, date, occurrence, filter); };
         // Unlike tasks and homework, an event is only reminded of ahead of time: from its
         // reminder date up to its own date, and not the day after.
-        const bool firstIsDue = rule.first >= date && rule.first + offset <= date;
+        const bool firstIsDue = first >= date && first + offset <= date;
 
-        if (rule.recurrence == Recurrence::None) {
-            if (firstIsDue) add(rule.first);
+        if (store.EventRecurrences(i) == "None") {
+            if (firstIsDue) add(first);
             continue;
         }
-        if (date < rule.first + offset) continue;
+        if (date < first + offset) continue;
+        const EventRule rule = readEventRule(store, i, first);
         if (rule.ends && rule.endDate() < date) continue;
         const Date windowStart = date < rule.first ? rule.first : date;
         const Date windowEnd = (rule.ends && rule.endDate() + offset <= date) ? rule.endDate() + offset : date;
