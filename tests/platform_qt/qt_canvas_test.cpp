@@ -13,8 +13,9 @@ namespace {
 
 // The colour of the screen pixel (px, py) in a canvas image of any density.
 QColor pixelAt(const QtCanvas& canvas, int px, int py) {
-    const double ratio = canvas.image().devicePixelRatio();
-    return canvas.image().pixelColor(int(px * ratio), int(py * ratio));
+    const QImage shown = canvas.flattened();
+    const double ratio = shown.devicePixelRatio();
+    return shown.pixelColor(int(px * ratio), int(py * ratio));
 }
 
 int darkPixels(const QImage& image, QRect area) {
@@ -64,7 +65,7 @@ TEST_P(QtCanvasTest, TextStandsAtItsTopLeftAndMeasuresAsDrawn) {
     canvas.printText(1500, 150, text);  // from pixel (100, 10)
 
     const double r = GetParam();
-    const QImage& image = canvas.image();
+    const QImage image = canvas.flattened();
     const int widthPixels = width / 15;
     EXPECT_GT(widthPixels, 40);
     EXPECT_LT(widthPixels, 150);
@@ -84,8 +85,9 @@ TEST_P(QtCanvasTest, PicturesArePaintedAtTheirOwnSize) {
     canvas.clear(kWhite);
     canvas.paintPicture("Checked", 300, 300);  // 13 x 13 pixels from (20, 20)
     const double r = GetParam();
-    EXPECT_GT(darkPixels(canvas.image(), QRect(int(20 * r), int(20 * r), int(13 * r), int(13 * r))), 5);
-    EXPECT_EQ(darkPixels(canvas.image(), QRect(int(34 * r), 0, int(20 * r), int(100 * r))), 0);
+    const QImage shown = canvas.flattened();
+    EXPECT_GT(darkPixels(shown, QRect(int(20 * r), int(20 * r), int(13 * r), int(13 * r))), 5);
+    EXPECT_EQ(darkPixels(shown, QRect(int(34 * r), 0, int(20 * r), int(100 * r))), 0);
     EXPECT_EQ(pixelAt(canvas, 10, 10), QColor(Qt::white));
     const auto before = canvas.generation();
     canvas.paintPicture("NoSuchPicture", 0, 0);  // nothing, and no failure
@@ -101,11 +103,32 @@ TEST(QtCanvas, ResizeKeepsWhatWasDrawn) {
     testApplication();
     QtCanvas canvas;
     canvas.resize(300, 300);
-    canvas.clear(rgb(0, 0, 255));
+    canvas.clear(rgb(255, 255, 0));
+    canvas.filledBox(0, 0, 285, 285, rgb(0, 0, 255));
     canvas.resize(600, 600);
     EXPECT_EQ(canvas.scaleWidth(), 600);
-    EXPECT_EQ(canvas.image().pixelColor(5, 5), QColor(0, 0, 255));
-    EXPECT_EQ(canvas.image().pixelColor(30, 30), QColor(Qt::white));
+    const QImage shown = canvas.flattened();
+    EXPECT_EQ(shown.pixelColor(5, 5), QColor(0, 0, 255));
+    // The new part shows the colour of the last clear, as the rest of the box does.
+    EXPECT_EQ(shown.pixelColor(30, 30), QColor(255, 255, 0));
+}
+
+TEST(QtCanvas, AClearShowsTheBoxPictureUnderWhatIsDrawnAfter) {
+    testApplication();
+    QtCanvas canvas;
+    canvas.resize(1500, 330);  // a column header, 100 x 22 pixels
+    canvas.filledBox(0, 0, 1485, 315, kBlack);
+    canvas.clear(kWhite);  // what was drawn goes; the picture shows again
+    canvas.setForeColor(kBlack);
+    canvas.printText(45, 45, "Due");
+    const QImage bare = canvas.flattened();
+    const QImage header = canvas.flattened("GridTitle");
+    // The header's face lies below the text: not white at the bottom, where no text is.
+    EXPECT_EQ(bare.pixelColor(80, 15), QColor(Qt::white));
+    EXPECT_NE(header.pixelColor(80, 15), QColor(Qt::white));
+    EXPECT_LT(header.pixelColor(80, 15).lightness(), 250);
+    // The text stands on top of it.
+    EXPECT_GT(darkPixels(header, QRect(3, 3, 25, 16)), 10);
 }
 
 TEST(Pictures, EveryPictureTheWindowsNameExistsAndDraws) {

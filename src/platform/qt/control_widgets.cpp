@@ -43,13 +43,12 @@ void PaintedBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRect area = rect();
     if (control_.opaque) painter.fillRect(area, qtColor(control_.backColor));
-    if (!control_.picture.empty()) {
+    auto* canvas = control_.drawable ? dynamic_cast<QtCanvas*>(control_.canvas.get()) : nullptr;
+    if (canvas) {
+        canvas->paintLayers(painter, control_.picture);
+    } else if (!control_.picture.empty()) {
         painter.setRenderHint(QPainter::Antialiasing);
         drawPicture(painter, qs(control_.picture), QRectF(area));
-    }
-    if (control_.drawable) {
-        if (auto* canvas = dynamic_cast<QtCanvas*>(control_.canvas.get()))
-            painter.drawImage(QPointF(0, 0), canvas->image());
     }
     if (!control_.caption.empty()) {
         painter.setFont(qtFont(control_.fontName, control_.fontSize, control_.bold, control_.italic,

@@ -45,7 +45,7 @@ void QtCanvas::remake(const QImage* keep) {
     const int h = std::max(1, int(std::ceil(std::max(0, heightTwips_) / double(kTwipsPerPixel) * ratio_)));
     QImage fresh(w, h, QImage::Format_ARGB32_Premultiplied);
     fresh.setDevicePixelRatio(ratio_);
-    fresh.fill(Qt::white);
+    fresh.fill(Qt::transparent);
     if (keep && !keep->isNull()) {
         QPainter painter(&fresh);
         painter.drawImage(QPointF(0, 0), *keep);
@@ -70,8 +70,30 @@ void QtCanvas::setDevicePixelRatio(double ratio) {
 }
 
 void QtCanvas::clear(Color background) {
-    image_.fill(qtColor(background));
+    image_.fill(Qt::transparent);
+    background_ = background;
     ++generation_;
+}
+
+void QtCanvas::paintLayers(QPainter& painter, const std::string& picture) const {
+    const QRectF area(0, 0, image_.width() / ratio_, image_.height() / ratio_);
+    painter.fillRect(area, qtColor(background_));
+    if (!picture.empty()) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawPicture(painter, qs(picture), area);
+        painter.restore();
+    }
+    painter.drawImage(QPointF(0, 0), image_);
+}
+
+QImage QtCanvas::flattened(const std::string& picture) const {
+    QImage flat(image_.size(), QImage::Format_ARGB32_Premultiplied);
+    flat.setDevicePixelRatio(ratio_);
+    QPainter painter(&flat);
+    paintLayers(painter, picture);
+    painter.end();
+    return flat;
 }
 
 void QtCanvas::line(int x1, int y1, int x2, int y2, Color color) {

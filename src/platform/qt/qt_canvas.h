@@ -3,6 +3,7 @@
 // crisp on a high-density screen) that the box's widget shows. Twips map to pixels by 15.
 #include <QFont>
 #include <QImage>
+#include <QPainter>
 
 #include "platform/canvas.h"
 
@@ -26,9 +27,17 @@ public:
     int textWidth(const std::string& text) const override;
     void paintPicture(const std::string& picture, int x, int y) override;
 
-    // What has been drawn; its devicePixelRatio is set, so a painter draws it at its
-    // size in pixels.
+    // What has been drawn since the last clear, on a transparent ground; its
+    // devicePixelRatio is set, so a painter draws it at its size in pixels. A box shows,
+    // from the bottom up: the colour of the last clear, its picture, then this image. So a
+    // picture box with a picture shows the picture under its drawing after a clear, as
+    // the planner's column headers expect.
     const QImage& image() const { return image_; }
+    Color background() const { return background_; }
+    // The three layers as one image (the picture may be empty).
+    QImage flattened(const std::string& picture = {}) const;
+    // Paints the layers into a painter at the top left (pixels).
+    void paintLayers(QPainter& painter, const std::string& picture) const;
     // Rises with every change of the image, so a widget repaints only when it changed.
     unsigned long long generation() const { return generation_; }
     // Re-renders at another density, keeping the size in twips; what was drawn is scaled.
@@ -42,6 +51,7 @@ private:
     CanvasFont font_;
     QFont qfont_;
     Color foreColor_ = kBlack;
+    Color background_ = kWhite;
     unsigned long long generation_ = 0;
 };
 
