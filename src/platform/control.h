@@ -24,7 +24,9 @@ enum class ControlKind {
     ScrollBar,   // vertical
     Timer,
     Menu,        // a menu or menu entry; caption "-" is a separator
-    ColorGrid,   // a grid of colour swatches, value = selected row (1-based), 0 for none
+    ColorGrid,   // a grid of colour swatches, value = selected row (1-based), 0 for none;
+                 // items are the colours as "&HBBGGRR" texts, one per swatch, in square
+                 // cells of 150 twips row by row, as many to a row as the width holds
 };
 
 enum class Alignment { Left, Right, Center };
