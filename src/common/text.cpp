@@ -16,6 +16,10 @@ std::string rightChars(std::string_view text, std::size_t n) {
     return std::string(text.size() <= n ? text : text.substr(text.size() - n));
 }
 
-std::string twoDigits(long long number) { return rightChars("0" + std::to_string(number), 2); }
+std::string twoDigits(long long number) {
+    std::string text = "0";
+    text += std::to_string(number);
+    return rightChars(text, 2);
+}
 
 }  // namespace qh
