@@ -409,5 +409,28 @@ TEST_F(FormRendererTest, ControlsAddedAfterTheWindowShowsAppearToo) {
     EXPECT_TRUE(shown().action("MenuTasks")->isChecked());
 }
 
+TEST_F(FormRendererTest, TheProgramEndsWhenItsLastWindowCloses) {
+    renderer.quitWhenLastWindowCloses = true;
+    window.allowClose = true;
+    renderer.show(window);
+    // Closing a window while another is still up ends nothing.
+    SampleWindow other(canvases);
+    renderer.show(other);
+    bool stillRunning = false;
+    QObject scope;  // the timers go with the test
+    QTimer::singleShot(0, &scope, [&] { shown().close(); });
+    QTimer::singleShot(100, &scope, [&] {
+        stillRunning = true;
+        other.allowClose = true;
+        renderer.windowOf(other)->close();
+    });
+    // Only a safety net: the last close ends the loop long before.
+    QTimer::singleShot(5000, &scope, [&] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(stillRunning);
+    EXPECT_EQ(renderer.windowOf(window), nullptr);
+    EXPECT_EQ(renderer.windowOf(other), nullptr);
+}
+
 }  // namespace
 }  // namespace qh

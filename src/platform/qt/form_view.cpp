@@ -761,6 +761,12 @@ void FormRenderer::syncAll() {
     endFinishedModalLoops();
 }
 
+bool FormRenderer::anyShownWindowUnexposed() const {
+    for (const auto& [form, window] : windows_)
+        if (window->isVisible() && window->windowHandle() && !window->windowHandle()->isExposed()) return true;
+    return false;
+}
+
 void FormRenderer::endFinishedModalLoops() {
     for (const ModalRun& run : modal_)
         if (!run.form->visible || !windowOf(*run.form)) run.loop->quit();

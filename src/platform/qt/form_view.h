@@ -132,6 +132,8 @@ public:
     void forward(const std::function<void()>& gesture);
     // Applies what changed in all models to their windows.
     void syncAll();
+    // True while a window the models show is not yet on the display.
+    bool anyShownWindowUnexposed() const;
     // True while properties are being applied: widget signals then come from the
     // renderer, not from the user.
     bool applying() const { return applying_ > 0; }

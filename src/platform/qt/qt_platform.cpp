@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -196,6 +197,12 @@ void QtProcesses::openWithDefaultHandler(const std::string& pathOrAddress) {
 void QtWindowing::processEvents() {
     renderer_.syncAll();
     QCoreApplication::processEvents();
+    // A window just shown (the splash before the long load) is on the screen only once
+    // the display has exposed it; wait for that a moment, never long.
+    QElapsedTimer waited;
+    waited.start();
+    while (renderer_.anyShownWindowUnexposed() && waited.elapsed() < 250)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
 int QtWindowing::screenWidthTwips() const {
