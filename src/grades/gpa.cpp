@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "common/text.h"
+#include "list_view/record_index.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -120,11 +121,11 @@ GradeList ComputeGradeList(const RecordStore& store) {
     const std::string none;
     for (int k = 1; k <= store.ClassTermLinks.count(); ++k) {
         if (store.ClassNames.valueOr(k, none) == kDeletedRecord) continue;
-        if (int16OrZero(store.ClassTermLinks(k)) != store.CurrentTermID) continue;
+        if (IdNumber(store.ClassTermLinks(k)) != store.CurrentTermID) continue;
         list.GPAClassNames.append(store.ClassNames.valueOr(k, none));
         list.GPAForeColors.append(store.ClassForeColors.valueOr(k, none));
         list.GPABackColors.append(store.ClassBackColors.valueOr(k, none));
-        list.GPAClassIDs.append(int16OrZero(store.ClassIDs.valueOr(k, none)));
+        list.GPAClassIDs.append(IdNumber(store.ClassIDs.valueOr(k, none)));
         list.GPAPoints.append(0.0f);
         list.GPAWeights.append(0.0f);
         list.GPATexts.append("");
@@ -135,7 +136,7 @@ GradeList ComputeGradeList(const RecordStore& store) {
     std::unordered_map<Int16, std::vector<int>> entriesOfClass;
     for (int c = 1; c <= list.GPAClassIDs.count(); ++c) entriesOfClass[list.GPAClassIDs(c)].push_back(c);
     for (int j = 1; j <= store.AssignmentRecordNos.count(); ++j) {
-        const auto entries = entriesOfClass.find(int16OrZero(store.AssignmentClassLinks.valueOr(j, none)));
+        const auto entries = entriesOfClass.find(IdNumber(store.AssignmentClassLinks.valueOr(j, none)));
         if (entries == entriesOfClass.end()) continue;
         if (store.AssignmentDescriptions.valueOr(j, none) == kDeletedRecord) continue;
         const std::string& grade = store.AssignmentGrades.valueOr(j, none);

@@ -18,7 +18,7 @@ std::vector<StudyLoad> GatherStudyLoad(const RecordStore& store) {
         if (store.AssignmentDones.valueOr(i, none) == kTrueText) continue;
         const auto due = parseDateText(store.AssignmentDates.valueOr(i, none));
         if (!due) continue;
-        const Span spent = studied.of(int16OrZero(store.AssignmentIDs.valueOr(i, none)));
+        const Span spent = studied.of(IdNumber(store.AssignmentIDs.valueOr(i, none)));
         const long long estimate = ReadSpan(store.AssignmentEstTimes.valueOr(i, none)).totalMinutes();
         loads.push_back({std::max(0LL, estimate - spent.totalMinutes()), *due});
     }

@@ -40,12 +40,18 @@ GridRows currentRows(const MainWindow& window) {
 
 std::span<const float> GridWidthTable(Mode mode) {
     switch (mode) {
-        case Mode::Homework: return kHomeworkWidths;
-        case Mode::StudySessions: return kStudySessionWidths;
-        case Mode::Tasks: return kTaskWidths;
-        case Mode::Events: return kEventWidths;
-        case Mode::Reminders: return kReminderWidths;
-        case Mode::None: break;
+        case Mode::Homework:
+            return kHomeworkWidths;
+        case Mode::StudySessions:
+            return kStudySessionWidths;
+        case Mode::Tasks:
+            return kTaskWidths;
+        case Mode::Events:
+            return kEventWidths;
+        case Mode::Reminders:
+            return kReminderWidths;
+        case Mode::None:
+            break;
     }
     return {};
 }
@@ -141,9 +147,15 @@ void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCo
             const int x = span.left + 45;
             std::string text;
             switch (cell.kind) {
-                case CellKind::Plain: text = cell.text; break;
-                case CellKind::Trimmed: text = trim(cell.text); break;
-                case CellKind::Clipped: text = ClipToCell(canvas, cell.text, span.width); break;
+                case CellKind::Plain:
+                    text = cell.text;
+                    break;
+                case CellKind::Trimmed:
+                    text = trim(cell.text);
+                    break;
+                case CellKind::Clipped:
+                    text = ClipToCell(canvas, cell.text, span.width);
+                    break;
                 case CellKind::Check:
                     canvas.paintPicture(cell.checked ? "Checked" : "Unchecked", span.left + 225,
                                         r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + 75);
@@ -260,12 +272,23 @@ void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
 
 void MainWindow::BuildList(Mode mode) {
     switch (mode) {
-        case Mode::Homework: BuildHomeworkList(*this); break;
-        case Mode::Events: BuildEventList(*this); break;
-        case Mode::Reminders: BuildReminderList(*this); break;
-        case Mode::StudySessions: BuildStudySessionList(*this); break;
-        case Mode::Tasks: BuildTaskList(*this); break;
-        default: break;
+        case Mode::Homework:
+            BuildHomeworkList(*this);
+            break;
+        case Mode::Events:
+            BuildEventList(*this);
+            break;
+        case Mode::Reminders:
+            BuildReminderList(*this);
+            break;
+        case Mode::StudySessions:
+            BuildStudySessionList(*this);
+            break;
+        case Mode::Tasks:
+            BuildTaskList(*this);
+            break;
+        default:
+            break;
     }
 }
 

@@ -57,6 +57,11 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
     const StudyTimeByLink studied(store);
     Span estimated, spent;
     const int n = store.AssignmentRecordNos.count();
+    rows.ListAssignmentRows.reserve(n);
+    rows.ListTimes.reserve(n);
+    rows.ListClassNames.reserve(n);
+    rows.ListForeColors.reserve(n);
+    rows.ListBackColors.reserve(n);
     for (int i = 1; i <= n; ++i) {
         const bool inRange = date == kAllDatesSentinel || onDay(store.AssignmentDates.valueOr(i, kNoText), date);
         if (!inRange || store.AssignmentDescriptions.valueOr(i, kNoText) == kDeletedRecord) continue;
@@ -71,7 +76,7 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
         } else {
             rows.HomeworkAllDone = false;
             rows.HomeworkUnfinished = toInt16(rows.HomeworkUnfinished + 1);
-            const Span sessions = studied.of(int16OrZero(store.AssignmentIDs.valueOr(i, kNoText)));
+            const Span sessions = studied.of(IdNumber(store.AssignmentIDs.valueOr(i, kNoText)));
             const Span estimate = ReadSpan(store.AssignmentEstTimes.valueOr(i, kNoText));
             spent.hours += sessions.hours;
             spent.minutes += sessions.minutes;
@@ -84,7 +89,7 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
             }
             rows.ListTimes.append(TimeForm(std::max(0LL, estimate.totalMinutes() - sessions.totalMinutes())));
         }
-        appendClasses(classes, store, int16OrZero(store.AssignmentClassLinks.valueOr(i, kNoText)), rows.ListClassNames,
+        appendClasses(classes, store, IdNumber(store.AssignmentClassLinks.valueOr(i, kNoText)), rows.ListClassNames,
                       rows.ListForeColors, rows.ListBackColors);
     }
     rows.HomeworkTimeEstimated = TimeForm(estimated.totalMinutes());
@@ -112,7 +117,7 @@ void BuildHomeworkList(MainWindow& window) {
     window.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
     showSummary(window, rows);
 
-    SortHomeworkList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale);
+    SortHomeworkList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale, &state.ListSortRanks);
     state.ListAssignmentRows = std::move(rows.ListAssignmentRows);
     state.ListTimes = std::move(rows.ListTimes);
     state.ListClassNames = std::move(rows.ListClassNames);

@@ -54,7 +54,8 @@ void MainWindow::GridRowClicked(int k) {
                 edit(&MainWindow::EditEvent, record);
             break;
         }
-        case Mode::None: break;
+        case Mode::None:
+            break;
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
+#include <unordered_map>
 
 #include "list_view/time_text.h"
 #include "platform/locale.h"
@@ -68,28 +70,92 @@ SortKeys numberKeys(SortRule rule, int n, auto&& numberOf) {
     return keys;
 }
 
+// The rank of each text among the distinct texts, by the rule; texts that compare equal
+// ("Lab" and "lab") share a rank. Texts are compared once per pair of distinct values
+// rather than once per pair of rows: lists repeat their class names, types and flags many
+// times, and the platform's comparison is the costly part. Keeps the ranks in `ranks`.
+std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, bool binary, const Locale& locale,
+                                 TextRanks* ranks) {
+    const std::size_t n = texts.size();
+    std::unordered_map<std::string_view, int> idOf;
+    std::vector<const std::string*> distinct;
+    std::vector<int> ids(n);
+    idOf.reserve(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto [it, added] = idOf.try_emplace(*texts[i], int(distinct.size()));
+        if (added) distinct.push_back(texts[i]);
+        ids[i] = it->second;
+    }
+    const auto less = [&](int a, int b) {
+        const std::string& x = *distinct[std::size_t(a)];
+        const std::string& y = *distinct[std::size_t(b)];
+        return binary ? x < y : locale.compareText(x, y) < 0;
+    };
+    std::vector<int> byKey(distinct.size());
+    std::iota(byKey.begin(), byKey.end(), 0);
+    std::sort(byKey.begin(), byKey.end(), less);
+    std::vector<long long> rank(distinct.size());
+    for (std::size_t j = 1; j < byKey.size(); ++j)
+        rank[std::size_t(byKey[j])] = rank[std::size_t(byKey[j - 1])] + (less(byKey[j - 1], byKey[j]) ? 1 : 0);
+    if (ranks) {
+        ranks->locale = &locale;
+        ranks->binary = binary;
+        ranks->rank.clear();
+        ranks->rank.reserve(distinct.size());
+        for (std::size_t j = 0; j < distinct.size(); ++j) ranks->rank.emplace(*distinct[j], rank[j]);
+    }
+    std::vector<long long> numbers(n);
+    for (std::size_t i = 0; i < n; ++i) numbers[i] = rank[std::size_t(ids[i])];
+    return numbers;
+}
+
 }  // namespace
 
-std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& locale) {
-    std::vector<int> order(std::size_t(keys.count()));
+std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& locale, TextRanks* ranks) {
+    const std::size_t n = std::size_t(keys.count());
+    std::vector<int> order(n);
     std::iota(order.begin(), order.end(), 0);
     if (direction != 1 && direction != 2) return order;
-    const auto before = [&](int a, int b) {
-        switch (keys.rule) {
-            case SortRule::Text:
-                return locale.compareText(*keys.texts[std::size_t(a)], *keys.texts[std::size_t(b)]) < 0;
-            case SortRule::BinaryText: return *keys.texts[std::size_t(a)] < *keys.texts[std::size_t(b)];
-            default: return keys.numbers[std::size_t(a)] < keys.numbers[std::size_t(b)];
+
+    // Every key becomes a number that orders as the key does; texts by their rank, taken
+    // from the last sort when it ranked them all.
+    std::vector<long long> numbers;
+    if (keys.rule == SortRule::Text || keys.rule == SortRule::BinaryText) {
+        const bool binary = keys.rule == SortRule::BinaryText;
+        numbers.resize(n);
+        bool known = ranks && ranks->locale == &locale && ranks->binary == binary;
+        for (std::size_t i = 0; known && i < n; ++i) {
+            const auto found = ranks->rank.find(std::string_view(*keys.texts[i]));
+            if (found == ranks->rank.end())
+                known = false;
+            else
+                numbers[i] = found->second;
         }
-    };
-    if (direction == 1)
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return before(a, b); });
-    else
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return before(b, a); });
+        if (!known) numbers = rankTexts(keys.texts, binary, locale, ranks);
+    } else {
+        numbers = keys.numbers;
+    }
+    if (direction == 2)
+        for (long long& v : numbers) v = -v;
+    if (n == 0) return order;
+
+    // A stable sort by number; a counting sort when the numbers lie close together.
+    const auto [low, high] = std::minmax_element(numbers.begin(), numbers.end());
+    const long long span = *high - *low;
+    if (span <= 4 * (long long)(n)) {
+        std::vector<int> start(std::size_t(span) + 2, 0);
+        for (long long v : numbers) ++start[std::size_t(v - *low) + 1];
+        for (std::size_t j = 1; j < start.size(); ++j) start[j] += start[j - 1];
+        for (std::size_t i = 0; i < n; ++i) order[std::size_t(start[std::size_t(numbers[i] - *low)]++)] = int(i);
+    } else {
+        std::stable_sort(order.begin(), order.end(),
+                         [&](int a, int b) { return numbers[std::size_t(a)] < numbers[std::size_t(b)]; });
+    }
     return order;
 }
 
-void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+                      TextRanks* ranks) {
     const int n = rows.ListAssignmentRows.count();
     if (n < 2 || column < 1 || column > 8) return;
     const auto r = [&](int i) { return rowAt(rows.ListAssignmentRows, i); };
@@ -101,16 +167,32 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
     const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
     SortKeys keys;
     switch (column) {
-        case 1: keys = textKeys(SortRule::Text, n, className); break;
-        case 2: keys = record(SortRule::Text, store.AssignmentTypes); break;
-        case 3: keys = record(SortRule::Text, store.AssignmentDescriptions); break;
-        case 4: keys = record(SortRule::Text, store.AssignmentDifficulties); break;
-        case 5: keys = numberKeys(SortRule::Minutes, n, timeLeft); break;
-        case 6: keys = numberKeys(SortRule::Date, n, due); break;
-        case 7: keys = record(SortRule::BinaryText, store.AssignmentDones); break;
-        default: keys = record(SortRule::BinaryText, store.AssignmentGrades); break;
+        case 1:
+            keys = textKeys(SortRule::Text, n, className);
+            break;
+        case 2:
+            keys = record(SortRule::Text, store.AssignmentTypes);
+            break;
+        case 3:
+            keys = record(SortRule::Text, store.AssignmentDescriptions);
+            break;
+        case 4:
+            keys = record(SortRule::Text, store.AssignmentDifficulties);
+            break;
+        case 5:
+            keys = numberKeys(SortRule::Minutes, n, timeLeft);
+            break;
+        case 6:
+            keys = numberKeys(SortRule::Date, n, due);
+            break;
+        case 7:
+            keys = record(SortRule::BinaryText, store.AssignmentDones);
+            break;
+        default:
+            keys = record(SortRule::BinaryText, store.AssignmentGrades);
+            break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
     if (isIdentity(order)) return;
     reorder(rows.ListAssignmentRows, order, 0);
     reorder(rows.ListTimes, order, kEmpty);
@@ -120,7 +202,7 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
 }
 
 void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, int direction,
-                          const Locale& locale) {
+                          const Locale& locale, TextRanks* ranks) {
     const int n = rows.ListSessionRows.count();
     if (n < 2 || column < 1 || column > 7) return;
     const auto r = [&](int i) { return rowAt(rows.ListAssignmentRows, i); };
@@ -137,15 +219,29 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
     const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
     SortKeys keys;
     switch (column) {
-        case 1: keys = textKeys(SortRule::Text, n, className); break;
-        case 2: keys = record(store.AssignmentTypes); break;
-        case 3: keys = record(store.AssignmentDescriptions); break;
-        case 4: keys = record(store.AssignmentDifficulties); break;
-        case 5: keys = numberKeys(SortRule::Minutes, n, length); break;
-        case 6: keys = numberKeys(SortRule::Date, n, doneOn); break;
-        default: keys = numberKeys(SortRule::Date, n, due); break;
+        case 1:
+            keys = textKeys(SortRule::Text, n, className);
+            break;
+        case 2:
+            keys = record(store.AssignmentTypes);
+            break;
+        case 3:
+            keys = record(store.AssignmentDescriptions);
+            break;
+        case 4:
+            keys = record(store.AssignmentDifficulties);
+            break;
+        case 5:
+            keys = numberKeys(SortRule::Minutes, n, length);
+            break;
+        case 6:
+            keys = numberKeys(SortRule::Date, n, doneOn);
+            break;
+        default:
+            keys = numberKeys(SortRule::Date, n, due);
+            break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
     if (isIdentity(order)) return;
     reorder(rows.ListAssignmentRows, order, 0);
     reorder(rows.ListSessionLengthRows, order, 0);
@@ -155,7 +251,8 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
     reorder(rows.ListClassNames, order, kEmpty);
 }
 
-void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+                  TextRanks* ranks) {
     const int n = rows.ListTaskRows.count();
     if (n < 2 || column < 1 || column > 5) return;
     const auto r = [&](int i) { return rowAt(rows.ListTaskRows, i); };
@@ -173,20 +270,31 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
     };
     SortKeys keys;
     switch (column) {
-        case 1: keys = record(SortRule::Text, store.TaskDescriptions); break;
-        case 2: keys = recordOrSubstitute(store.TaskTypes); break;
-        case 3: keys = recordOrSubstitute(store.TaskPriorities); break;
-        case 4: keys = numberKeys(SortRule::Date, n, day); break;
-        default: keys = record(SortRule::BinaryText, store.TaskDones); break;
+        case 1:
+            keys = record(SortRule::Text, store.TaskDescriptions);
+            break;
+        case 2:
+            keys = recordOrSubstitute(store.TaskTypes);
+            break;
+        case 3:
+            keys = recordOrSubstitute(store.TaskPriorities);
+            break;
+        case 4:
+            keys = numberKeys(SortRule::Date, n, day);
+            break;
+        default:
+            keys = record(SortRule::BinaryText, store.TaskDones);
+            break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
     if (isIdentity(order)) return;
     reorder(rows.ListTaskRows, order, 0);
     reorder(rows.ListTaskForeColors, order, kEmpty);
     reorder(rows.ListTaskBackColors, order, kEmpty);
 }
 
-void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale) {
+void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+                   TextRanks* ranks) {
     const int n = rows.ListEventRows.count();
     if (n < 2 || column < 1 || column > 5) return;
     const auto r = [&](int i) { return rowAt(rows.ListEventRows, i); };
@@ -202,13 +310,23 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
     const auto date = [&](int i) -> long long { return rows.ListEventDates.valueOr(i, 0); };
     SortKeys keys;
     switch (column) {
-        case 1: keys = textKeys(SortRule::Text, n, name); break;
-        case 2: keys = recordOrSubstitute(store.EventTypes); break;
-        case 3: keys = numberKeys(SortRule::Date, n, date); break;
-        case 4: keys = numberKeys(SortRule::Date, n, minuteOfDay); break;
-        default: keys = recordOrSubstitute(store.EventRecurrences); break;
+        case 1:
+            keys = textKeys(SortRule::Text, n, name);
+            break;
+        case 2:
+            keys = recordOrSubstitute(store.EventTypes);
+            break;
+        case 3:
+            keys = numberKeys(SortRule::Date, n, date);
+            break;
+        case 4:
+            keys = numberKeys(SortRule::Date, n, minuteOfDay);
+            break;
+        default:
+            keys = recordOrSubstitute(store.EventRecurrences);
+            break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
     if (isIdentity(order)) return;
     reorder(rows.ListEventRows, order, Int16(0));
     reorder(rows.ListEventDates, order, Date(0));
@@ -216,7 +334,7 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
     reorder(rows.ListEventBackColors, order, kEmpty);
 }
 
-void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale) {
+void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale, TextRanks* ranks) {
     const int n = rows.ReminderRecords.count();
     if (n < 2 || column < 1 || column > 6) return;
     const auto own = [&](const TextColumn& c) {
@@ -231,14 +349,26 @@ void SortReminderList(ReminderRows& rows, int column, int direction, const Local
     const auto date = [&](int i) -> long long { return rows.ReminderDates.valueOr(i, 0); };
     SortKeys keys;
     switch (column) {
-        case 1: keys = own(rows.ReminderKinds); break;
-        case 2: keys = textKeys(SortRule::Text, n, classOrSubstitute); break;
-        case 3: keys = own(rows.ReminderTypes); break;
-        case 4: keys = own(rows.ReminderDescriptions); break;
-        case 5: keys = numberKeys(SortRule::Number, n, days); break;
-        default: keys = numberKeys(SortRule::Date, n, date); break;
+        case 1:
+            keys = own(rows.ReminderKinds);
+            break;
+        case 2:
+            keys = textKeys(SortRule::Text, n, classOrSubstitute);
+            break;
+        case 3:
+            keys = own(rows.ReminderTypes);
+            break;
+        case 4:
+            keys = own(rows.ReminderDescriptions);
+            break;
+        case 5:
+            keys = numberKeys(SortRule::Number, n, days);
+            break;
+        default:
+            keys = numberKeys(SortRule::Date, n, date);
+            break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale);
+    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
     if (isIdentity(order)) return;
     reorder(rows.ReminderRecords, order, Int16(0));
     reorder(rows.ReminderKinds, order, kEmpty);

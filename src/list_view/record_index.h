@@ -14,6 +14,18 @@
 
 namespace qh {
 
+// int16OrZero of an ID or link text, with a short way for the usual plain digits: the
+// lists read one or two of these for every row.
+inline Int16 IdNumber(const std::string& text) {
+    if (text.empty() || text.size() > 5) return int16OrZero(text);
+    int value = 0;
+    for (char c : text) {
+        if (c < '0' || c > '9') return int16OrZero(text);
+        value = value * 10 + (c - '0');
+    }
+    return value <= 32767 ? Int16(value) : int16OrZero(text);
+}
+
 // The rows whose ID column holds each ID, in record order.
 class RowsById {
 public:

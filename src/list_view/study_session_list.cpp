@@ -35,9 +35,14 @@ StudySessionRows GatherStudySessions(const RecordStore& store, Date date) {
     const RowsById assignments(store.AssignmentIDs);
     const RowsById classes(store.ClassIDs);
     Span total;
-    for (int s = 1; s <= store.StudySessionDates.count(); ++s) {
+    const int n = store.StudySessionDates.count();
+    for (Column<int>* column :
+         {&rows.ListSessionRows, &rows.ListSessionLengthRows, &rows.ListSessionDateRows, &rows.ListAssignmentRows})
+        column->reserve(n);
+    for (TextColumn* column : {&rows.ListClassNames, &rows.ListForeColors, &rows.ListBackColors}) column->reserve(n);
+    for (int s = 1; s <= n; ++s) {
         const bool inRange = date == kAllDatesSentinel || onDay(store.StudySessionDates(s), date);
-        const Int16 link = int16OrZero(store.StudySessionLinkIDs.valueOr(s, kNoText));
+        const Int16 link = IdNumber(store.StudySessionLinkIDs.valueOr(s, kNoText));
         // Only the link -1 takes a session out; deleted assignments are not looked at.
         if (!inRange || link == -1) continue;
         rows.ListSessionLengthRows.append(s);
@@ -48,7 +53,7 @@ StudySessionRows GatherStudySessions(const RecordStore& store, Date date) {
         rows.ListSessionRows.append(s);
         assignments.forEach(link, [&](int n) {
             rows.ListAssignmentRows.append(n);
-            classes.forEach(int16OrZero(store.AssignmentClassLinks.valueOr(n, kNoText)), [&](int k) {
+            classes.forEach(IdNumber(store.AssignmentClassLinks.valueOr(n, kNoText)), [&](int k) {
                 rows.ListClassNames.append(store.ClassNames.valueOr(k, kNoText));
                 rows.ListForeColors.append(store.ClassForeColors.valueOr(k, kNoText));
                 rows.ListBackColors.append(store.ClassBackColors.valueOr(k, kNoText));
@@ -78,7 +83,8 @@ void BuildStudySessionList(MainWindow& window) {
     time.text = rows.StudyTimeTotal;
     sessions.backColor = time.backColor = kWhite;
 
-    SortStudySessionList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale);
+    SortStudySessionList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale,
+                         &state.ListSortRanks);
     state.ListSessionRows = std::move(rows.ListSessionRows);
     state.ListSessionLengthRows = std::move(rows.ListSessionLengthRows);
     state.ListSessionDateRows = std::move(rows.ListSessionDateRows);

@@ -32,7 +32,11 @@ std::string unlessNone(const std::string& value) { return value == "None" ? std:
 
 TaskRows GatherTasks(const RecordStore& store, Date date, std::string_view dateRange, std::string_view listChoice) {
     TaskRows rows;
-    for (int i = 1; i <= store.TaskRecordNos.count(); ++i) {
+    const int n = store.TaskRecordNos.count();
+    rows.ListTaskRows.reserve(n);
+    rows.ListTaskForeColors.reserve(n);
+    rows.ListTaskBackColors.reserve(n);
+    for (int i = 1; i <= n; ++i) {
         if (store.TaskDescriptions.valueOr(i, kNoText) == kDeletedRecord) continue;
         if (!inDateRange(store, i, date, dateRange)) continue;
         const bool done = store.TaskDones.valueOr(i, kNoText) == kTrueText;
@@ -76,7 +80,7 @@ void BuildTaskList(MainWindow& window) {
     else
         unfinished.backColor = kAllDoneGreen;
 
-    SortTaskList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale);
+    SortTaskList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale, &state.ListSortRanks);
     state.ListTaskRows = std::move(rows.ListTaskRows);
     state.ListTaskForeColors = std::move(rows.ListTaskForeColors);
     state.ListTaskBackColors = std::move(rows.ListTaskBackColors);

@@ -8,6 +8,7 @@
 #include "common/column.h"
 #include "common/day_number.h"
 #include "common/int16.h"
+#include "list_view/text_ranks.h"
 
 namespace qh {
 
@@ -98,6 +99,9 @@ struct MainWindowState {
         ReminderDescriptions;
     Column<Int16> ReminderDays;
     Column<Date> ReminderDates;
+    // The order of the texts the list was last sorted by, so that a scroll step need not
+    // compare them again.
+    TextRanks ListSortRanks;
 };
 
 }  // namespace qh

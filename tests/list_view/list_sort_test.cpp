@@ -111,15 +111,24 @@ TEST(ListSortEquivalence, HomeworkOrderEqualsTheExchangeSortForEveryColumnAndDir
             auto compare = [&](int i, int j) {
                 const int a = slow.ListAssignmentRows(i), b = slow.ListAssignmentRows(j);
                 switch (column) {
-                    case 1: return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
-                    case 2: return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
-                    case 3: return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
-                    case 4: return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
-                    case 5: return sign(minutesOf(slow.ListTimes(i)) - minutesOf(slow.ListTimes(j)));
-                    case 6: return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
-                    case 7: return binaryRule(s.AssignmentDones(a), s.AssignmentDones(b));
-                    case 8: return binaryRule(s.AssignmentGrades(a), s.AssignmentGrades(b));
-                    default: return 0;
+                    case 1:
+                        return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
+                    case 2:
+                        return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
+                    case 3:
+                        return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
+                    case 4:
+                        return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
+                    case 5:
+                        return sign(minutesOf(slow.ListTimes(i)) - minutesOf(slow.ListTimes(j)));
+                    case 6:
+                        return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
+                    case 7:
+                        return binaryRule(s.AssignmentDones(a), s.AssignmentDones(b));
+                    case 8:
+                        return binaryRule(s.AssignmentGrades(a), s.AssignmentGrades(b));
+                    default:
+                        return 0;
                 }
             };
             exchangeSort(kRows, direction, compare, [&](int i) {
@@ -160,17 +169,22 @@ TEST(ListSortEquivalence, StudySessionOrderEqualsTheExchangeSort) {
             auto compare = [&](int i, int j) {
                 const int a = slow.ListAssignmentRows(i), b = slow.ListAssignmentRows(j);
                 switch (column) {
-                    case 1: return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
-                    case 2: return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
-                    case 3: return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
-                    case 4: return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
+                    case 1:
+                        return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
+                    case 2:
+                        return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
+                    case 3:
+                        return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
+                    case 4:
+                        return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
                     case 5:
                         return sign(minutesOf(s.StudySessionLengths(slow.ListSessionLengthRows(i))) -
                                     minutesOf(s.StudySessionLengths(slow.ListSessionLengthRows(j))));
                     case 6:
                         return sign(daysOf(s.StudySessionDates(slow.ListSessionDateRows(i))) -
                                     daysOf(s.StudySessionDates(slow.ListSessionDateRows(j))));
-                    default: return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
+                    default:
+                        return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
                 }
             };
             exchangeSort(kRows, direction, compare, [&](int i) {
@@ -215,11 +229,16 @@ TEST(ListSortEquivalence, TaskOrderEqualsTheExchangeSortWithItsSubstitutes) {
             auto compare = [&](int i, int j) {
                 const int a = slow.ListTaskRows(i), b = slow.ListTaskRows(j);
                 switch (column) {
-                    case 1: return textRule(s.TaskDescriptions(a), s.TaskDescriptions(b));
-                    case 2: return textRule(orNone(s.TaskTypes(a)), orNone(s.TaskTypes(b)));
-                    case 3: return textRule(orNone(s.TaskPriorities(a)), orNone(s.TaskPriorities(b)));
-                    case 4: return sign(taskDay(a) - taskDay(b));
-                    default: return binaryRule(s.TaskDones(a), s.TaskDones(b));
+                    case 1:
+                        return textRule(s.TaskDescriptions(a), s.TaskDescriptions(b));
+                    case 2:
+                        return textRule(orNone(s.TaskTypes(a)), orNone(s.TaskTypes(b)));
+                    case 3:
+                        return textRule(orNone(s.TaskPriorities(a)), orNone(s.TaskPriorities(b)));
+                    case 4:
+                        return sign(taskDay(a) - taskDay(b));
+                    default:
+                        return binaryRule(s.TaskDones(a), s.TaskDones(b));
                 }
             };
             exchangeSort(kRows, direction, compare, [&](int i) {
@@ -262,11 +281,16 @@ TEST(ListSortEquivalence, EventOrderEqualsTheExchangeSortWithItsSubstitutes) {
             auto compare = [&](int i, int j) {
                 const int a = slow.ListEventRows(i), b = slow.ListEventRows(j);
                 switch (column) {
-                    case 1: return textRule(s.EventDescriptions(a), s.EventDescriptions(b));
-                    case 2: return textRule(orNone(s.EventTypes(a)), orNone(s.EventTypes(b)));
-                    case 3: return sign(slow.ListEventDates(i) - slow.ListEventDates(j));
-                    case 4: return sign(minutes(s.EventTimes(a)) - minutes(s.EventTimes(b)));
-                    default: return textRule(orNone(s.EventRecurrences(a)), orNone(s.EventRecurrences(b)));
+                    case 1:
+                        return textRule(s.EventDescriptions(a), s.EventDescriptions(b));
+                    case 2:
+                        return textRule(orNone(s.EventTypes(a)), orNone(s.EventTypes(b)));
+                    case 3:
+                        return sign(slow.ListEventDates(i) - slow.ListEventDates(j));
+                    case 4:
+                        return sign(minutes(s.EventTimes(a)) - minutes(s.EventTimes(b)));
+                    default:
+                        return textRule(orNone(s.EventRecurrences(a)), orNone(s.EventRecurrences(b)));
                 }
             };
             exchangeSort(kRows, direction, compare, [&](int i) {
@@ -308,12 +332,18 @@ TEST(ListSortEquivalence, ReminderOrderEqualsTheExchangeSortWithItsSubstitutes) 
             };
             auto compare = [&](int i, int j) {
                 switch (column) {
-                    case 1: return textRule(slow.ReminderKinds(i), slow.ReminderKinds(j));
-                    case 2: return textRule(cls(slow.ReminderClasses(i)), cls(slow.ReminderClasses(j)));
-                    case 3: return textRule(slow.ReminderTypes(i), slow.ReminderTypes(j));
-                    case 4: return textRule(slow.ReminderDescriptions(i), slow.ReminderDescriptions(j));
-                    case 5: return sign(slow.ReminderDays(i) - slow.ReminderDays(j));
-                    default: return sign(slow.ReminderDates(i) - slow.ReminderDates(j));
+                    case 1:
+                        return textRule(slow.ReminderKinds(i), slow.ReminderKinds(j));
+                    case 2:
+                        return textRule(cls(slow.ReminderClasses(i)), cls(slow.ReminderClasses(j)));
+                    case 3:
+                        return textRule(slow.ReminderTypes(i), slow.ReminderTypes(j));
+                    case 4:
+                        return textRule(slow.ReminderDescriptions(i), slow.ReminderDescriptions(j));
+                    case 5:
+                        return sign(slow.ReminderDays(i) - slow.ReminderDays(j));
+                    default:
+                        return sign(slow.ReminderDates(i) - slow.ReminderDates(j));
                 }
             };
             exchangeSort(kRows, direction, compare, [&](int i) {
@@ -333,6 +363,44 @@ TEST(ListSortEquivalence, ReminderOrderEqualsTheExchangeSortWithItsSubstitutes) 
             EXPECT_EQ(fast.ReminderDates, slow.ReminderDates);
         }
     }
+}
+
+// The ranks kept between sorts give the order a fresh comparison gives, whatever came in
+// between: other texts, fewer texts, the other rule, the other direction.
+class CountingLocale : public FakeLocale {
+public:
+    int compareText(const std::string& a, const std::string& b) const override {
+        ++comparisons;
+        return FakeLocale::compareText(a, b);
+    }
+    mutable int comparisons = 0;
+};
+
+TEST(ListSortEquivalence, KeptTextRanksGiveTheOrderOfAFreshComparison) {
+    Random random;
+    std::vector<std::string> pool = kTexts;
+    TextRanks ranks;
+    CountingLocale counting;
+    for (int round = 0; round < 300; ++round) {
+        if (random.number(0, 9) == 0) pool.push_back("New " + std::to_string(round));
+        std::vector<std::string> texts;
+        const int n = random.number(0, 40);
+        const int reach = random.number(1, int(pool.size()));
+        for (int i = 0; i < n; ++i) texts.push_back(pool[std::size_t(random.number(0, reach - 1))]);
+        SortKeys keys;
+        keys.rule = random.number(0, 3) == 0 ? SortRule::BinaryText : SortRule::Text;
+        for (const std::string& text : texts) keys.texts.push_back(&text);
+        const int direction = random.number(1, 2);
+        EXPECT_EQ(SortedOrder(keys, direction, counting, &ranks), SortedOrder(keys, direction, locale)) << round;
+    }
+    // A second sort of the same texts compares nothing.
+    SortKeys keys;
+    keys.rule = SortRule::Text;
+    for (const std::string& text : kTexts) keys.texts.push_back(&text);
+    SortedOrder(keys, 1, counting, &ranks);
+    const int before = counting.comparisons;
+    SortedOrder(keys, 2, counting, &ranks);
+    EXPECT_EQ(counting.comparisons, before);
 }
 
 // --- Named cases ----------------------------------------------------------------------------

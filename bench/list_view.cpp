@@ -1,0 +1,202 @@
+// The lists of the main window at two sizes, each expected to rebuild within a frame:
+//   - the largest the record numbers allow: 32,767 assignments in the active term,
+//     32,767 study sessions and 32,767 tasks (under 16 ms per refresh and per scroll step),
+//   - a student's full term: 800 assignments, 3,000 study sessions, 300 tasks (under 2 ms).
+// A refresh is what RefreshDisplay runs for the list (the grid's layout and the list
+// builder: gather, summary, sort, paint); a scroll step is the scroll bar's change, which
+// does the same from another top row. Painting goes to recording canvases, so the figures
+// are the core's own work. Also measured: sorts by a text column, the grade list and the
+// study advice, which run on the same refreshes.
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <random>
+#include <string>
+
+#include "common/text.h"
+#include "grades/gpa.h"
+#include "grades/study_time.h"
+#include "list_view/list_rows.h"
+#include "record_store/color_vocabulary.h"
+#include "shell/main_window.h"
+#include "support/fake_platform.h"
+
+namespace qh {
+namespace {
+
+struct Size {
+    int assignments, sessions, tasks;
+};
+constexpr Size kLargest{32767, 32767, 32767};
+constexpr Size kTerm{800, 3000, 300};
+
+const char* const kClassColors[] = {"MistyRose", "Lavender", "Honeydew", "LightYellow", "PaleGreen", "Gold"};
+const char* const kTaskTypes[] = {"None", "School", "Class", "Home", "Personal", "Work", "Project", "Idea"};
+const char* const kTypes[] = {"Homework", "Reading", "Essay", "Lab", "Project", "Test"};
+const char* const kGrades[] = {"", "", "A", "A-", "B+", "B", "C", "E"};
+
+void fill(RecordStore& s, const Size& size) {
+    std::mt19937 rng(2026);
+    auto uniform = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(rng); };
+    const Date start = dateFromYmd(2026, 8, 24);
+    s.CurrentTermID = 1;
+    s.CurrentTermName = "Fall 2026";
+    for (int k = 1; k <= 12; ++k) {
+        s.ClassIDs.append(std::to_string(k));
+        s.ClassTermLinks.append("1");
+        s.ClassNames.append("Class number " + std::to_string(k));
+        s.ClassForeColors.append("Black");
+        s.ClassBackColors.append(kClassColors[k % 6]);
+        s.ClassNotes.append("");
+    }
+    for (int i = 1; i <= size.assignments; ++i) {
+        s.AssignmentRecordNos.append(std::to_string(i));
+        s.AssignmentIDs.append(std::to_string(i));
+        s.AssignmentClassLinks.append(std::to_string(uniform(1, 12)));
+        s.AssignmentDates.append(dateText(start + uniform(0, 120)));
+        s.AssignmentTypes.append(kTypes[uniform(0, 5)]);
+        s.AssignmentDifficulties.append(uniform(0, 1) ? "Medium" : "Hard");
+        s.AssignmentEstTimes.append(twoDigits(uniform(0, 5)) + " : " + twoDigits(uniform(0, 11) * 5));
+        s.AssignmentDescriptions.append("Assignment description number " + std::to_string(uniform(1, 99999)));
+        s.AssignmentDones.append(uniform(0, 2) ? "True" : "False");
+        s.AssignmentGrades.append(kGrades[uniform(0, 7)]);
+        s.AssignmentWeights.append(std::to_string(uniform(0, 20)));
+        s.AssignmentReminders.append("None");
+    }
+    for (int n = 1; n <= size.sessions; ++n) {
+        s.StudySessionRecordNos.append(std::to_string(n));
+        s.StudySessionLinkIDs.append(std::to_string(uniform(1, size.assignments)));
+        s.StudySessionLengths.append(twoDigits(uniform(0, 2)) + " : " + twoDigits(uniform(0, 11) * 5));
+        s.StudySessionDates.append(dateText(start + uniform(0, 120)));
+    }
+    for (int t = 1; t <= size.tasks; ++t) {
+        s.TaskRecordNos.append(std::to_string(t));
+        s.TaskIDs.append(std::to_string(t));
+        s.TaskDescriptions.append("Task to do number " + std::to_string(uniform(1, 99999)));
+        const bool dated = uniform(0, 3) != 0;
+        s.TaskDateExists.append(dated ? "True" : "False");
+        s.TaskDates.append(dateText(start + uniform(0, 120)));
+        s.TaskTypes.append(kTaskTypes[uniform(0, 7)]);
+        s.TaskPriorities.append(uniform(0, 1) ? "High" : "None");
+        s.TaskDones.append(uniform(0, 1) ? "True" : "False");
+        s.TaskNotes.append("");
+        s.TaskReminders.append("None");
+    }
+}
+
+// A main window over a filled store, in one mode, laid out once.
+struct Planner {
+    explicit Planner(const Size& size) : window(store, fake.platform) {
+        fill(store, size);
+        window.colors->BuildColorValues();
+        window.state.ClickedDate = window.state.DisplayedDate = dateFromYmd(2026, 10, 1);
+    }
+    void enter(Mode mode, const char* list, const char* range, int sortColumn) {
+        const char* menus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
+        for (int i = 0; i < 5; ++i) window.c(menus[i]).checked = int(mode) == i + 1;
+        window.c("ComboList").text = list;
+        window.c("ComboDateRange").text = range;
+        window.state.SortColumn = Int16(sortColumn);
+        window.state.SortDirection = 1;
+        this->mode = mode;
+        refresh();
+    }
+    void refresh() {
+        window.LayoutGrid(mode);
+        window.BuildList(mode);
+    }
+    FakePlatform fake;
+    RecordStore store;
+    MainWindow window;
+    Mode mode = Mode::Homework;
+};
+
+Planner& planner(const Size& size) {
+    static std::unique_ptr<Planner> largest, term;
+    std::unique_ptr<Planner>& p = size.assignments == kLargest.assignments ? largest : term;
+    if (!p) p = std::make_unique<Planner>(size);
+    return *p;
+}
+
+const Size& sizeOf(const benchmark::State& state) { return state.range(0) ? kLargest : kTerm; }
+
+struct ListCase {
+    Mode mode;
+    const char* list;
+    const char* range;
+    int sortColumn;
+};
+// The default view of each list, and a sort by a text column.
+constexpr ListCase kCases[] = {
+    {Mode::Homework, "All", "Term", 7},      {Mode::Homework, "All", "Term", 3},
+    {Mode::StudySessions, "All", "Term", 6}, {Mode::StudySessions, "All", "Term", 1},
+    {Mode::Tasks, "All", "All", 5},          {Mode::Tasks, "All", "All", 1},
+};
+
+void Refresh(benchmark::State& state) {
+    Planner& p = planner(sizeOf(state));
+    const ListCase& c = kCases[state.range(1)];
+    p.enter(c.mode, c.list, c.range, c.sortColumn);
+    for (auto _ : state) p.refresh();
+    state.counters["rows"] = p.window.state.RowCount;
+}
+
+// A sort by a text column the list was not sorted by before, as after a header click:
+// every distinct text is compared through the platform.
+void FirstTextSort(benchmark::State& state) {
+    Planner& p = planner(sizeOf(state));
+    const ListCase& c = kCases[state.range(1)];
+    p.enter(c.mode, c.list, c.range, c.sortColumn);
+    for (auto _ : state) {
+        state.PauseTiming();
+        p.window.state.ListSortRanks = TextRanks{};
+        state.ResumeTiming();
+        p.refresh();
+    }
+}
+
+void ScrollStep(benchmark::State& state) {
+    Planner& p = planner(sizeOf(state));
+    const ListCase& c = kCases[state.range(1)];
+    p.enter(c.mode, c.list, c.range, c.sortColumn);
+    int value = 1;
+    for (auto _ : state) {
+        value = value % 50 + 1;
+        p.window.scrollTo("VSGridScroll", value + 1);
+    }
+    state.counters["top"] = p.window.state.TopRow;
+}
+
+void GradeList(benchmark::State& state) {
+    Planner& p = planner(sizeOf(state));
+    for (auto _ : state) p.window.UpdateGradeList();
+}
+
+void StudyTimeToday(benchmark::State& state) {
+    Planner& p = planner(sizeOf(state));
+    for (auto _ : state) p.window.UpdateStudyTimeToday(p.window.state.ClickedDate);
+}
+
+void Cases(benchmark::internal::Benchmark* b) {
+    b->ArgNames({"largest", "list"});
+    for (int largest : {0, 1})
+        for (int i = 0; i < int(std::size(kCases)); ++i) b->Args({largest, i});
+    b->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(Refresh)->Apply(Cases);
+BENCHMARK(ScrollStep)->Apply(Cases);
+BENCHMARK(FirstTextSort)
+    ->ArgNames({"largest", "list"})
+    ->Args({0, 1})
+    ->Args({0, 3})
+    ->Args({0, 5})
+    ->Args({1, 1})
+    ->Args({1, 3})
+    ->Args({1, 5})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(GradeList)->ArgName("largest")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(StudyTimeToday)->ArgName("largest")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace qh
