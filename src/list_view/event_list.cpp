@@ -70,7 +70,7 @@ void BuildEventList(MainWindow& window) {
     }
     showSummary(window, rows);
 
-    SortEventList(rows, store, state.SortColumn, state.SortDirection, locale);
+    SortEventList(rows, store, state.SortColumn, state.SortDirection, locale, &state.ListSortRanks);
     state.ListEventRows.clear();
     state.ListEventRows.reserve(rows.ListEventRows.count());
     for (Int16 r : rows.ListEventRows) state.ListEventRows.append(r);

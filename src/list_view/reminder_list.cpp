@@ -68,7 +68,7 @@ void BuildReminderList(MainWindow& window) {
     window.c("LabelTop").caption = "Reminders for " + locale.longDate(state.ClickedDate);
     showSummary(window, rows);
 
-    SortReminderList(rows, state.SortColumn, state.SortDirection, locale);
+    SortReminderList(rows, state.SortColumn, state.SortDirection, locale, &state.ListSortRanks);
     keepRows(state, rows);
     state.RowCount = toInt16(state.ReminderRecords.count());
     window.UpdateGridScroll();
