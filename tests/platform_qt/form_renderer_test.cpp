@@ -93,6 +93,8 @@ public:
         on("picGrid", FormEvent::MouseUp, [this](const EventArgs&) { log += "up;"; });
         on("picGrid", FormEvent::Click, [this](const EventArgs&) { log += "click grid;"; });
         on("LabelCalDate(3)", FormEvent::Click, [this](const EventArgs&) { log += "date 3;"; });
+        on("VSGridScroll", FormEvent::Scroll,
+           [this](const EventArgs&) { log += "scroll " + std::to_string(c("VSGridScroll").value) + ";"; });
         on("VSGridScroll", FormEvent::Change,
            [this](const EventArgs&) { log += "change " + std::to_string(c("VSGridScroll").value) + ";"; });
     }
@@ -178,6 +180,7 @@ TEST_F(FormRendererTest, LaterControlsLieAboveEarlierOnesAndBringToFrontRestacks
 TEST_F(FormRendererTest, AClickReachesTheHandlerAndWhatItChangesReachesTheWidgets) {
     renderer.show(window);
     QWidget* status = widget("LabelStatus");
+    const QImage ready = status->grab().toImage();
     QTest::mouseClick(widget("ButtonOK"), Qt::LeftButton);
     EXPECT_EQ(window.log, "ok;");
     EXPECT_FALSE(widget("ButtonBoom")->isEnabled());
@@ -185,6 +188,7 @@ TEST_F(FormRendererTest, AClickReachesTheHandlerAndWhatItChangesReachesTheWidget
     renderer.show(window);
     EXPECT_TRUE(widget("LabelHidden")->isVisible());
     EXPECT_EQ(status, widget("LabelStatus"));  // the same widget, changed in place
+    EXPECT_NE(status->grab().toImage(), ready);  // now showing "Saved"
 }
 
 TEST_F(FormRendererTest, TypingSelectingAndTickingGoThroughTheModel) {
@@ -209,6 +213,14 @@ TEST_F(FormRendererTest, TypingSelectingAndTickingGoThroughTheModel) {
     QTest::mouseClick(widget("CheckBoxDone"), Qt::LeftButton);
     EXPECT_TRUE(window.c("CheckBoxDone").checked);
     EXPECT_NE(window.log.find("done on;"), std::string::npos);
+
+    // New entries from the model replace the old ones, with the model's choice.
+    renderer.forward([&] {
+        window.c("ComboList").items = {"Term", "Month", "Week", "Today"};
+        window.c("ComboList").listIndex = 3;
+    });
+    EXPECT_EQ(combo->count(), 4);
+    EXPECT_EQ(combo->currentText(), "Today");
 }
 
 TEST_F(FormRendererTest, ARadioButtonClearsTheOthersOfItsFrame) {
@@ -317,6 +329,15 @@ TEST_F(FormRendererTest, ScrollBarStepsReachTheModel) {
     renderer.forward([&] { window.c("VSGridScroll").value = 7; });
     EXPECT_EQ(bar->value(), 7);
     EXPECT_EQ(window.log, "change 3;");
+
+    // Dragging the thumb scrolls as it goes and changes once at the release.
+    window.log.clear();
+    bar->setSliderDown(true);
+    bar->setValue(5);
+    bar->setValue(4);
+    bar->setSliderDown(false);
+    EXPECT_EQ(window.log, "scroll 5;scroll 4;change 4;");
+    EXPECT_EQ(window.c("VSGridScroll").value, 4);
 }
 
 TEST_F(FormRendererTest, AUserResizeUpdatesTheModelAndTheMinimumHolds) {
