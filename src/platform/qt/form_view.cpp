@@ -137,12 +137,6 @@ QAction* FormWindow::action(const std::string& key) const {
     return it == views_.end() ? nullptr : it->second.action;
 }
 
-template <typename Gesture>
-void FormWindow::forward(Gesture gesture) {
-    if (retired_ || renderer_.applying()) return;
-    renderer_.forward(gesture);
-}
-
 void FormWindow::retire() {
     retired_ = true;
     for (auto& [key, view] : views_)
@@ -444,79 +438,6 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
     }
 }
 
-void FormWindow::rebuildMenus() {
-    menuKeys_.clear();
-    for (auto& [key, view] : views_) {
-        if (form_.c(key).kind != ControlKind::Menu) continue;
-        if (view.menu) {
-            delete view.menu;  // owns its menu action
-        } else {
-            delete view.action;
-        }
-        view.menu = nullptr;
-        view.action = nullptr;
-        view.fresh = true;
-    }
-    menuBar_->clear();
-    std::set<std::string> parents;
-    for (const std::string& key : form_.order()) {
-        const Control& control = form_.c(key);
-        if (control.kind == ControlKind::Menu && !control.container.empty()) parents.insert(control.container);
-    }
-    bool anyTopLevel = false;
-    for (const std::string& key : form_.order()) {
-        const Control& control = form_.c(key);
-        if (control.kind != ControlKind::Menu) continue;
-        menuKeys_.push_back(key);
-        View& view = views_[key];
-        QMenu* parentMenu = nullptr;
-        if (!control.container.empty()) {
-            auto it = views_.find(control.container);
-            if (it == views_.end() || !it->second.menu) continue;  // parent unknown: not shown
-            parentMenu = it->second.menu;
-        } else {
-            anyTopLevel = true;
-        }
-        if (parents.count(key)) {
-            view.menu = new QMenu(qs(control.caption), this);
-            view.menu->setObjectName(qs(key));
-            view.action = view.menu->menuAction();
-            view.action->setObjectName(qs(key));
-            if (parentMenu)
-                parentMenu->addMenu(view.menu);
-            else
-                menuBar_->addMenu(view.menu);
-        } else {
-            view.action = new QAction(this);
-            view.action->setObjectName(qs(key));
-            if (control.caption == "-") view.action->setSeparator(true);
-            QObject::connect(view.action, &QAction::triggered, this,
-                             [this, key] { forward([this, key] { form_.click(key); }); });
-            if (parentMenu)
-                parentMenu->addAction(view.action);
-            else
-                menuBar_->addAction(view.action);
-        }
-    }
-    menuBar_->setVisible(anyTopLevel);
-}
-
-void FormWindow::applyMenu(View& view, const Control& control) {
-    QAction* action = view.action;
-    if (!action) return;
-    if (!action->isSeparator()) {
-        action->setText(qs(control.caption));
-        if (view.menu) view.menu->setTitle(qs(control.caption));
-        // A tick shows only where one is set; an unticked entry carries no empty box.
-        if (!view.menu) {
-            action->setCheckable(control.checked);
-            action->setChecked(control.checked);
-        }
-    }
-    action->setEnabled(control.enabled);
-    action->setVisible(control.visible);
-}
-
 void FormWindow::restack(const std::string& containerKey) {
     std::vector<std::pair<int, QWidget*>> children;
     for (auto& [key, view] : views_)
@@ -676,111 +597,6 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (retired_) return;
     forward([this] { renderer_.close(form_); });
-}
-
-// ---------------------------------------------------------------------------------------
-// FormRenderer
-
-FormRenderer::~FormRenderer() {
-    for (auto& [form, window] : windows_) delete window;
-    for (QPointer<FormWindow>& window : closed_) delete window.data();
-}
-
-FormWindow* FormRenderer::windowOf(const Form& form) const {
-    auto it = windows_.find(&form);
-    return it == windows_.end() ? nullptr : it->second;
-}
-
-FormWindow& FormRenderer::windowFor(Form& form) {
-    if (FormWindow* window = windowOf(form)) return *window;
-    auto* window = new FormWindow(*this, form);
-    windows_[&form] = window;
-    window->sync();
-    return *window;
-}
-
-void FormRenderer::show(Form& form) {
-    FormWindow& window = windowFor(form);
-    form.visible = true;
-    syncAll();
-    if (QGuiApplication::platformName() != QStringLiteral("offscreen")) window.raise();
-}
-
-void FormRenderer::showModal(Form& form, Form* owner) {
-    FormWindow* window = &windowFor(form);
-    if (window->isVisible()) window->hide();
-    window->setWindowModality(Qt::ApplicationModal);
-    if (owner) {
-        if (FormWindow* ownerWindow = windowOf(*owner)) {
-            window->winId();
-            if (window->windowHandle() && ownerWindow->windowHandle())
-                window->windowHandle()->setTransientParent(ownerWindow->windowHandle());
-        }
-    }
-    form.visible = true;
-    syncAll();
-    QEventLoop loop;
-    modal_.push_back({&form, &loop});
-    if (form.visible && windowOf(form)) loop.exec(QEventLoop::DialogExec);
-    modal_.erase(std::remove_if(modal_.begin(), modal_.end(), [&](const ModalRun& run) { return run.loop == &loop; }),
-                 modal_.end());
-    if ((window = windowOf(form)) && !window->isVisible()) window->setWindowModality(Qt::NonModal);
-}
-
-bool FormRenderer::close(Form& form) {
-    if (!form.Form_QueryUnload()) return false;
-    form.Form_Unload();
-    form.visible = false;
-    auto it = windows_.find(&form);
-    if (it != windows_.end()) {
-        FormWindow* window = it->second;
-        windows_.erase(it);
-        window->retire();
-        window->hide();
-        // Later: the close may come from a handler of this very window.
-        window->deleteLater();
-        closed_.emplace_back(window);
-    }
-    syncAll();
-    quitIfNoWindowLeft();
-    return true;
-}
-
-void FormRenderer::forward(const std::function<void()>& gesture) {
-    gesture();
-    syncAll();
-}
-
-void FormRenderer::syncAll() {
-    std::vector<FormWindow*> windows;
-    for (auto& [form, window] : windows_) windows.push_back(window);
-    for (FormWindow* window : windows)
-        if (std::find_if(windows_.begin(), windows_.end(), [&](const auto& entry) { return entry.second == window; }) !=
-            windows_.end())
-            window->sync();
-    endFinishedModalLoops();
-}
-
-bool FormRenderer::anyShownWindowUnexposed() const {
-    for (const auto& [form, window] : windows_)
-        if (window->isVisible() && window->windowHandle() && !window->windowHandle()->isExposed()) return true;
-    return false;
-}
-
-void FormRenderer::endFinishedModalLoops() {
-    for (const ModalRun& run : modal_)
-        if (!run.form->visible || !windowOf(*run.form)) run.loop->quit();
-}
-
-void FormRenderer::quitIfNoWindowLeft() {
-    if (!quitWhenLastWindowCloses) return;
-    // Looked at once the current event is done: a start-up that closes the splash before
-    // the main window shows is no end of the program.
-    QTimer::singleShot(0, &lifetime_, [this] {
-        for (auto& [form, window] : windows_)
-            if (window->isVisible()) return;
-        QCoreApplication::quit();
-    });
 }
 
 }  // namespace qh

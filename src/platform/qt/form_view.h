@@ -165,4 +165,12 @@ private:
     int applying_ = 0;
 };
 
+// Hands a user's gesture to the renderer; nothing while the window applies the model's
+// own changes (the widget's signal is then no gesture) or after it closed.
+template <typename Gesture>
+void FormWindow::forward(Gesture gesture) {
+    if (retired_ || renderer_.applying()) return;
+    renderer_.forward(gesture);
+}
+
 }  // namespace qh
