@@ -356,6 +356,16 @@ TEST_F(FormRendererTest, AUserResizeUpdatesTheModelAndTheMinimumHolds) {
     EXPECT_EQ(window.log, "resize 7500;");
 }
 
+TEST_F(FormRendererTest, AFixedSizeWindowKeepsItsSize) {
+    window.fixedSize = true;
+    renderer.show(window);
+    FormWindow& frame = shown();
+    EXPECT_EQ(frame.minimumSize(), frame.maximumSize());
+    EXPECT_EQ(frame.client()->size(), QSize(400, 280));
+    EXPECT_FALSE(frame.windowFlags() & Qt::WindowMaximizeButtonHint);
+    EXPECT_TRUE(frame.isVisible());
+}
+
 TEST_F(FormRendererTest, AFailureInAClickHandlerReachesTheFailureReport) {
     renderer.show(window);
     std::vector<std::string> reports;

@@ -503,6 +503,15 @@ void FormWindow::applyWindow() {
         const int h = form_.minHeight > 0 ? toPixels(std::max(0, form_.minHeight - Form::kFrameHeight - menuTwips)) : 0;
         setMinimumSize(w, h > 0 ? h + bar : 0);
     }
+    if (applied_.fixedFrame != form_.fixedSize) {
+        // A window that can't be resized offers no maximise or minimise either.
+        applied_.fixedFrame = form_.fixedSize;
+        const bool wasVisible = isVisible();
+        setWindowFlags(form_.fixedSize ? Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint
+                                       : Qt::Window);
+        if (wasVisible) show();
+    }
     const int clientWidth = toPixels(clientWidthTwips), clientHeight = toPixels(clientHeightTwips);
     if (clientWidth > 0 && clientHeight > 0 &&
         (applied_.clientWidth != clientWidth || applied_.clientHeight != clientHeight ||
