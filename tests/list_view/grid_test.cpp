@@ -329,19 +329,6 @@ TEST_F(GridWindowTest, AClickThatMovesOffItsRowOrStartsOnTheHeaderOrScrollStripD
     EXPECT_TRUE(numberBoxes(grid()).empty());
 }
 
-TEST_F(GridWindowTest, AScrolledListOpensThePositionShownInTheRow) {
-    window.LayoutGrid(Mode::Tasks);
-    window.c("MenuHomework").checked = false;
-    window.c("MenuTasks").checked = true;
-    for (int i = 1; i <= 20; ++i) window.state.ListTaskRows.append(100 + i);
-    window.state.RowCount = 20;
-    window.state.TopRow = 6;
-    window.press("picGrid", {1, 0, 500, 1000});  // visible row 3
-    window.release("picGrid", {1, 0, 500, 1000});
-    // The number cell is reprinted with the position TopRow - 1 + k.
-    EXPECT_EQ(grid().textsIn(0, 1020, 345, 1020), "8|8");
-}
-
 TEST_F(GridWindowTest, AnEmptyLineUnderTheRowsMarksNothing) {
     window.LayoutGrid(Mode::Homework);
     window.state.ListAssignmentRows = {1};
