@@ -93,7 +93,8 @@ std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, b
     };
     std::vector<int> byKey(distinct.size());
     std::iota(byKey.begin(), byKey.end(), 0);
-    std::sort(byKey.begin(), byKey.end(), less);
+    // A merge sort: the fewest calls of the comparison.
+    std::stable_sort(byKey.begin(), byKey.end(), less);
     std::vector<long long> rank(distinct.size());
     for (std::size_t j = 1; j < byKey.size(); ++j)
         rank[std::size_t(byKey[j])] = rank[std::size_t(byKey[j - 1])] + (less(byKey[j - 1], byKey[j]) ? 1 : 0);
