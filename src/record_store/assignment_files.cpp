@@ -15,7 +15,7 @@ namespace {
 // the same as taking it as many times as its link occurs here, without the scan.
 using RowCounts = std::unordered_map<Int16, int>;
 
-// Positions of the values parseRecord gives, in record order.
+// Positions of the values of a record (reserved fields not counted).
 constexpr std::size_t kAssignmentClassLink = 2, kAssignmentDescription = 7;
 constexpr std::size_t kNoteLinkID = 1;
 constexpr std::size_t kSessionLinkID = 1;
@@ -37,21 +37,19 @@ bool RecordFiles::LoadAssignments() {
                                            &s.AssignmentDates,     &s.AssignmentTypes,        &s.AssignmentDifficulties,
                                            &s.AssignmentEstTimes,  &s.AssignmentDescriptions, &s.AssignmentDones,
                                            &s.AssignmentGrades,    &s.AssignmentWeights,      &s.AssignmentReminders};
-        readRecords(kAssignmentsLayout, s.NextAssignmentRecord, [&](Values& v) {
-            if (v[kAssignmentDescription] == kDeletedRecord) return;
-            const auto found = classRows.find(int16OrZero(v[kAssignmentClassLink]));
+        // Only the active term's records are taken: no room is made ahead for them.
+        readRecords(kAssignmentsLayout, s.NextAssignmentRecord, {}, [&](const RecordView& r) {
+            if (r.valueIs(kAssignmentDescription, kDeletedRecord)) return;
+            const auto found = classRows.find(int16OrZero(r.value(kAssignmentClassLink)));
             if (found == classRows.end()) return;
-            for (int n = 1; n < found->second; ++n) {
-                Values copy = v;
-                appendRow(assignments, copy);
-            }
-            appendRow(assignments, v);
+            for (int n = 0; n < found->second; ++n) r.appendTo(assignments);
         });
 
         current = "Notes.txt";
+        // The text stays on disk until a note is opened: only RecordNo and LinkID are read.
         TextColumn* const notes[] = {&s.NoteRecordNos, &s.NoteLinkIDs};
-        readRecords(kNotesLayout, s.NextNoteRecord, [&](Values& v) {
-            if (int16OrZero(v[kNoteLinkID]) > 0) appendRow(notes, v);
+        readRecords(kNotesLayout, s.NextNoteRecord, notes, [&](const RecordView& r) {
+            if (int16OrZero(r.value(kNoteLinkID)) > 0) r.appendTo(notes);
         });
 
         current = "StudySessions.txt";
@@ -59,15 +57,12 @@ bool RecordFiles::LoadAssignments() {
         for (const std::string& id : s.AssignmentIDs) ++assignmentRows[int16OrZero(id)];
         TextColumn* const sessions[] = {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
                                         &s.StudySessionDates};
-        readRecords(kStudySessionsLayout, s.NextStudySessionRecord, [&](Values& v) {
-            if (v[kSessionLinkID] == "0") return;
-            const auto found = assignmentRows.find(int16OrZero(v[kSessionLinkID]));
+        readRecords(kStudySessionsLayout, s.NextStudySessionRecord, {}, [&](const RecordView& r) {
+            const std::string link = r.value(kSessionLinkID);
+            if (link == "0") return;
+            const auto found = assignmentRows.find(int16OrZero(link));
             if (found == assignmentRows.end()) return;
-            for (int n = 1; n < found->second; ++n) {
-                Values copy = v;
-                appendRow(sessions, copy);
-            }
-            appendRow(sessions, v);
+            for (int n = 0; n < found->second; ++n) r.appendTo(sessions);
         });
     });
     if (!read) reportFileError(current, "reading");

@@ -1,6 +1,7 @@
 #include "record_store/codepage.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace qh {
 namespace {
@@ -96,9 +97,19 @@ std::string toCodePage(std::string_view utf8) {
 }
 
 std::string fromCodePage(std::string_view bytes) {
-    std::string out;
-    out.reserve(bytes.size());
-    for (char b : bytes) appendUtf8(out, charOfByte(static_cast<unsigned char>(b)));
+    // Most of what the files hold is plain ASCII, which reads as itself: it is copied
+    // whole, and only from the first byte above 0x7F on is each byte converted.
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::size_t plain = 0;
+    for (std::uint64_t eight; plain + 8 <= bytes.size(); plain += 8) {
+        std::memcpy(&eight, bytes.data() + plain, 8);
+        if (eight & kHighBits) break;
+    }
+    while (plain < bytes.size() && static_cast<unsigned char>(bytes[plain]) < 0x80) ++plain;
+    std::string out(bytes.substr(0, plain));
+    if (plain == bytes.size()) return out;
+    out.reserve(plain + 3 * (bytes.size() - plain));
+    for (char b : bytes.substr(plain)) appendUtf8(out, charOfByte(static_cast<unsigned char>(b)));
     return out;
 }
 

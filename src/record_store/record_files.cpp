@@ -20,13 +20,19 @@ void RecordFiles::reportFileError(const std::string& fileName, const char* actio
     ReportFileError(store_, platform_.messages, fileName, action);
 }
 
-void RecordFiles::readRecords(const RecordLayout& layout, Int16& next, const std::function<void(Values&)>& take) {
+void RecordFiles::readRecords(const RecordLayout& layout, Int16& next, std::span<TextColumn* const> rowsFor,
+                              const std::function<void(const RecordView&)>& take) {
     const auto file = platform_.files.openRecords(dataFilePath(store_, std::string(layout.fileName)), layout.length);
+    if (!rowsFor.empty()) {
+        const int records = file->recordCount();
+        for (TextColumn* column : rowsFor) column->reserve(column->count() + records);
+    }
     next = 1;
     std::string bytes;
+    RecordView record(layout);
     while (file->read(next, bytes)) {
-        Values values = parseRecord(layout, bytes);
-        take(values);
+        record.reset(bytes);
+        take(record);
         next = toInt16(next + 1);  // a file of 32767 records overflows here: an error reading it
     }
 }
@@ -59,11 +65,11 @@ bool RecordFiles::LoadTermsAndClasses() {
     std::string current = "Terms.txt";
     const bool read = runFileStep([&] {
         TextColumn* const terms[] = {&s.TermIDs, &s.TermNames, &s.TermStarts, &s.TermEnds};
-        readRecords(kTermsLayout, s.NextTermRecord, [&](Values& v) { appendRow(terms, v); });
+        readRecords(kTermsLayout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
         current = "Classes.txt";
         TextColumn* const classes[] = {&s.ClassIDs,        &s.ClassTermLinks,  &s.ClassNames,
                                        &s.ClassForeColors, &s.ClassBackColors, &s.ClassNotes};
-        readRecords(kClassesLayout, s.NextClassRecord, [&](Values& v) { appendRow(classes, v); });
+        readRecords(kClassesLayout, s.NextClassRecord, classes, [&](const RecordView& r) { r.appendTo(classes); });
     });
     if (!read) reportFileError(current, "reading");
     return read;

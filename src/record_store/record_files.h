@@ -18,6 +18,7 @@
 // Terms.txt and Classes.txt are always replaced whole, atomically: a failed save leaves
 // the file as it was before the save.
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -78,8 +79,12 @@ private:
     bool enterDataDirectory();
     void reportFileError(const std::string& fileName, const char* action);
     // Opens the file, resets `next` to 1 and hands each whole record to `take`, advancing
-    // `next` past it. Throws on any failure; the caller reports it.
-    void readRecords(const RecordLayout& layout, Int16& next, const std::function<void(Values&)>& take);
+    // `next` past it. Throws on any failure; the caller reports it. `rowsFor` are columns
+    // that take about one row for each record: they are given room for all of them
+    // before the first is read, so that a file of thousands of records doesn't regrow
+    // them again and again.
+    void readRecords(const RecordLayout& layout, Int16& next, std::span<TextColumn* const> rowsFor,
+                     const std::function<void(const RecordView&)>& take);
     // The whole of a one-record save: directory step, counter rules, write, flag.
     bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
                  const std::function<Values()>& values);

@@ -1,18 +1,8 @@
 #pragma once
 // Pieces shared by the file routines of the record store (not for other folders).
-#include <span>
-#include <string>
-#include <vector>
-
-#include "common/column.h"
 #include "common/failure.h"
 
 namespace qh {
-
-// Appends one value to each column, in order.
-inline void appendRow(std::span<TextColumn* const> columns, std::vector<std::string>& values) {
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i]->append(std::move(values[i]));
-}
 
 // Runs the file step of a routine and says whether it went through. It traps what a
 // file routine traps: failures of the file layer and the run-time errors of its own

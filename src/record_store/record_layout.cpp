@@ -1,5 +1,7 @@
 #include "record_store/record_layout.h"
 
+#include <cstdint>
+#include <cstring>
 #include <stdexcept>
 
 #include "common/day_number.h"
@@ -71,6 +73,24 @@ std::string dateFieldText(const std::string& value) {
     return dateText(*date);
 }
 
+// The field without its trailing spaces (trimRight without the copy). The long note
+// fields are mostly padding, so the padding is passed over 32 bytes at a time, then 8.
+std::string_view withoutTrailingSpaces(std::string_view field) {
+    constexpr std::uint64_t kSpaces = 0x2020202020202020;
+    const char* const data = field.data();
+    auto notSpaces = [data](std::size_t from) {
+        std::uint64_t eight;
+        std::memcpy(&eight, data + from, 8);
+        return eight ^ kSpaces;
+    };
+    std::size_t end = field.size();
+    while (end >= 32 && (notSpaces(end - 32) | notSpaces(end - 24) | notSpaces(end - 16) | notSpaces(end - 8)) == 0)
+        end -= 32;
+    while (end >= 8 && notSpaces(end - 8) == 0) end -= 8;
+    while (end > 0 && data[end - 1] == ' ') --end;
+    return field.substr(0, end);
+}
+
 }  // namespace
 
 const RecordLayout kTermsLayout{"Terms.txt", 100, ' ', kTermFields};
@@ -117,20 +137,44 @@ std::string buildRecord(const RecordLayout& layout, std::span<const std::string>
 }
 
 std::vector<std::string> parseRecord(const RecordLayout& layout, std::string_view bytes) {
-    if (int(bytes.size()) != layout.length)
-        throw std::invalid_argument("wrong record length for " + std::string(layout.fileName));
+    RecordView record(layout);
+    record.reset(bytes);
     std::vector<std::string> values;
-    values.reserve(layout.fields.size());
+    const std::size_t count = std::size_t(layout.valueCount());
+    values.reserve(count);
+    for (std::size_t n = 0; n < count; ++n) values.push_back(record.value(n));
+    return values;
+}
+
+RecordView::RecordView(const RecordLayout& layout) : layout_(layout) {
     std::size_t offset = 0;
     for (const FieldSpec& field : layout.fields) {
-        const std::string_view raw = bytes.substr(offset, std::size_t(field.width));
+        if (field.kind != FieldKind::Reserved)
+            places_.push_back({offset, std::size_t(field.width), field.kind == FieldKind::Date});
         offset += std::size_t(field.width);
-        if (field.kind == FieldKind::Reserved) continue;
-        std::string value = fromCodePage(trimRight(raw));
-        if (field.kind == FieldKind::Date) value = repairDateSeparators(std::move(value));
-        values.push_back(std::move(value));
     }
-    return values;
+}
+
+void RecordView::reset(std::string_view bytes) {
+    if (int(bytes.size()) != layout_.length)
+        throw std::invalid_argument("wrong record length for " + std::string(layout_.fileName));
+    bytes_ = bytes;
+}
+
+std::string RecordView::value(std::size_t n) const {
+    const Place& place = places_.at(n);
+    std::string value = fromCodePage(withoutTrailingSpaces(bytes_.substr(place.offset, place.width)));
+    if (place.date) value = repairDateSeparators(std::move(value));
+    return value;
+}
+
+bool RecordView::valueIs(std::size_t n, std::string_view ascii) const {
+    const Place& place = places_.at(n);
+    return withoutTrailingSpaces(bytes_.substr(place.offset, place.width)) == ascii;
+}
+
+void RecordView::appendTo(std::span<TextColumn* const> columns) const {
+    for (std::size_t n = 0; n < columns.size(); ++n) columns[n]->append(value(n));
 }
 
 }  // namespace qh

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "common/column.h"
+
 namespace qh {
 
 enum class FieldKind {
@@ -56,5 +58,33 @@ std::string buildRecord(const RecordLayout& layout, std::span<const std::string>
 // order: UTF-8, trailing spaces removed, every "." and then every "-" of a date field
 // replaced by "/" (a date field that holds no date is otherwise kept as it stands).
 std::vector<std::string> parseRecord(const RecordLayout& layout, std::string_view bytes);
+
+// One record of a file, its values parsed only when they are asked for: a load reads the
+// one or two fields that decide whether it takes the record, and the others only for the
+// records it takes, straight into its columns. Each value is exactly what parseRecord
+// gives in that place.
+class RecordView {
+public:
+    explicit RecordView(const RecordLayout& layout);
+    // The record to read: exactly layout.length bytes, which must outlive the reading.
+    void reset(std::string_view bytes);
+    // The n-th value (0-based, reserved fields not counted).
+    std::string value(std::size_t n) const;
+    // Whether the n-th value, which is no date, is `ascii` (a text of ASCII characters
+    // only), without building the value: the code page reads ASCII bytes as themselves
+    // and every other byte as characters outside ASCII, so the bytes alone decide.
+    bool valueIs(std::size_t n, std::string_view ascii) const;
+    // Appends values 0, 1, ... to the columns, one to each, as many as there are columns.
+    void appendTo(std::span<TextColumn* const> columns) const;
+
+private:
+    struct Place {
+        std::size_t offset, width;
+        bool date;
+    };
+    const RecordLayout& layout_;
+    std::vector<Place> places_;  // of the value fields, in table order
+    std::string_view bytes_;
+};
 
 }  // namespace qh

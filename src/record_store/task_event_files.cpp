@@ -17,8 +17,8 @@ bool RecordFiles::LoadTasks() {
                                    &s.TaskDates,     &s.TaskTypes,    &s.TaskPriorities,   &s.TaskDones,
                                    &s.TaskNotes,     &s.TaskReminders};
     const bool read = runFileStep([&] {
-        readRecords(kTasksLayout, s.NextTaskRecord, [&](Values& v) {
-            if (v[kTaskDescription] != kDeletedRecord) appendRow(columns, v);
+        readRecords(kTasksLayout, s.NextTaskRecord, columns, [&](const RecordView& r) {
+            if (!r.valueIs(kTaskDescription, kDeletedRecord)) r.appendTo(columns);
         });
     });
     if (!read) reportFileError("Tasks.txt", "reading");
@@ -41,8 +41,8 @@ bool RecordFiles::LoadEvents() {
         &s.EventTimes,         &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
         &s.EventRepeatDailies, &s.EventEnds,        &s.EventEndDates,  &s.EventNotes,         &s.EventReminders};
     const bool read = runFileStep([&] {
-        readRecords(kEventsLayout, s.NextEventRecord, [&](Values& v) {
-            if (v[kEventDescription] != kDeletedRecord) appendRow(columns, v);
+        readRecords(kEventsLayout, s.NextEventRecord, columns, [&](const RecordView& r) {
+            if (!r.valueIs(kEventDescription, kDeletedRecord)) r.appendTo(columns);
         });
     });
     if (!read) reportFileError("Events.txt", "reading");
