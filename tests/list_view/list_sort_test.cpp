@@ -12,41 +12,50 @@
 namespace qh {
 namespace {
 
-// --- The exchange sort the order must equal ---------------------------------------------
-//
-// Neighbours are compared left to right and exchanged when strictly out of order, pass
-// after pass until a pass exchanges nothing. `compare(i, j)` reads the keys of list rows
-// i and j afresh from the columns, as they stand at that moment.
-void exchangeSort(int n, int direction, const std::function<int(int, int)>& compare,
-                  const std::function<void(int)>& exchange) {
-    if (n < 2) return;
-    bool changed = true;
-    while (changed) {
-        changed = false;
-        for (int i = 1; i <= n - 1; ++i) {
-            const int c = compare(i, i + 1);
-            if ((direction == 1 && c > 0) || (direction == 2 && c < 0)) {
-                exchange(i);
-                changed = true;
-            }
-        }
-    }
-}
-
-template <class T>
-void exchangeIn(Column<T>& column, int i) {
-    if (column.has(i) && column.has(i + 1)) column.swapRows(i, i + 1);
-}
-
-int sign(long long v) { return v < 0 ? -1 : v > 0 ? 1 : 0; }
-
 FakeLocale locale;
 
+int sign(long long v) { return v < 0 ? -1 : v > 0 ? 1 : 0; }
 int textRule(const std::string& a, const std::string& b) { return sign(locale.compareText(a, b)); }
 int binaryRule(const std::string& a, const std::string& b) { return sign(a.compare(b)); }
 long long daysOf(const std::string& text) { return parseDateText(text).value_or(0); }
 long long minutesOf(const std::string& text) {
     return LeadingNumber(text.substr(0, 2)) * 60 + LeadingNumber(text.substr(text.size() - 2));
+}
+
+// Exchanges rows i and i + 1 of every column that has both.
+template <class... Columns>
+void exchangeIn(int i, Columns&... columns) {
+    ((columns.has(i) && columns.has(i + 1) ? columns.swapRows(i, i + 1) : void()), ...);
+}
+
+constexpr int kRows = 120;
+
+// The order every sort must equal: an exchange sort that swaps neighbours, left to right,
+// when strictly out of order, pass after pass until a pass swaps nothing, reading the keys
+// afresh from the rows as they stand. For each column in [first, last] and both directions,
+// `sort` orders one copy of `original`, the exchange sort over `compare(rows, column,
+// direction, i, j)` another, and `check` compares the two.
+template <class Rows>
+void checkAgainstExchangeSort(const Rows& original, int first, int last,
+                              const std::function<void(Rows&, int, int)>& sort,
+                              const std::function<int(const Rows&, int, int, int, int)>& compare,
+                              const std::function<void(Rows&, int)>& exchange,
+                              const std::function<void(const Rows&, const Rows&)>& check) {
+    for (int column = first; column <= last; ++column) {
+        for (int direction : {1, 2}) {
+            Rows fast = original, slow = original;
+            sort(fast, column, direction);
+            for (bool changed = true; changed;) {
+                changed = false;
+                for (int i = 1; i < kRows; ++i) {
+                    const int c = compare(slow, column, direction, i, i + 1);
+                    if ((direction == 1 && c > 0) || (direction == 2 && c < 0)) exchange(slow, i), changed = true;
+                }
+            }
+            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+            check(fast, slow);
+        }
+    }
 }
 
 // --- Random data with many ties -----------------------------------------------------------
@@ -66,9 +75,9 @@ const std::vector<std::string> kGrades{"A", "A-", "B+", "B", "", " ", "E", "a"};
 const std::vector<std::string> kDones{"True", "False"};
 const std::vector<std::string> kTimes{"12:00 am", "9:05 pm", "9:05 PM", "None", "11:59 pm", "junk", "12:05 pm"};
 
-RecordStore randomStore(Random& random, int n) {
+RecordStore randomStore(Random& random) {
     RecordStore s;
-    for (int i = 1; i <= n; ++i) {
+    for (int i = 1; i <= kRows; ++i) {
         s.AssignmentTypes.append(random.pick(kTexts));
         s.AssignmentDescriptions.append(random.pick(kTexts));
         s.AssignmentDifficulties.append(random.pick(kTexts));
@@ -91,11 +100,22 @@ RecordStore randomStore(Random& random, int n) {
     return s;
 }
 
-constexpr int kRows = 120;
+// "None" is "z" ascending and "a" descending.
+std::string orNone(const std::string& v, int direction) { return v != "None" ? v : direction == 1 ? "z" : "a"; }
+
+// The assignment columns shared by the homework and the study session lists.
+int assignmentRule(const RecordStore& s, int column, int a, int b) {
+    switch (column) {
+        case 2: return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
+        case 3: return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
+        case 4: return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
+        default: return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
+    }
+}
 
 TEST(ListSortEquivalence, HomeworkOrderEqualsTheExchangeSortForEveryColumnAndDirection) {
     Random random;
-    const RecordStore s = randomStore(random, kRows);
+    const RecordStore s = randomStore(random);
     HomeworkRows original;
     for (int i = 1; i <= kRows; ++i) {
         original.ListAssignmentRows.append(random.number(1, kRows));
@@ -104,53 +124,34 @@ TEST(ListSortEquivalence, HomeworkOrderEqualsTheExchangeSortForEveryColumnAndDir
         original.ListForeColors.append("Black" + std::to_string(i));
         original.ListBackColors.append("White" + std::to_string(i));
     }
-    for (int column = 0; column <= 9; ++column) {
-        for (int direction : {1, 2}) {
-            HomeworkRows fast = original, slow = original;
-            SortHomeworkList(fast, s, column, direction, locale);
-            auto compare = [&](int i, int j) {
-                const int a = slow.ListAssignmentRows(i), b = slow.ListAssignmentRows(j);
-                switch (column) {
-                    case 1:
-                        return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
-                    case 2:
-                        return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
-                    case 3:
-                        return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
-                    case 4:
-                        return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
-                    case 5:
-                        return sign(minutesOf(slow.ListTimes(i)) - minutesOf(slow.ListTimes(j)));
-                    case 6:
-                        return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
-                    case 7:
-                        return binaryRule(s.AssignmentDones(a), s.AssignmentDones(b));
-                    case 8:
-                        return binaryRule(s.AssignmentGrades(a), s.AssignmentGrades(b));
-                    default:
-                        return 0;
-                }
-            };
-            exchangeSort(kRows, direction, compare, [&](int i) {
-                exchangeIn(slow.ListAssignmentRows, i);
-                exchangeIn(slow.ListTimes, i);
-                exchangeIn(slow.ListForeColors, i);
-                exchangeIn(slow.ListBackColors, i);
-                exchangeIn(slow.ListClassNames, i);
-            });
-            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+    checkAgainstExchangeSort<HomeworkRows>(
+        original, 0, 9, [&](HomeworkRows& r, int c, int d) { SortHomeworkList(r, s, c, d, locale); },
+        [&](const HomeworkRows& r, int column, int, int i, int j) {
+            const int a = r.ListAssignmentRows(i), b = r.ListAssignmentRows(j);
+            switch (column) {
+                case 1: return textRule(r.ListClassNames(i), r.ListClassNames(j));
+                case 5: return sign(minutesOf(r.ListTimes(i)) - minutesOf(r.ListTimes(j)));
+                case 7: return binaryRule(s.AssignmentDones(a), s.AssignmentDones(b));
+                case 8: return binaryRule(s.AssignmentGrades(a), s.AssignmentGrades(b));
+                case 2: case 3: case 4: case 6: return assignmentRule(s, column, a, b);
+                default: return 0;
+            }
+        },
+        [](HomeworkRows& r, int i) {
+            exchangeIn(i, r.ListAssignmentRows, r.ListTimes, r.ListForeColors, r.ListBackColors, r.ListClassNames);
+        },
+        [](const HomeworkRows& fast, const HomeworkRows& slow) {
             EXPECT_EQ(fast.ListAssignmentRows, slow.ListAssignmentRows);
             EXPECT_EQ(fast.ListTimes, slow.ListTimes);
             EXPECT_EQ(fast.ListClassNames, slow.ListClassNames);
             EXPECT_EQ(fast.ListForeColors, slow.ListForeColors);
             EXPECT_EQ(fast.ListBackColors, slow.ListBackColors);
-        }
-    }
+        });
 }
 
 TEST(ListSortEquivalence, StudySessionOrderEqualsTheExchangeSort) {
     Random random;
-    const RecordStore s = randomStore(random, kRows);
+    const RecordStore s = randomStore(random);
     StudySessionRows original;
     for (int i = 1; i <= kRows; ++i) {
         const int session = random.number(1, kRows);
@@ -162,40 +163,23 @@ TEST(ListSortEquivalence, StudySessionOrderEqualsTheExchangeSort) {
         original.ListForeColors.append("F" + std::to_string(i));
         original.ListBackColors.append("B" + std::to_string(i));
     }
-    for (int column = 1; column <= 7; ++column) {
-        for (int direction : {1, 2}) {
-            StudySessionRows fast = original, slow = original;
-            SortStudySessionList(fast, s, column, direction, locale);
-            auto compare = [&](int i, int j) {
-                const int a = slow.ListAssignmentRows(i), b = slow.ListAssignmentRows(j);
-                switch (column) {
-                    case 1:
-                        return textRule(slow.ListClassNames(i), slow.ListClassNames(j));
-                    case 2:
-                        return textRule(s.AssignmentTypes(a), s.AssignmentTypes(b));
-                    case 3:
-                        return textRule(s.AssignmentDescriptions(a), s.AssignmentDescriptions(b));
-                    case 4:
-                        return textRule(s.AssignmentDifficulties(a), s.AssignmentDifficulties(b));
-                    case 5:
-                        return sign(minutesOf(s.StudySessionLengths(slow.ListSessionLengthRows(i))) -
-                                    minutesOf(s.StudySessionLengths(slow.ListSessionLengthRows(j))));
-                    case 6:
-                        return sign(daysOf(s.StudySessionDates(slow.ListSessionDateRows(i))) -
-                                    daysOf(s.StudySessionDates(slow.ListSessionDateRows(j))));
-                    default:
-                        return sign(daysOf(s.AssignmentDates(a)) - daysOf(s.AssignmentDates(b)));
-                }
-            };
-            exchangeSort(kRows, direction, compare, [&](int i) {
-                exchangeIn(slow.ListAssignmentRows, i);
-                exchangeIn(slow.ListSessionLengthRows, i);
-                exchangeIn(slow.ListSessionDateRows, i);
-                exchangeIn(slow.ListForeColors, i);
-                exchangeIn(slow.ListBackColors, i);
-                exchangeIn(slow.ListClassNames, i);
-            });
-            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+    checkAgainstExchangeSort<StudySessionRows>(
+        original, 1, 7, [&](StudySessionRows& r, int c, int d) { SortStudySessionList(r, s, c, d, locale); },
+        [&](const StudySessionRows& r, int column, int, int i, int j) {
+            switch (column) {
+                case 1: return textRule(r.ListClassNames(i), r.ListClassNames(j));
+                case 5: return sign(minutesOf(s.StudySessionLengths(r.ListSessionLengthRows(i))) -
+                                    minutesOf(s.StudySessionLengths(r.ListSessionLengthRows(j))));
+                case 6: return sign(daysOf(s.StudySessionDates(r.ListSessionDateRows(i))) -
+                                    daysOf(s.StudySessionDates(r.ListSessionDateRows(j))));
+                default: return assignmentRule(s, column, r.ListAssignmentRows(i), r.ListAssignmentRows(j));
+            }
+        },
+        [](StudySessionRows& r, int i) {
+            exchangeIn(i, r.ListAssignmentRows, r.ListSessionLengthRows, r.ListSessionDateRows, r.ListForeColors,
+                       r.ListBackColors, r.ListClassNames);
+        },
+        [&](const StudySessionRows& fast, const StudySessionRows& slow) {
             EXPECT_EQ(fast.ListAssignmentRows, slow.ListAssignmentRows);
             EXPECT_EQ(fast.ListSessionLengthRows, slow.ListSessionLengthRows);
             EXPECT_EQ(fast.ListSessionDateRows, slow.ListSessionDateRows);
@@ -203,59 +187,44 @@ TEST(ListSortEquivalence, StudySessionOrderEqualsTheExchangeSort) {
             EXPECT_EQ(fast.ListBackColors, slow.ListBackColors);
             // The session rows only count the rows; they keep the gathering order.
             EXPECT_EQ(fast.ListSessionRows, original.ListSessionRows);
-        }
-    }
+        });
 }
 
 TEST(ListSortEquivalence, TaskOrderEqualsTheExchangeSortWithItsSubstitutes) {
     Random random;
-    const RecordStore s = randomStore(random, kRows);
+    const RecordStore s = randomStore(random);
     TaskRows original;
     for (int i = 1; i <= kRows; ++i) {
         original.ListTaskRows.append(random.number(1, kRows));
         original.ListTaskForeColors.append("Black");
         original.ListTaskBackColors.append("C" + std::to_string(i));
     }
-    for (int column = 1; column <= 5; ++column) {
-        for (int direction : {1, 2}) {
-            TaskRows fast = original, slow = original;
-            SortTaskList(fast, s, column, direction, locale);
-            const std::string none = direction == 1 ? "z" : "a";
-            auto orNone = [&](const std::string& v) { return v == "None" ? none : v; };
-            auto taskDay = [&](int r) -> long long {
-                if (s.TaskDateExists(r) != "True") return direction == 1 ? 438657 : -109571;
-                return daysOf(s.TaskDates(r));
+    checkAgainstExchangeSort<TaskRows>(
+        original, 1, 5, [&](TaskRows& r, int c, int d) { SortTaskList(r, s, c, d, locale); },
+        [&](const TaskRows& r, int column, int direction, int i, int j) {
+            const int a = r.ListTaskRows(i), b = r.ListTaskRows(j);
+            auto day = [&](int t) -> long long {
+                return s.TaskDateExists(t) == "True" ? daysOf(s.TaskDates(t)) : direction == 1 ? 438657 : -109571;
             };
-            auto compare = [&](int i, int j) {
-                const int a = slow.ListTaskRows(i), b = slow.ListTaskRows(j);
-                switch (column) {
-                    case 1:
-                        return textRule(s.TaskDescriptions(a), s.TaskDescriptions(b));
-                    case 2:
-                        return textRule(orNone(s.TaskTypes(a)), orNone(s.TaskTypes(b)));
-                    case 3:
-                        return textRule(orNone(s.TaskPriorities(a)), orNone(s.TaskPriorities(b)));
-                    case 4:
-                        return sign(taskDay(a) - taskDay(b));
-                    default:
-                        return binaryRule(s.TaskDones(a), s.TaskDones(b));
-                }
-            };
-            exchangeSort(kRows, direction, compare, [&](int i) {
-                exchangeIn(slow.ListTaskRows, i);
-                exchangeIn(slow.ListTaskForeColors, i);
-                exchangeIn(slow.ListTaskBackColors, i);
-            });
-            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+            switch (column) {
+                case 1: return textRule(s.TaskDescriptions(a), s.TaskDescriptions(b));
+                case 2: return textRule(orNone(s.TaskTypes(a), direction), orNone(s.TaskTypes(b), direction));
+                case 3:
+                    return textRule(orNone(s.TaskPriorities(a), direction), orNone(s.TaskPriorities(b), direction));
+                case 4: return sign(day(a) - day(b));
+                default: return binaryRule(s.TaskDones(a), s.TaskDones(b));
+            }
+        },
+        [](TaskRows& r, int i) { exchangeIn(i, r.ListTaskRows, r.ListTaskForeColors, r.ListTaskBackColors); },
+        [](const TaskRows& fast, const TaskRows& slow) {
             EXPECT_EQ(fast.ListTaskRows, slow.ListTaskRows);
             EXPECT_EQ(fast.ListTaskBackColors, slow.ListTaskBackColors);
-        }
-    }
+        });
 }
 
 TEST(ListSortEquivalence, EventOrderEqualsTheExchangeSortWithItsSubstitutes) {
     Random random;
-    const RecordStore s = randomStore(random, kRows);
+    const RecordStore s = randomStore(random);
     EventRows original;
     for (int i = 1; i <= kRows; ++i) {
         original.ListEventRows.append(Int16(random.number(1, kRows)));
@@ -263,59 +232,45 @@ TEST(ListSortEquivalence, EventOrderEqualsTheExchangeSortWithItsSubstitutes) {
         original.ListEventForeColors.append("Black");
         original.ListEventBackColors.append("C" + std::to_string(i));
     }
-    for (int column = 1; column <= 5; ++column) {
-        for (int direction : {1, 2}) {
-            EventRows fast = original, slow = original;
-            SortEventList(fast, s, column, direction, locale);
-            const std::string none = direction == 1 ? "z" : "a";
-            auto orNone = [&](const std::string& v) { return v == "None" ? none : v; };
+    checkAgainstExchangeSort<EventRows>(
+        original, 1, 5, [&](EventRows& r, int c, int d) { SortEventList(r, s, c, d, locale); },
+        [&](const EventRows& r, int column, int direction, int i, int j) {
+            const int a = r.ListEventRows(i), b = r.ListEventRows(j);
             // Minutes of the time as an "h:mm am" text, or the substitute.
             auto minutes = [&](const std::string& t) -> long long {
                 if (t.size() < 7 || t[t.size() - 3] != ' ' || t.find(':') == std::string::npos)
                     return direction == 1 ? 1439 : 0;
-                const long long h = LeadingNumber(t.substr(0, t.find(':')));
-                const long long m = LeadingNumber(t.substr(t.find(':') + 1, 2));
                 const bool pm = t[t.size() - 2] == 'p' || t[t.size() - 2] == 'P';
-                return (h % 12 + (pm ? 12 : 0)) * 60 + m;
+                return (LeadingNumber(t.substr(0, t.find(':'))) % 12 + (pm ? 12 : 0)) * 60 +
+                       LeadingNumber(t.substr(t.find(':') + 1, 2));
             };
-            auto compare = [&](int i, int j) {
-                const int a = slow.ListEventRows(i), b = slow.ListEventRows(j);
-                switch (column) {
-                    case 1:
-                        return textRule(s.EventDescriptions(a), s.EventDescriptions(b));
-                    case 2:
-                        return textRule(orNone(s.EventTypes(a)), orNone(s.EventTypes(b)));
-                    case 3:
-                        return sign(slow.ListEventDates(i) - slow.ListEventDates(j));
-                    case 4:
-                        return sign(minutes(s.EventTimes(a)) - minutes(s.EventTimes(b)));
-                    default:
-                        return textRule(orNone(s.EventRecurrences(a)), orNone(s.EventRecurrences(b)));
-                }
-            };
-            exchangeSort(kRows, direction, compare, [&](int i) {
-                exchangeIn(slow.ListEventRows, i);
-                exchangeIn(slow.ListEventDates, i);
-                exchangeIn(slow.ListEventForeColors, i);
-                exchangeIn(slow.ListEventBackColors, i);
-            });
-            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+            switch (column) {
+                case 1: return textRule(s.EventDescriptions(a), s.EventDescriptions(b));
+                case 2: return textRule(orNone(s.EventTypes(a), direction), orNone(s.EventTypes(b), direction));
+                case 3: return sign(r.ListEventDates(i) - r.ListEventDates(j));
+                case 4: return sign(minutes(s.EventTimes(a)) - minutes(s.EventTimes(b)));
+                default:
+                    return textRule(orNone(s.EventRecurrences(a), direction),
+                                    orNone(s.EventRecurrences(b), direction));
+            }
+        },
+        [](EventRows& r, int i) {
+            exchangeIn(i, r.ListEventRows, r.ListEventDates, r.ListEventForeColors, r.ListEventBackColors);
+        },
+        [](const EventRows& fast, const EventRows& slow) {
             EXPECT_EQ(fast.ListEventRows, slow.ListEventRows);
             EXPECT_EQ(fast.ListEventDates, slow.ListEventDates);
             EXPECT_EQ(fast.ListEventBackColors, slow.ListEventBackColors);
-        }
-    }
+        });
 }
 
 TEST(ListSortEquivalence, ReminderOrderEqualsTheExchangeSortWithItsSubstitutes) {
     Random random;
     ReminderRows original;
-    const std::vector<std::string> kinds{"Homework", "Task", "Event", "task"};
-    const std::vector<std::string> classes{"", "Biology", "biology", "Art"};
     for (int i = 1; i <= kRows; ++i) {
         original.ReminderRecords.append(Int16(i));
-        original.ReminderKinds.append(random.pick(kinds));
-        original.ReminderClasses.append(random.pick(classes));
+        original.ReminderKinds.append(random.pick<std::string>({"Homework", "Task", "Event", "task"}));
+        original.ReminderClasses.append(random.pick<std::string>({"", "Biology", "biology", "Art"}));
         original.ReminderTypes.append(random.pick(kTexts));
         original.ReminderDescriptions.append(random.pick(kTexts));
         original.ReminderDays.append(random.number(-3, 3));
@@ -323,46 +278,30 @@ TEST(ListSortEquivalence, ReminderOrderEqualsTheExchangeSortWithItsSubstitutes) 
         original.ReminderForeColors.append("Black");
         original.ReminderBackColors.append("C" + std::to_string(i));
     }
-    for (int column = 1; column <= 6; ++column) {
-        for (int direction : {1, 2}) {
-            ReminderRows fast = original, slow = original;
-            SortReminderList(fast, column, direction, locale);
+    checkAgainstExchangeSort<ReminderRows>(
+        original, 1, 6, [&](ReminderRows& r, int c, int d) { SortReminderList(r, c, d, locale); },
+        [&](const ReminderRows& r, int column, int direction, int i, int j) {
             auto cls = [&](const std::string& v) {
-                return v.empty() ? (direction == 1 ? std::string(10, 'z') : std::string(10, ' ')) : v;
+                return !v.empty() ? v : std::string(10, direction == 1 ? 'z' : ' ');
             };
-            auto compare = [&](int i, int j) {
-                switch (column) {
-                    case 1:
-                        return textRule(slow.ReminderKinds(i), slow.ReminderKinds(j));
-                    case 2:
-                        return textRule(cls(slow.ReminderClasses(i)), cls(slow.ReminderClasses(j)));
-                    case 3:
-                        return textRule(slow.ReminderTypes(i), slow.ReminderTypes(j));
-                    case 4:
-                        return textRule(slow.ReminderDescriptions(i), slow.ReminderDescriptions(j));
-                    case 5:
-                        return sign(slow.ReminderDays(i) - slow.ReminderDays(j));
-                    default:
-                        return sign(slow.ReminderDates(i) - slow.ReminderDates(j));
-                }
-            };
-            exchangeSort(kRows, direction, compare, [&](int i) {
-                exchangeIn(slow.ReminderRecords, i);
-                exchangeIn(slow.ReminderKinds, i);
-                exchangeIn(slow.ReminderForeColors, i);
-                exchangeIn(slow.ReminderBackColors, i);
-                exchangeIn(slow.ReminderClasses, i);
-                exchangeIn(slow.ReminderTypes, i);
-                exchangeIn(slow.ReminderDescriptions, i);
-                exchangeIn(slow.ReminderDays, i);
-                exchangeIn(slow.ReminderDates, i);
-            });
-            SCOPED_TRACE("column " + std::to_string(column) + " direction " + std::to_string(direction));
+            switch (column) {
+                case 1: return textRule(r.ReminderKinds(i), r.ReminderKinds(j));
+                case 2: return textRule(cls(r.ReminderClasses(i)), cls(r.ReminderClasses(j)));
+                case 3: return textRule(r.ReminderTypes(i), r.ReminderTypes(j));
+                case 4: return textRule(r.ReminderDescriptions(i), r.ReminderDescriptions(j));
+                case 5: return sign(r.ReminderDays(i) - r.ReminderDays(j));
+                default: return sign(r.ReminderDates(i) - r.ReminderDates(j));
+            }
+        },
+        [](ReminderRows& r, int i) {
+            exchangeIn(i, r.ReminderRecords, r.ReminderKinds, r.ReminderForeColors, r.ReminderBackColors,
+                       r.ReminderClasses, r.ReminderTypes, r.ReminderDescriptions, r.ReminderDays, r.ReminderDates);
+        },
+        [](const ReminderRows& fast, const ReminderRows& slow) {
             EXPECT_EQ(fast.ReminderRecords, slow.ReminderRecords);
             EXPECT_EQ(fast.ReminderClasses, slow.ReminderClasses);
             EXPECT_EQ(fast.ReminderDates, slow.ReminderDates);
-        }
-    }
+        });
 }
 
 // The ranks kept between sorts give the order a fresh comparison gives, whatever came in
@@ -405,14 +344,9 @@ TEST(ListSortEquivalence, KeptTextRanksGiveTheOrderOfAFreshComparison) {
 
 // --- Named cases ----------------------------------------------------------------------------
 
-RecordStore homeworkStore(std::initializer_list<std::pair<const char*, const char*>> doneAndGrade) {
+RecordStore doneStore(std::initializer_list<const char*> dones) {
     RecordStore s;
-    for (const auto& [done, grade] : doneAndGrade) {
-        s.AssignmentDones.append(done);
-        s.AssignmentGrades.append(grade);
-        s.AssignmentTypes.append("Lab");
-        s.AssignmentDates.append("2026/11/21");
-    }
+    for (const char* done : dones) s.AssignmentDones.append(done);
     return s;
 }
 
@@ -428,37 +362,12 @@ HomeworkRows rowsFor(int n) {
     return rows;
 }
 
-TEST(ListSort, DoneSortsUnfinishedFirstAndTiesKeepGatheringOrderInBothDirections) {
-    const RecordStore s = homeworkStore({{"True", ""}, {"False", ""}, {"True", ""}, {"False", ""}, {"False", ""}});
-    HomeworkRows rows = rowsFor(5);
-    SortHomeworkList(rows, s, 7, 1, locale);
-    EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{2, 4, 5, 1, 3}));
-    EXPECT_EQ(rows.ListClassNames(1), "Class2");  // the row's other columns move with it
-    SortHomeworkList(rows, s, 7, 2, locale);
-    EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{1, 3, 2, 4, 5}));  // ties not reversed
-}
-
-TEST(ListSort, GradesSortByCharacterCodeNotByValue) {
-    const RecordStore s = homeworkStore({{"False", "B+"}, {"False", "A-"}, {"False", "A"}, {"False", "a"}});
-    HomeworkRows rows = rowsFor(4);
-    SortHomeworkList(rows, s, 8, 1, locale);
-    EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{3, 2, 1, 4}));
-}
-
-TEST(ListSort, TimesSortAsMinutesAndDoneRowsAsZero) {
-    const RecordStore s = homeworkStore({{"False", ""}, {"True", ""}, {"False", ""}});
-    HomeworkRows rows = rowsFor(3);
-    rows.ListTimes = {"02:05", "00:00", "00:45"};
-    SortHomeworkList(rows, s, 5, 2, locale);
-    EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{1, 3, 2}));
-}
-
-TEST(ListSort, NumberColumnUnknownColumnAndShortListsLeaveTheOrder) {
-    const RecordStore s = homeworkStore({{"True", ""}, {"False", ""}});
-    for (int column : {0, 9, -1}) {
+TEST(ListSort, AnUnknownColumnOrDirectionAndAOneRowListLeaveTheOrder) {
+    const RecordStore s = doneStore({"True", "False"});
+    for (const auto& [column, direction] : {std::pair{-1, 1}, {10, 2}, {7, 0}, {7, 3}}) {
         HomeworkRows rows = rowsFor(2);
-        SortHomeworkList(rows, s, column, 1, locale);
-        EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{1, 2}));
+        SortHomeworkList(rows, s, column, direction, locale);
+        EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{1, 2})) << column << " " << direction;
     }
     HomeworkRows one = rowsFor(1);
     one.ListClassNames.clear();
@@ -469,7 +378,7 @@ TEST(ListSort, NumberColumnUnknownColumnAndShortListsLeaveTheOrder) {
 TEST(ListSort, ARowColumnThatRunsShortIsFilledUpSoEveryRowKeepsWhatItShowed) {
     // Three rows, but the class of the first assignment is gone: the class entries of the
     // later rows moved up, and the last row has none.
-    const RecordStore s = homeworkStore({{"True", ""}, {"True", ""}, {"False", ""}});
+    const RecordStore s = doneStore({"True", "True", "False"});
     HomeworkRows rows = rowsFor(3);
     rows.ListClassNames = {"Second", "Third"};
     rows.ListForeColors = {"Black", "Black"};
@@ -478,47 +387,6 @@ TEST(ListSort, ARowColumnThatRunsShortIsFilledUpSoEveryRowKeepsWhatItShowed) {
     EXPECT_EQ(rows.ListAssignmentRows, (Column<int>{3, 1, 2}));
     EXPECT_EQ(rows.ListClassNames, (TextColumn{"", "Second", "Third"}));
     EXPECT_EQ(rows.ListBackColors, (TextColumn{"", "Gold", "Gold"}));
-}
-
-TEST(ListSort, UndatedTasksAndNoneTypesSinkInBothDirections) {
-    RecordStore s;
-    const struct {
-        const char *exists, *date, *type;
-    } tasks[] = {{"False", "2000/01/01", "None"}, {"True", "2026/11/22", "Work"}, {"True", "2026/11/20", "Home"}};
-    for (const auto& t : tasks) {
-        s.TaskDateExists.append(t.exists);
-        s.TaskDates.append(t.date);
-        s.TaskTypes.append(t.type);
-    }
-    for (int direction : {1, 2}) {
-        TaskRows rows;
-        rows.ListTaskRows = {1, 2, 3};
-        SortTaskList(rows, s, 4, direction, locale);
-        EXPECT_EQ(rows.ListTaskRows(3), 1) << "date, direction " << direction;
-        rows.ListTaskRows = {1, 2, 3};
-        SortTaskList(rows, s, 2, direction, locale);
-        EXPECT_EQ(rows.ListTaskRows(3), 1) << "type, direction " << direction;
-    }
-}
-
-TEST(ListSort, EventsWithoutATimeSinkAndRemindersWithoutAClassSink) {
-    RecordStore s;
-    s.EventTimes = {"None", "9:05 pm", "12:05 am"};
-    for (int direction : {1, 2}) {
-        EventRows rows;
-        rows.ListEventRows = {1, 2, 3};
-        rows.ListEventDates = {1, 1, 1};
-        SortEventList(rows, s, 4, direction, locale);
-        EXPECT_EQ(rows.ListEventRows(3), 1) << direction;
-        EXPECT_EQ(rows.ListEventRows(1), direction == 1 ? 3 : 2);
-
-        ReminderRows reminders;
-        reminders.ReminderRecords = {1, 2, 3};
-        reminders.ReminderClasses = {"", "Biology", "Art"};
-        SortReminderList(reminders, 2, direction, locale);
-        EXPECT_EQ(reminders.ReminderRecords(3), 1) << direction;
-        EXPECT_EQ(reminders.ReminderClasses(3), "");
-    }
 }
 
 }  // namespace
