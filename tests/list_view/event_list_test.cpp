@@ -153,16 +153,6 @@ TEST_F(EventListTest, RowsShowTheOccurrenceWithItsTimeAndEmptyCellsForNone) {
     }
 }
 
-TEST_F(EventListTest, HeadersCarryTheSixTitlesWithTheArrowOnTheSortedOne) {
-    list.build();
-    const char* titles[] = {"#", "Name", "Type", "Date", "Time", "Recurrence"};
-    for (int c = 0; c < 6; ++c) EXPECT_EQ(list.header(c).texts(), std::vector<std::string>{titles[c]});
-    EXPECT_FALSE(list.window.c("picColHeader", 6).visible);
-    EXPECT_EQ(list.window.c("picColHeader", 3).picture, "GridTitleUp");
-    list.window.click("picColHeader(3)");
-    EXPECT_EQ(list.window.c("picColHeader", 3).picture, "GridTitleDown");
-}
-
 TEST_F(EventListTest, SummaryCountsBothKindsOnWhiteWhateverTheFilterShows) {
     addEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class"});
     addEvent(s, {.date = "2026/11/21", .type = "Family"});
@@ -205,25 +195,6 @@ TEST_F(EventListTest, RowsWithoutTypeTimeOrRecurrenceSinkInBothDirections) {
     sortBy(1, 2);
     EXPECT_EQ(names(), (std::vector<std::string>{" Party", " Dentist", " Chemistry"}));
     EXPECT_EQ(list.cell(2, 4), "after lunch");  // shown as it stands
-}
-
-TEST_F(EventListTest, AWeeklyEventsRowsSortByTheirOwnDates) {
-    addEvent(s,
-             {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays, .description = "Lab"});
-    list.filters("All", "Month");
-    list.window.state.SortColumn = 0;  // gathering order: weekday by weekday
-    list.build();
-    ASSERT_EQ(list.window.state.RowCount, 9);
-    EXPECT_EQ(list.cell(1, 3), "23-Nov-26");
-    EXPECT_EQ(list.cell(2, 3), "30-Nov-26");
-    sortBy(3, 1);
-    EXPECT_EQ(list.cell(1, 3), "23-Nov-26");
-    EXPECT_EQ(list.cell(2, 3), "25-Nov-26");
-    EXPECT_EQ(list.cell(9, 3), "21-Dec-26");
-    sortBy(3, 2);
-    EXPECT_EQ(list.cell(1, 3), "21-Dec-26");
-    EXPECT_EQ(list.cell(2, 3), "16-Dec-26");
-    EXPECT_EQ(list.cell(9, 3), "23-Nov-26");
 }
 
 // --- The calendar in Events mode ----------------------------------------------------------------

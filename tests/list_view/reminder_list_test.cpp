@@ -92,14 +92,6 @@ TEST_F(ReminderListTest, RowsShowKindClassTypeDescriptionDateWordAndDateSoonestF
     EXPECT_EQ(asInts(list.window.state.ReminderDays), (std::vector<int>{-2, -1, 0, 1, 3, 5}));
 }
 
-TEST_F(ReminderListTest, HeadersCarryTheSevenTitles) {
-    list.build();
-    const char* titles[] = {"#", "For", "Class", "Type", "Description", "When", "Date"};
-    for (int c = 0; c < 7; ++c) EXPECT_EQ(list.header(c).texts(), std::vector<std::string>{titles[c]});
-    EXPECT_FALSE(list.window.c("picColHeader", 7).visible);
-    EXPECT_EQ(list.window.c("picColHeader", 5).picture, "GridTitleUp");
-}
-
 TEST_F(ReminderListTest, BoxesCountEveryKindWhateverTheFilterAndOnlyOpenWorkIsPink) {
     list.filters("Tasks", "Today");
     list.build();
