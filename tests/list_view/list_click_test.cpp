@@ -27,44 +27,29 @@ int markedCells(ListWindow& list) {
     return marked;
 }
 
-TEST(ListClick, ASessionOpensItsAssignmentAndAnEmptyLineNothing) {
-    ListWindow list(Mode::StudySessions);
-    list.filters("All", "Term");
-    addClass(list.store, 1, "Art");
-    addAssignment(list.store, {});
-    addSession(list.store, 1, "00 : 30");
-    list.build();
-    EXPECT_EQ(clickRow(list, 1), "1|1|1");
-    EXPECT_EQ(clickRow(list, 2), "");
-    EXPECT_EQ(markedCells(list), 1);
-}
-
-TEST(ListClick, EveryOccurrenceOfARecurringEventOpensTheOneEvent) {
-    ListWindow list(Mode::Events);
-    list.filters("All", "Week");
-    test::EventFields weekly;
-    weekly.date = "2026/11/23";
-    weekly.recurrence = "Day";
-    weekly.repeatDaily = "TFTFTFF";  // Monday, Wednesday, Friday
-    test::addEvent(list.store, weekly);
-    list.build();
-    EXPECT_EQ(list.window.state.RowCount, 3);
-    EXPECT_EQ(clickRow(list, 3), "3|3|3");
-    EXPECT_EQ(list.window.state.ListEventRows(3), 1);
-    EXPECT_EQ(clickRow(list, 4), "");  // an empty line opens a new event: no row is marked
-    EXPECT_EQ(markedCells(list), 1);
-}
-
-TEST(ListClick, AReminderOpensTheRecordOfItsKindAndAnEmptyLineNothing) {
-    ListWindow list(Mode::Reminders);
-    list.filters("All", "Today");
-    addClass(list.store, 1, "Art");
-    addAssignment(list.store, {.description = "Essay"});
-    addTask(list.store, {.description = "Buy paper"});
-    list.build();
-    EXPECT_EQ(clickRow(list, 2), "2|2|2");
-    EXPECT_EQ(clickRow(list, 3), "");
-    EXPECT_EQ(markedCells(list), 1);
+TEST(ListClick, ARowOpensItsRecordAndAnEmptyLineMarksNothingInEveryList) {
+    // One session, three occurrences of a weekly event, and a task and an assignment due today.
+    const struct {
+        Mode mode;
+        const char* range;
+        int rows;
+    } lists[] = {{Mode::StudySessions, "Term", 1}, {Mode::Events, "Week", 3}, {Mode::Reminders, "Today", 2}};
+    for (const auto& l : lists) {
+        ListWindow list(l.mode);
+        list.filters("All", l.range);
+        addClass(list.store, 1, "Art");
+        addAssignment(list.store, {});
+        addSession(list.store, 1, "00 : 30");
+        addTask(list.store, {});
+        test::addEvent(list.store, {.date = "2026/11/23", .recurrence = "Day", .repeatDaily = "TFTFTFF"});
+        list.build();
+        SCOPED_TRACE(l.range);
+        ASSERT_EQ(list.window.state.RowCount, l.rows);
+        const std::string last = std::to_string(l.rows);
+        EXPECT_EQ(clickRow(list, l.rows), last + "|" + last + "|" + last);
+        EXPECT_EQ(clickRow(list, l.rows + 1), "");  // a new record where the mode makes them
+        EXPECT_EQ(markedCells(list), 1);
+    }
 }
 
 TEST(ListClick, TheNumberCellReturnsToItsPlainLookAfterTheEditor) {
