@@ -93,16 +93,6 @@ TEST(GatherEvents, EveryDayOfAWeekTogetherGivesTheWeeksExpansion) {
 class EventListTest : public ::testing::Test {
 protected:
     EventListTest() : list(Mode::Events) { list.filters("All", "Day"); }
-    void sortBy(int column, int direction) {
-        list.window.state.SortColumn = Int16(column);
-        list.window.state.SortDirection = Int16(direction);
-        list.build();
-    }
-    std::vector<std::string> names() {
-        std::vector<std::string> found;
-        for (int v = 1; v <= list.window.state.RowCount; ++v) found.push_back(list.cell(v, 1));
-        return found;
-    }
     ListWindow list;
     RecordStore& s = list.store;
 };
@@ -126,10 +116,11 @@ TEST_F(EventListTest, RowsShowTheOccurrenceWithItsTimeAndEmptyCellsForNone) {
                   "9:05 PM");
     addTimedEvent(s, {.date = "2026/11/21", .type = "None", .description = "Dentist"}, "None");
     addTimedEvent(s, {.date = "2026/11/22", .type = "Work", .description = "Shift"}, "7:30");
+    addTimedEvent(s, {.date = "2026/11/23", .description = "Lunch"}, "after lunch");
     list.filters("All", "Year");
     list.build();
 
-    ASSERT_EQ(list.window.state.RowCount, 3);  // sorted by date
+    ASSERT_EQ(list.window.state.RowCount, 4);  // sorted by date; ties in gathering order
     EXPECT_EQ(list.cell(1, 1), " Dentist");
     EXPECT_EQ(list.cell(1, 2), "");  // type "None"
     EXPECT_EQ(list.cell(1, 3), "21-Nov-26");
@@ -146,6 +137,7 @@ TEST_F(EventListTest, RowsShowTheOccurrenceWithItsTimeAndEmptyCellsForNone) {
     EXPECT_EQ(list.cellBack(3, 5), list.window.colors->ColorValues("Gold"));
     EXPECT_EQ(list.window.state.ListEventDates(3), dateFromYmd(2026, 11, 23));
     EXPECT_EQ(list.window.state.ListEventRows(3), 1);
+    EXPECT_EQ(list.cell(4, 4), "after lunch");  // a time that reads as none shows as it stands
     for (const CanvasCall& call : list.grid().calls()) {
         if (call.kind == CanvasCall::Text) {
             EXPECT_EQ(call.color, kBlack) << call.text;
@@ -172,29 +164,6 @@ TEST_F(EventListTest, SummaryCountsBothKindsOnWhiteWhateverTheFilterShows) {
     list.build();
     EXPECT_EQ(list.text("TextBoxClasses"), "1");
     EXPECT_EQ(list.text("TextBoxOtherEvents"), "1");
-}
-
-TEST_F(EventListTest, RowsWithoutTypeTimeOrRecurrenceSinkInBothDirections) {
-    addTimedEvent(s, {.date = "2026/11/21", .description = "Dentist"}, "after lunch");
-    addTimedEvent(s,
-                  {.date = "2026/11/07",
-                   .recurrence = "Day",
-                   .repeatDaily = kSaturdays,
-                   .type = "Class",
-                   .description = "Chemistry"},
-                  "10:00 AM");
-    addTimedEvent(s, {.date = "2026/10/21", .recurrence = "Month", .type = "Friends", .description = "Party"}, "21:05");
-    // Type: Class < Friends, recurrence: Day < Month, time: 10:00 < 21:05; the dentist has
-    // neither type nor recurrence ("None"), and a time that reads as none.
-    for (int column : {2, 4, 5}) {
-        sortBy(column, 1);
-        EXPECT_EQ(names(), (std::vector<std::string>{" Chemistry", " Party", " Dentist"})) << column;
-        sortBy(column, 2);
-        EXPECT_EQ(names(), (std::vector<std::string>{" Party", " Chemistry", " Dentist"})) << column;
-    }
-    sortBy(1, 2);
-    EXPECT_EQ(names(), (std::vector<std::string>{" Party", " Dentist", " Chemistry"}));
-    EXPECT_EQ(list.cell(2, 4), "after lunch");  // shown as it stands
 }
 
 // --- The calendar in Events mode ----------------------------------------------------------------

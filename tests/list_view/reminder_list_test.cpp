@@ -44,11 +44,6 @@ protected:
         test::addEvent(s, {.date = "2026/11/20", .reminder = "3 Days", .description = "Gone"});
         list.filters("All", "Today");
     }
-    void sortBy(int column, int direction) {
-        list.window.state.SortColumn = Int16(column);
-        list.window.state.SortDirection = Int16(direction);
-        list.build();
-    }
     std::vector<std::string> column(int c) {
         std::vector<std::string> found;
         for (int v = 1; v <= list.window.state.RowCount; ++v) found.push_back(list.cell(v, c));
@@ -113,20 +108,6 @@ TEST_F(ReminderListTest, BoxesCountEveryKindWhateverTheFilterAndOnlyOpenWorkIsPi
     EXPECT_EQ(list.back("TextBoxTasks"), kWhite);
     EXPECT_EQ(list.back("TextBoxEvents"), kWhite);
     EXPECT_EQ(list.window.c("LabelTop").caption, "Reminders for Sunday, November 1, 2026");
-}
-
-TEST_F(ReminderListTest, RowsWithoutAClassSinkInBothDirectionsAndKeepTheirGatheringOrder) {
-    sortBy(2, 1);
-    EXPECT_EQ(column(2), (std::vector<std::string>{" Art", " Biology", " ", " ", " ", " "}));
-    EXPECT_EQ(column(4), (std::vector<std::string>{" Sketch", " Cell diagram", " Return books", " Pay fee",
-                                                   " Call home", " Ana"}));
-    sortBy(2, 2);
-    EXPECT_EQ(column(2), (std::vector<std::string>{" Biology", " Art", " ", " ", " ", " "}));
-    EXPECT_EQ(column(4), (std::vector<std::string>{" Cell diagram", " Sketch", " Return books", " Pay fee",
-                                                   " Call home", " Ana"}));
-    sortBy(5, 2);
-    EXPECT_EQ(column(5),
-              (std::vector<std::string>{"5 Days", "3 Days", "Tomorrow", "Today", "Yesterday", "2 Days Ago"}));
 }
 
 // --- The calendar in Reminders mode ---------------------------------------------------------------

@@ -117,18 +117,5 @@ TEST_F(TaskListTest, SummaryIsPinkWhileTasksAreOpenEvenWhenOnlyDoneOnesAreListed
     EXPECT_EQ(list.back("TextBoxTotalTasks"), kWhite);
 }
 
-TEST_F(TaskListTest, SortingByDateKeepsUndatedTasksLastInBothDirections) {
-    addTask(s, {.description = "Undated", .dated = false});
-    addTask(s, {.description = "Late", .date = "2026/12/01"});
-    addTask(s, {.description = "Early", .date = "2026/11/01"});
-    list.build();
-    list.window.click("picColHeader(4)");
-    EXPECT_EQ(list.cell(1, 1), " Early");
-    EXPECT_EQ(list.cell(3, 1), " Undated");
-    list.window.click("picColHeader(4)");
-    EXPECT_EQ(list.cell(1, 1), " Late");
-    EXPECT_EQ(list.cell(3, 1), " Undated");
-}
-
 }  // namespace
 }  // namespace qh
