@@ -97,20 +97,6 @@ protected:
     RecordStore& s = list.store;
 };
 
-TEST_F(EventListTest, TitleNamesTheDayOrTheLastDateOfTheRange) {
-    const std::pair<const char*, const char*> titles[] = {
-        {"Day", "Events for Saturday, November 21, 2026"},
-        {"Week", "Events until Saturday, November 28, 2026"},  // eight dates
-        {"Month", "Events until Monday, December 21, 2026"},
-        {"Year", "Events until Saturday, November 20, 2027"},  // one day short of a year
-    };
-    for (const auto& [range, title] : titles) {
-        list.filters("Other Events", range);
-        list.build();
-        EXPECT_EQ(list.window.c("LabelTop").caption, title) << range;
-    }
-}
-
 TEST_F(EventListTest, RowsShowTheOccurrenceWithItsTimeAndEmptyCellsForNone) {
     addTimedEvent(s, {.date = "2001/11/23", .recurrence = "Year", .type = "Birthday", .description = "Grandma"},
                   "9:05 PM");

@@ -73,7 +73,6 @@ TEST(GatherStudySessions, LookUpsGiveWhatAWalkOverAllRecordsGivesRowForRow) {
 class StudySessionListTest : public ::testing::Test {
 protected:
     StudySessionListTest() : list(Mode::StudySessions) {
-        s.CurrentTermName = "Fall 2026";
         list.filters("All", "Term");
         addClass(s, 1, "Biology", "Black", "Lavender");
     }
@@ -86,7 +85,6 @@ TEST_F(StudySessionListTest, RowsShowTheSessionBesideItsAssignmentNewestLastByDo
     addSession(s, 1, "01 : 30", "2026/11/20");
     addSession(s, 1, "00 : 15", "2026/11/18");
     list.build();
-    EXPECT_EQ(list.window.c("LabelTop").caption, "Study for Fall 2026");
     EXPECT_EQ(list.text("TextBoxStudySessions"), "2");
     EXPECT_EQ(list.text("TextBoxStudyTime"), "01:45");
     EXPECT_EQ(list.back("TextBoxStudyTime"), kWhite);
@@ -121,19 +119,6 @@ TEST_F(StudySessionListTest, ASessionWithoutItsAssignmentShowsEmptyCellsAndOpens
             EXPECT_NE(call.x1, 15);
         }
     }
-}
-
-TEST_F(StudySessionListTest, DayRangeNamesTheDayAndNoTermBlanksTheTitle) {
-    addAssignment(s, {});
-    addSession(s, 1, "00 : 10", "2026/11/21");
-    addSession(s, 1, "00 : 20", "2026/11/20");
-    list.filters("All", "Day");
-    list.build();
-    EXPECT_EQ(list.window.c("LabelTop").caption, "Study on Saturday, November 21, 2026");
-    EXPECT_EQ(list.numbers(), std::vector<std::string>{"1"});
-    s.CurrentTermName.clear();
-    list.build();
-    EXPECT_EQ(list.window.c("LabelTop").caption, "");
 }
 
 }  // namespace

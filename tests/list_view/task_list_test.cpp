@@ -70,7 +70,6 @@ TEST_F(TaskListTest, RowsShowNameTypePriorityDateAndDoneWithNoneLeftEmpty) {
     addTask(s, {.description = "Finished", .type = "Work", .priority = "High", .done = true});
     addTask(s, {.description = "Someday", .dated = false, .type = "None", .priority = "None"});
     list.build();
-    EXPECT_EQ(list.window.c("LabelTop").caption, "All Tasks");
     // Sorted by "Done": the open task first.
     EXPECT_EQ(list.cell(1, 1), " Someday");
     EXPECT_EQ(list.cell(1, 2), "");
@@ -83,18 +82,6 @@ TEST_F(TaskListTest, RowsShowNameTypePriorityDateAndDoneWithNoneLeftEmpty) {
     EXPECT_EQ(list.cell(2, 4), "21-Nov-26");
     EXPECT_EQ(list.picture(2, 5), "Checked");
     EXPECT_EQ(list.cellBack(2, 4), list.window.colors->ColorValues("PaleTurquoise"));
-}
-
-TEST_F(TaskListTest, TitleFollowsTheRangeAndNeedsNoTerm) {
-    const std::pair<const char*, const char*> titles[] = {{"All", "All Tasks"},
-                                                          {"With Date", "All Tasks with Dates"},
-                                                          {"Without Date", "All Tasks without Dates"},
-                                                          {"Day", "Tasks for Saturday, November 21, 2026"}};
-    for (const auto& [range, title] : titles) {
-        list.filters("All", range);
-        list.build();
-        EXPECT_EQ(list.window.c("LabelTop").caption, title);
-    }
 }
 
 TEST_F(TaskListTest, SummaryIsPinkWhileTasksAreOpenEvenWhenOnlyDoneOnesAreListed) {
