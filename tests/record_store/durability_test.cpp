@@ -46,7 +46,7 @@ struct RecordFileKind {
     std::function<Rows(const RecordStore&)> rows;
     std::function<std::optional<Row>(const Row& values, const RecordStore& loaded)> rowOf;
     // Next counter of the file.
-    std::function<Int16(const RecordStore&)> next;
+    std::function<Int16&(RecordStore&)> next;
 };
 
 bool isLiveClassOfActiveTerm(const RecordStore& s, const std::string& link) {
@@ -85,7 +85,7 @@ const RecordFileKind kAssignments{
         if (v[7] == kDeletedRecord || !isLiveClassOfActiveTerm(s, v[2])) return std::nullopt;
         return v;
     },
-    [](const RecordStore& s) { return s.NextAssignmentRecord; }};
+    [](RecordStore& s) -> Int16& { return s.NextAssignmentRecord; }};
 
 const RecordFileKind kNotes{
     "Notes.txt", kNotesLayout,
@@ -99,7 +99,7 @@ const RecordFileKind kNotes{
         if (int16OrZero(v[1]) <= 0) return std::nullopt;
         return Row{v[0], v[1]};
     },
-    [](const RecordStore& s) { return s.NextNoteRecord; }};
+    [](RecordStore& s) -> Int16& { return s.NextNoteRecord; }};
 
 const RecordFileKind kSessions{
     "StudySessions.txt", kStudySessionsLayout,
@@ -119,7 +119,7 @@ const RecordFileKind kSessions{
         if (v[1] == "0" || !isLoadedAssignment(s, v[1])) return std::nullopt;
         return v;
     },
-    [](const RecordStore& s) { return s.NextStudySessionRecord; }};
+    [](RecordStore& s) -> Int16& { return s.NextStudySessionRecord; }};
 
 const RecordFileKind kTasks{
     "Tasks.txt", kTasksLayout,
@@ -133,7 +133,7 @@ const RecordFileKind kTasks{
                        &s.TaskTypes, &s.TaskPriorities, &s.TaskDones, &s.TaskNotes, &s.TaskReminders});
     },
     [](const Row& v, const RecordStore&) { return rowUnlessDeleted(v, 2); },
-    [](const RecordStore& s) { return s.NextTaskRecord; }};
+    [](RecordStore& s) -> Int16& { return s.NextTaskRecord; }};
 
 const RecordFileKind kEvents{
     "Events.txt", kEventsLayout,
@@ -149,7 +149,7 @@ const RecordFileKind kEvents{
                        &s.EventReminders});
     },
     [](const Row& v, const RecordStore&) { return rowUnlessDeleted(v, 3); },
-    [](const RecordStore& s) { return s.NextEventRecord; }};
+    [](RecordStore& s) -> Int16& { return s.NextEventRecord; }};
 
 // A small drive of every record file and the preferences, made once; each round puts back
 // the files the round before changed.
@@ -196,6 +196,8 @@ public:
         EXPECT_TRUE(WritePreferences(d_.fake.platform, d_.store, {}, {"Term 1", "Monday", "No", 3}));
         baseline_["Preferences.ini"] = d_.bytesOf("Preferences.ini");
         loaded_ = load();
+        for (const RecordFileKind* kind : {&kAssignments, &kNotes, &kSessions, &kTasks, &kEvents})
+            baselineRows_[kind->name] = kind->rows(loaded_);
     }
 
     // Cuts the next write short after `offset` bytes of a new or changed record.
@@ -206,7 +208,10 @@ public:
         const std::string record = buildRecord(kind.layout, values);
         const std::size_t offset = dice() % record.size();
 
-        RecordStore store = loaded_;
+        // All a save of one record needs of the store: where the files are, and its counter.
+        RecordStore store;
+        store.DataDirectory = loaded_.DataDirectory;
+        kind.next(store) = Int16(old.size() + 1);
         RecordFiles files(store, d_.fake.platform);
         d_.fake.files.tearWrite(1, (long long)offset);
         EXPECT_FALSE(kind.save(files, store, values, append ? Int16(0) : number)) << kind.name;
@@ -225,8 +230,8 @@ public:
 
         // Read again: the rows of every other record as they were, the torn one as the
         // rules read its bytes, a torn new record not at all.
-        const RecordStore again = reload(kind);
-        Rows rows = kind.rows(loaded_);
+        RecordStore again = reload(kind);
+        Rows rows = baselineRows_.at(kind.name);
         if (!append) {
             const std::optional<Row> torn = kind.rowOf(parseRecord(kind.layout, expected.substr(at, record.size())), again);
             const std::optional<Row> before = kind.rowOf(old[std::size_t(number - 1)], loaded_);
@@ -392,6 +397,7 @@ private:
     Rows terms_, classes_;
     std::map<std::string, Rows> values_;
     std::map<std::string, std::string> baseline_;
+    std::map<std::string, Rows> baselineRows_;  // of each record file, as the loads read it
     std::set<std::string> touched_;
     RecordStore loaded_;
 };
