@@ -53,34 +53,6 @@ TEST(ExpandEvents, OneOffEventsAtTheRangeEnds) {
     EXPECT_EQ(rows.EventTotal, 2);
 }
 
-TEST(ExpandEvents, MonthlyAndYearlyStepsStartFromTheFirstDate) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/01/31", .recurrence = "Month"});
-    addEvent(store, {.date = "2024/02/29", .recurrence = "Year"});
-    const EventRows rows = ExpandEvents(store, ymd(2026, 1, 1), "Year", "All");
-    EXPECT_EQ(rowDates(rows), (Texts{"2026/01/31", "2026/02/28", "2026/03/31", "2026/04/30", "2026/05/31",
-                                     "2026/06/30", "2026/07/31", "2026/08/31", "2026/09/30", "2026/10/31",
-                                     "2026/11/30", "2026/12/31", "2026/02/28"}));
-}
-
-TEST(ExpandEvents, OrdinalRulesFindTheirDayInEveryMonth) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/01/26", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
-                     .repeatDay = "Monday"});
-    addEvent(store, {.date = "2026/01/22", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Fourth",
-                     .repeatDay = "Thursday"});
-    addEvent(store, {.date = "2026/01/31", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
-                     .repeatDay = "Day"});
-    addEvent(store, {.date = "2026/01/02", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Second",
-                     .repeatDay = "Day"});
-    addEvent(store, {.date = "2026/03/12", .recurrence = "Year", .sameDate = "False", .repeatNumber = "Second",
-                     .repeatDay = "Thursday"});
-    const EventRows rows = ExpandEvents(store, ymd(2026, 2, 1), "Month", "All");
-    EXPECT_EQ(rowDates(rows), (Texts{"2026/02/23", "2026/02/26", "2026/02/28", "2026/02/02"}));
-    const EventRows march = ExpandEvents(store, ymd(2027, 3, 1), "Month", "All");
-    EXPECT_EQ(rowDates(march), (Texts{"2027/03/29", "2027/03/25", "2027/03/31", "2027/03/02", "2027/03/11"}));
-}
-
 TEST(ExpandEvents, WeeklyRowsComeWeekdayByWeekday) {
     RecordStore store;
     // Monday and Wednesday ticked, first on Tuesday 17 November 2026.
@@ -92,16 +64,6 @@ TEST(ExpandEvents, WeeklyRowsComeWeekdayByWeekday) {
     // A range that starts after the first date doesn't list it again.
     EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 11, 18), "Week", "All")),
               (Texts{"2026/11/18", "2026/11/25", "2026/11/23"}));
-}
-
-TEST(ExpandEvents, AnEndDateInsideTheRangeIsTheLastRow) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/01/15", .recurrence = "Month", .ends = "True", .endDate = "2026/04/15"});
-    addEvent(store, {.date = "2026/01/05", .recurrence = "Day", .repeatDaily = "TFFFFFF", .ends = "True",
-                     .endDate = "2026/01/19"});
-    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 1, 1), "Year", "All")),
-              (Texts{"2026/01/15", "2026/02/15", "2026/03/15", "2026/04/15", "2026/01/05", "2026/01/12",
-                     "2026/01/19"}));
 }
 
 TEST(ExpandEvents, EventsOutsideTheRangeLeaveNoRowAndNoCount) {
@@ -140,16 +102,6 @@ TEST(ExpandEvents, CountersCountBeforeTheFilter) {
     const EventRows none = ExpandEvents(store, ymd(2026, 1, 1), "Month", "Everything");
     EXPECT_TRUE(none.ListEventRows.empty());
     EXPECT_EQ(none.EventTotal, 6);
-}
-
-TEST(ExpandEvents, AFirstDateCenturiesBackStillLandsOnTheRightDays) {
-    RecordStore store;
-    addEvent(store, {.date = "1700/01/31", .recurrence = "Month"});
-    addEvent(store, {.date = "1704/02/29", .recurrence = "Year"});
-    addEvent(store, {.date = "1700/03/01", .recurrence = "Month", .sameDate = "False", .repeatNumber = "First",
-                     .repeatDay = "Monday"});
-    const EventRows rows = ExpandEvents(store, ymd(2026, 2, 10), "Month", "All");
-    EXPECT_EQ(rowDates(rows), (Texts{"2026/02/28", "2026/02/28", "2026/03/02"}));
 }
 
 // The one corner where the single-date test and the walks part: a "Last" weekday rule
