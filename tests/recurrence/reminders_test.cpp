@@ -37,29 +37,6 @@ TEST(ReminderOffset, IsTheNegatedNumberOfTheFirstTwoCharacters) {
     EXPECT_EQ(ReminderOffset("123 Days"), -12);
 }
 
-TEST(EventReminders, ThreeDaysAheadOfTheTenth) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/03/10", .reminder = "3 Days"});
-    for (int day = 6; day <= 11; ++day) {
-        const ReminderRows rows = GatherReminders(store, ymd(2026, 3, day), "All");
-        if (day < 7 || day > 10) {
-            EXPECT_TRUE(rows.ReminderRecords.empty()) << day;
-            EXPECT_EQ(rows.EventReminderCount, 0) << day;
-        } else {
-            EXPECT_EQ(rowLines(rows), (Lines{"Event 1 " + std::to_string(10 - day) + " 2026/03/10"})) << day;
-            EXPECT_EQ(rows.EventReminderCount, 1);
-        }
-    }
-}
-
-TEST(EventReminders, WithoutAdvanceNoticeOnlyOnTheDayItself) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/03/02", .recurrence = "Month", .reminder = "None"});
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 4, 2), "All")), (Lines{"Event 1 0 2026/04/02"}));
-    EXPECT_TRUE(GatherReminders(store, ymd(2026, 4, 1), "All").ReminderRecords.empty());
-    EXPECT_TRUE(GatherReminders(store, ymd(2026, 4, 3), "All").ReminderRecords.empty());
-}
-
 TEST(EventReminders, WeeklyMondaysSevenDaysAheadShowTwiceOnAMonday) {
     RecordStore store;
     addEvent(store, {.date = "2026/11/16", .recurrence = "Day", .repeatDaily = "TFFFFFF", .reminder = "7 Days"});
@@ -68,30 +45,6 @@ TEST(EventReminders, WeeklyMondaysSevenDaysAheadShowTwiceOnAMonday) {
     EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 24), "All")), (Lines{"Event 1 6 2026/11/30"}));
     // Before the first date, only what lies within the advance notice of it.
     EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 10), "All")), (Lines{"Event 1 6 2026/11/16"}));
-}
-
-TEST(EventReminders, AnEndDateCutsTheOccurrencesAfterIt) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/03/01", .recurrence = "Day", .repeatDaily = "TTTTTTT", .ends = "True",
-                     .endDate = "2026/03/10", .reminder = "3 Days"});
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 3, 9), "All")),
-              (Lines{"Event 1 0 2026/03/09", "Event 1 1 2026/03/10"}));
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 3, 10), "All")), (Lines{"Event 1 0 2026/03/10"}));
-    EXPECT_TRUE(GatherReminders(store, ymd(2026, 3, 11), "All").ReminderRecords.empty());
-
-    RecordStore monthly;
-    addEvent(monthly, {.date = "2026/01/10", .recurrence = "Month", .ends = "True", .endDate = "2026/03/10",
-                       .reminder = "30 Days"});
-    EXPECT_EQ(rowLines(GatherReminders(monthly, ymd(2026, 2, 15), "All")), (Lines{"Event 1 23 2026/03/10"}));
-}
-
-TEST(EventReminders, WeeklyFirstDateOnAnUntickedDayIsRemindedOnce) {
-    RecordStore store;
-    // First on Friday 2 January 2026, only Monday ticked.
-    addEvent(store, {.date = "2026/01/02", .recurrence = "Day", .repeatDaily = "TFFFFFF", .reminder = "5 Days"});
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 1, 1), "All")),
-              (Lines{"Event 1 1 2026/01/02", "Event 1 4 2026/01/05"}));
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 1, 3), "All")), (Lines{"Event 1 2 2026/01/05"}));
 }
 
 TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
