@@ -1,19 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "store_fixture.h"
+#include "support/main_window_fixture.h"
 
 namespace qh {
 namespace {
-
-std::string termRecord(const std::string& id, const std::string& name, const std::string& start,
-                       const std::string& end) {
-    return field(id, 5) + field(name, 35) + field(start, 15) + field(end, 15) + spaces(30);
-}
-
-std::string classRecord(const std::string& id, const std::string& term, const std::string& name) {
-    return field(id, 5) + field(term, 5) + field(name, 25) + field("Black", 20) + field("White", 20) + field("", 500) +
-           spaces(40);
-}
 
 TEST(TermsAndClasses, MissingFilesLoadEmptyAndAreCreated) {
     StoreOnDrive d;
@@ -29,9 +20,9 @@ TEST(TermsAndClasses, MissingFilesLoadEmptyAndAreCreated) {
 
 TEST(TermsAndClasses, LoadKeepsTombstonesRepairsDatesAndIgnoresAPartRecord) {
     StoreOnDrive d;
-    d.writeFile("Terms.txt", termRecord("1", "Fall 2026", "2026.08.31", "2026-12-18") +
-                                 termRecord("2", "DELETED RECORD", "2027/01/05", "2027/05/14") + std::string(50, 'x'));
-    d.writeFile("Classes.txt", classRecord("10", "1", "Biology") + classRecord("11", "2", "DELETED RECORD"));
+    d.writeFile("Terms.txt", termRecord(1, "Fall 2026", "2026.08.31", "2026-12-18") +
+                                 termRecord(2, "DELETED RECORD", "2027/01/05", "2027/05/14") + std::string(50, 'x'));
+    d.writeFile("Classes.txt", classRecord(10, 1, "Biology") + classRecord(11, 2, "DELETED RECORD"));
     ASSERT_TRUE(d.files.LoadTermsAndClasses());
     const RecordStore& s = d.store;
     EXPECT_EQ(s.TermIDs, (TextColumn{"1", "2"}));
@@ -47,16 +38,16 @@ TEST(TermsAndClasses, LoadKeepsTombstonesRepairsDatesAndIgnoresAPartRecord) {
 
     // The next save drops the half record and writes the dates with slashes.
     ASSERT_TRUE(d.files.SaveTermsAndClasses());
-    EXPECT_EQ(d.bytesOf("Terms.txt"), termRecord("1", "Fall 2026", "2026/08/31", "2026/12/18") +
-                                          termRecord("2", "DELETED RECORD", "2027/01/05", "2027/05/14"));
+    EXPECT_EQ(d.bytesOf("Terms.txt"), termRecord(1, "Fall 2026", "2026/08/31", "2026/12/18") +
+                                          termRecord(2, "DELETED RECORD", "2027/01/05", "2027/05/14"));
 }
 
 TEST(TermsAndClasses, AReadErrorKeepsTheRowsReadSoFarAndLeavesTheClassesUnread) {
     StoreOnDrive d;
-    d.writeFile("Terms.txt", termRecord("1", "A", "2026/01/01", "2026/02/01") +
-                                 termRecord("2", "B", "2026/01/01", "2026/02/01") +
-                                 termRecord("3", "C", "2026/01/01", "2026/02/01"));
-    d.writeFile("Classes.txt", classRecord("10", "1", "Biology"));
+    d.writeFile("Terms.txt", termRecord(1, "A", "2026/01/01", "2026/02/01") +
+                                 termRecord(2, "B", "2026/01/01", "2026/02/01") +
+                                 termRecord(3, "C", "2026/01/01", "2026/02/01"));
+    d.writeFile("Classes.txt", classRecord(10, 1, "Biology"));
     d.store.TermsChanged = kTrue;
     d.fake.files.failRead(3);
     EXPECT_FALSE(d.files.LoadTermsAndClasses());
@@ -70,7 +61,7 @@ TEST(TermsAndClasses, AReadErrorKeepsTheRowsReadSoFarAndLeavesTheClassesUnread) 
 
 TEST(TermsAndClasses, AFailedSaveLeavesTheOldFileWholeAndClearsOnlyItsFlag) {
     StoreOnDrive d;
-    d.writeFile("Classes.txt", classRecord("10", "1", "Biology"));
+    d.writeFile("Classes.txt", classRecord(10, 1, "Biology"));
     ASSERT_TRUE(d.files.LoadTermsAndClasses());
     d.store.ClassNames(1) = "Chemistry";
     d.fake.files.failPath("Classes.txt");
@@ -79,18 +70,18 @@ TEST(TermsAndClasses, AFailedSaveLeavesTheOldFileWholeAndClearsOnlyItsFlag) {
     EXPECT_EQ(d.fake.messages.shown[0].text.substr(0, 35), "Error writing the file: Classes.txt");
     EXPECT_EQ(d.store.TermsChanged, kTrue);
     EXPECT_EQ(d.store.ClassesChanged, kFalse);
-    EXPECT_EQ(d.bytesOf("Classes.txt"), classRecord("10", "1", "Biology"));
+    EXPECT_EQ(d.bytesOf("Classes.txt"), classRecord(10, 1, "Biology"));
     EXPECT_EQ(d.store.ClassNames(1), "Chemistry");  // the columns stay complete
 
     // The next successful save repairs the file.
     d.fake.files.failPath("");
     ASSERT_TRUE(d.files.SaveTermsAndClasses());
-    EXPECT_EQ(d.bytesOf("Classes.txt"), classRecord("10", "1", "Chemistry"));
+    EXPECT_EQ(d.bytesOf("Classes.txt"), classRecord(10, 1, "Chemistry"));
 }
 
 TEST(TermsAndClasses, ATermDateThatIsNoDateFailsTheSaveOfTerms) {
     StoreOnDrive d;
-    d.writeFile("Terms.txt", termRecord("1", "A", "2026/01/01", "2026/02/01"));
+    d.writeFile("Terms.txt", termRecord(1, "A", "2026/01/01", "2026/02/01"));
     ASSERT_TRUE(d.files.LoadTermsAndClasses());
     d.store.TermIDs.append("2");
     d.store.TermNames.append("B");
@@ -99,7 +90,7 @@ TEST(TermsAndClasses, ATermDateThatIsNoDateFailsTheSaveOfTerms) {
     EXPECT_FALSE(d.files.SaveTermsAndClasses());
     EXPECT_EQ(d.fake.messages.shown.at(0).text.substr(0, 33), "Error writing the file: Terms.txt");
     EXPECT_EQ(d.store.NextTermRecord, 2);  // stopped at the second record
-    EXPECT_EQ(d.bytesOf("Terms.txt"), termRecord("1", "A", "2026/01/01", "2026/02/01"));
+    EXPECT_EQ(d.bytesOf("Terms.txt"), termRecord(1, "A", "2026/01/01", "2026/02/01"));
 }
 
 TEST(TermsAndClasses, ATermsFileGoneSinceTheLoadFailsWithAnEmptyName) {
@@ -116,7 +107,7 @@ TEST(TermsAndClasses, ATermsFileGoneSinceTheLoadFailsWithAnEmptyName) {
 TEST(TermsAndClasses, AFileOf32767RecordsOverflowsTheCounterAtItsEnd) {
     StoreOnDrive d;
     std::string bytes;
-    const std::string one = termRecord("1", "T", "2026/01/01", "2026/02/01");
+    const std::string one = termRecord(1, "T", "2026/01/01", "2026/02/01");
     for (int i = 0; i < 32767; ++i) bytes += one;
     d.writeFile("Terms.txt", bytes);
     EXPECT_FALSE(d.files.LoadTermsAndClasses());
