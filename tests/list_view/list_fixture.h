@@ -1,6 +1,6 @@
 #pragma once
-// Records put straight into the record store's columns, and a main window in one mode on
-// the fake platform, for the tests of the lists.
+// Records put straight into the record store's columns (events: recurrence/event_records.h),
+// and a main window in one mode on the fake platform, for the tests of the lists.
 #include <string>
 
 #include "list_view/grid.h"
@@ -32,6 +32,7 @@ struct AssignmentFields {
     std::string weight = "5";
     std::string type = "Homework";
     std::string difficulty = "Medium";
+    std::string reminder = "None";
 };
 
 // Appends an assignment; its ID and record number are its row unless given.
@@ -49,7 +50,7 @@ inline int addAssignment(RecordStore& s, AssignmentFields f) {
     s.AssignmentDones.append(f.done ? "True" : "False");
     s.AssignmentGrades.append(f.grade);
     s.AssignmentWeights.append(f.weight);
-    s.AssignmentReminders.append("None");
+    s.AssignmentReminders.append(f.reminder);
     return row;
 }
 
@@ -67,6 +68,7 @@ struct TaskFields {
     std::string type = "Personal";
     std::string priority = "Normal";
     bool done = false;
+    std::string reminder = "None";
 };
 
 inline int addTask(RecordStore& s, TaskFields f) {
@@ -80,7 +82,7 @@ inline int addTask(RecordStore& s, TaskFields f) {
     s.TaskPriorities.append(f.priority);
     s.TaskDones.append(f.done ? "True" : "False");
     s.TaskNotes.append("");
-    s.TaskReminders.append("None");
+    s.TaskReminders.append(f.reminder);
     return row;
 }
 

@@ -8,7 +8,7 @@
 namespace qh {
 namespace {
 
-using testing::ListWindow;
+using namespace qh::testing;
 
 // The values of a row column, whatever width of integer it keeps them in.
 template <class T>
@@ -31,15 +31,15 @@ TEST(DateWord, NamesTheNearDaysAndCountsTheOthers) {
 class ReminderListTest : public ::testing::Test {
 protected:
     ReminderListTest() : list(Mode::Reminders) {
-        test::addClass(s, "1", "Biology", "Navy", "MistyRose");
-        test::addClass(s, "2", "Art", "Black", "Lavender");
-        test::addTask(s, {.date = "2026/11/22", .type = "Work", .reminder = "1 Day", .description = "Return books"});
-        test::addTask(s, {.date = "2026/11/19", .description = "Pay fee"});
-        test::addTask(s, {.date = "2026/11/20", .type = "Home", .description = "Call home"});
-        test::addTask(s, {.date = "2026/11/21", .dateExists = "False", .description = "Undated"});
-        test::addTask(s, {.date = "2026/11/21", .done = "True", .description = "Done already"});
-        test::addAssignment(s, {.date = "2026/11/21", .classLink = "1", .description = "Cell diagram"});
-        test::addAssignment(s, {.date = "2026/11/26", .classLink = "2", .reminder = "7 Days", .description = "Sketch"});
+        addClass(s, 1, "Biology", "Navy", "MistyRose");
+        addClass(s, 2, "Art", "Black", "Lavender");
+        addTask(s, {.description = "Return books", .date = "2026/11/22", .type = "Work", .reminder = "1 Day"});
+        addTask(s, {.description = "Pay fee", .date = "2026/11/19", .type = "None"});
+        addTask(s, {.description = "Call home", .date = "2026/11/20", .type = "Home"});
+        addTask(s, {.description = "Undated", .dated = false});
+        addTask(s, {.description = "Done already", .done = true});
+        addAssignment(s, {.classLink = 1, .description = "Cell diagram", .reminder = "1 Day"});
+        addAssignment(s, {.classLink = 2, .date = "2026/11/26", .description = "Sketch", .reminder = "7 Days"});
         test::addEvent(s, {.date = "2026/11/24", .type = "Birthday", .reminder = "5 Days", .description = "Ana"});
         test::addEvent(s, {.date = "2026/11/20", .reminder = "3 Days", .description = "Gone"});
         list.filters("All", "Today");
@@ -115,11 +115,11 @@ TEST(ReminderMode, TheCalendarMarksTheDaysOfTheRowsOfTheKindShown) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     RecordStore& s = main.store;
-    test::addClass(s, "1", "Biology", "Black", "White");
-    test::addTask(s, {.date = "2026/11/23", .reminder = "3 Days", .description = "Forms"});
+    addClass(s, 1, "Biology");
+    addTask(s, {.description = "Forms", .date = "2026/11/23", .reminder = "3 Days"});
     test::addEvent(s, {.date = "2026/11/25", .reminder = "7 Days", .description = "Fair"});
-    test::addAssignment(s, {.date = "2026/11/27", .reminder = "7 Days", .description = "Essay"});
-    test::addAssignment(s, {.date = "2026/11/30", .reminder = "1 Day", .description = "Not yet"});
+    addAssignment(s, {.date = "2026/11/27", .description = "Essay", .reminder = "7 Days"});
+    addAssignment(s, {.date = "2026/11/30", .description = "Not yet", .reminder = "1 Day"});
     window.click("MenuReminders");
 
     const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);

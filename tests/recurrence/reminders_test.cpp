@@ -5,15 +5,16 @@
 #include <string>
 #include <vector>
 
+#include "list_view/list_fixture.h"
 #include "recurrence/event_records.h"
 
 namespace qh {
 namespace {
 
-using test::addAssignment;
-using test::addClass;
+using testing::addAssignment;
+using testing::addClass;
+using testing::addTask;
 using test::addEvent;
-using test::addTask;
 
 Date ymd(int y, int m, int d) { return dateFromYmd(y, m, d); }
 
@@ -49,11 +50,11 @@ TEST(EventReminders, WeeklyMondaysSevenDaysAheadShowTwiceOnAMonday) {
 
 TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
     RecordStore store;
-    addTask(store, {.date = "2026/05/10", .reminder = "None"});
+    addTask(store, {.date = "2026/05/10", .type = "None"});
     addTask(store, {.date = "2026/05/12", .type = "Project", .reminder = "2 Days"});
-    addTask(store, {.date = "2026/05/10", .dateExists = "False"});
-    addTask(store, {.date = "2026/05/10", .done = "True"});
-    addTask(store, {.date = "2026/05/10", .description = "DELETED RECORD"});
+    addTask(store, {.dated = false, .date = "2026/05/10"});
+    addTask(store, {.date = "2026/05/10", .done = true});
+    addTask(store, {.description = "DELETED RECORD", .date = "2026/05/10"});
     EXPECT_TRUE(GatherReminders(store, ymd(2026, 5, 9), "All").ReminderRecords.empty());
     EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 5, 10), "All")),
               (Lines{"Task 1 0 2026/05/10", "Task 2 2 2026/05/12"}));
@@ -68,12 +69,13 @@ TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
 
 TEST(HomeworkReminders, FromTheAdvanceNoticeOnWithTheClassColours) {
     RecordStore store;
-    addClass(store, "3", "History", "Black", "MistyRose");
-    addClass(store, "07", "Chemistry", "Navy", "Honeydew");
-    addAssignment(store, {.date = "2026/05/15", .classLink = "7", .reminder = "7 Days", .description = "Lab report"});
-    addAssignment(store, {.date = "2026/05/18", .classLink = "3", .reminder = "7 Days"});
-    addAssignment(store, {.date = "2026/05/12", .classLink = "3", .done = "True"});
-    addAssignment(store, {.date = "2026/05/12", .classLink = "3", .description = "DELETED RECORD"});
+    addClass(store, 3, "History", "Black", "MistyRose");
+    addClass(store, 7, "Chemistry", "Navy", "Honeydew");
+    store.ClassIDs(2) = "07";  // IDs and links compare as numbers
+    addAssignment(store, {.classLink = 7, .date = "2026/05/15", .description = "Lab report", .reminder = "7 Days"});
+    addAssignment(store, {.classLink = 3, .date = "2026/05/18", .reminder = "7 Days"});
+    addAssignment(store, {.classLink = 3, .date = "2026/05/12", .done = true, .reminder = "1 Day"});
+    addAssignment(store, {.classLink = 3, .date = "2026/05/12", .description = "DELETED RECORD", .reminder = "1 Day"});
     const ReminderRows rows = GatherReminders(store, ymd(2026, 5, 10), "All");
     EXPECT_EQ(rowLines(rows), (Lines{"Homework 1 5 2026/05/15"}));
     EXPECT_EQ(rows.ReminderClasses, (TextColumn{"Chemistry"}));
@@ -87,9 +89,9 @@ TEST(HomeworkReminders, FromTheAdvanceNoticeOnWithTheClassColours) {
 
 TEST(GatherReminders, TasksThenHomeworkThenEventsAndCountsBeforeTheFilter) {
     RecordStore store;
-    addClass(store, "1", "Math", "Black", "White");
+    addClass(store, 1, "Math");
     addEvent(store, {.date = "2026/05/10", .type = "Birthday"});
-    addAssignment(store, {.date = "2026/05/10"});
+    addAssignment(store, {.date = "2026/05/10", .reminder = "1 Day"});
     addTask(store, {.date = "2026/05/10", .type = "Work"});
     const Date day = ymd(2026, 5, 10);
     const ReminderRows all = GatherReminders(store, day, "All");
