@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "list_view/list_fixture.h"
 #include "recurrence/event_records.h"
 #include "shell/month_navigator.h"
@@ -34,7 +32,7 @@ int addTimedEvent(RecordStore& s, const EventFields& f, const std::string& time)
 
 // --- One day ---------------------------------------------------------------------------------
 
-TEST(GatherEvents, ListsTheDaysOccurrencesAndCountsBeforeTheFilter) {
+TEST(GatherEvents, ListsTheDaysOccurrencesInTheColoursOfTheirTypes) {
     RecordStore s;
     addEvent(s, {.date = "2026/11/07", .recurrence = "Day", .repeatDaily = kSaturdays, .type = "Class"});
     addEvent(s, {.date = "2026/11/21", .type = "Birthday"});
@@ -48,44 +46,6 @@ TEST(GatherEvents, ListsTheDaysOccurrencesAndCountsBeforeTheFilter) {
     EXPECT_EQ(all.ListEventForeColors, (TextColumn{"Black", "Black", "Black"}));
     EXPECT_EQ(all.ListEventBackColors, (TextColumn{"LightYellow", "Gold", "White"}));
     EXPECT_EQ(all.EventTotal, 3);
-
-    const EventRows classes = GatherEvents(s, kDay, "Classes");
-    EXPECT_EQ(classes.ListEventRows, (Column<Int16>{1}));
-    EXPECT_EQ(classes.EventClassCount, 1);
-    EXPECT_EQ(classes.EventOtherCount, 2);  // counted, though not listed
-
-    const EventRows others = GatherEvents(s, kDay, "Other Events");
-    EXPECT_EQ(others.ListEventRows, (Column<Int16>{2, 5}));
-    EXPECT_EQ(others.ListEventBackColors, (TextColumn{"Gold", "White"}));
-}
-
-TEST(GatherEvents, EveryDayOfAWeekTogetherGivesTheWeeksExpansion) {
-    RecordStore s;
-    addEvent(s, {.date = "2026/11/03", .recurrence = "Day", .repeatDaily = kMondaysAndWednesdays, .type = "Class"});
-    addEvent(s, {.date = "2026/10/24", .recurrence = "Month", .sameDate = "True"});
-    addEvent(s, {.date = "2026/09/26",
-                 .recurrence = "Month",
-                 .sameDate = "False",
-                 .repeatNumber = "Last",
-                 .repeatDay = "Saturday"});
-    addEvent(s, {.date = "2026/11/25", .type = "Holiday"});
-    addEvent(s, {.date = "2026/11/20",
-                 .recurrence = "Day",
-                 .repeatDaily = kSaturdays,
-                 .ends = "True",
-                 .endDate = "2026/11/26"});
-
-    std::multiset<std::pair<int, Date>> byDay, byRange;
-    for (Date d = kDay; d <= kDay + 7; ++d) {
-        const EventRows rows = GatherEvents(s, d, "All");
-        for (int i = 1; i <= rows.ListEventRows.count(); ++i)
-            byDay.insert({rows.ListEventRows(i), rows.ListEventDates(i)});
-    }
-    const EventRows week = ExpandEvents(s, kDay, "Week", "All");
-    for (int i = 1; i <= week.ListEventRows.count(); ++i)
-        byRange.insert({week.ListEventRows(i), week.ListEventDates(i)});
-    EXPECT_EQ(byDay, byRange);
-    EXPECT_EQ(byDay.size(), 6u);  // Monday 23 and Wednesday 25; the 24th; the 28th; the 25th; the 21st
 }
 
 // --- The list in the window ------------------------------------------------------------------
