@@ -1,5 +1,8 @@
 #include "recurrence/reminders.h"
 
+#include <unordered_map>
+#include <vector>
+
 #include "common/text.h"
 #include "recurrence/date_primitives.h"
 #include "recurrence/event_rule.h"
@@ -56,6 +59,11 @@ void GatherTaskReminders(const RecordStore& store, Date date, std::string_view f
 }
 
 void GatherHomeworkReminders(const RecordStore& store, Date date, std::string_view filter, ReminderRows& rows) {
+    // The class rows of each class ID, in row order: a reminder takes the name and colours
+    // of every class row with its link, as a walk over all classes would, without the walk.
+    std::unordered_map<Int16, std::vector<int>> classRowsById;
+    for (int c = 1; c <= store.ClassIDs.count(); ++c) classRowsById[int16OrZero(store.ClassIDs(c))].push_back(c);
+    const std::vector<int> noClass;
     const int count = store.AssignmentRecordNos.count();
     for (int i = 1; i <= count; ++i) {
         if (store.AssignmentDescriptions(i) == kDeletedRecord || store.AssignmentDones(i) != "False") continue;
@@ -65,9 +73,8 @@ void GatherHomeworkReminders(const RecordStore& store, Date date, std::string_vi
         if (filter != "Homework" && filter != "All") continue;
         appendRow(rows, i, "Homework", store.AssignmentTypes(i), store.AssignmentDescriptions(i),
                   DaysBetween(date, dueDate), dueDate);
-        const Int16 classLink = int16OrZero(store.AssignmentClassLinks(i));
-        for (int c = 1; c <= store.ClassIDs.count(); ++c) {
-            if (int16OrZero(store.ClassIDs(c)) != classLink) continue;
+        const auto found = classRowsById.find(int16OrZero(store.AssignmentClassLinks(i)));
+        for (int c : found == classRowsById.end() ? noClass : found->second) {
             rows.ReminderClasses.append(store.ClassNames(c));
             rows.ReminderForeColors.append(store.ClassForeColors(c));
             rows.ReminderBackColors.append(store.ClassBackColors(c));

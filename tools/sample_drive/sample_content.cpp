@@ -1,6 +1,7 @@
 #include "sample_content.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <stdexcept>
 
 #include "common/text.h"
@@ -16,29 +17,29 @@ const char* const kOrdinals[] = {"First", "Second", "Third", "Fourth", "Last"};
 
 // Six classes a term, oldest term first; a term past the fourth takes them again.
 const Texts kClassNames = {
-    "Algebra I",   "Biology", "English 9",           "World Geography",    "Spanish I",   "Art Studio",
-    "Geometry",    "Chemistry", "English 10",        "World History",      "Spanish II",  "Music Theory",
-    "Algebra II",  "Physics", "American Literature", "US History",         "Spanish III", "Computer Science",
-    "Precalculus", "Environmental Science", "British Literature", "Economics", "Psychology", "Photography",
+    "Algebra I",   "Biology",               "English 9",           "World Geography", "Spanish I",   "Art Studio",
+    "Geometry",    "Chemistry",             "English 10",          "World History",   "Spanish II",  "Music Theory",
+    "Algebra II",  "Physics",               "American Literature", "US History",      "Spanish III", "Computer Science",
+    "Precalculus", "Environmental Science", "British Literature",  "Economics",       "Psychology",  "Photography",
 };
 // Text and background colour names of the class schedule's grid, one pair a class.
 const std::pair<const char*, const char*> kClassColors[] = {
-    {"Black", "MistyRose"},    {"Black", "Honeydew"},   {"Black", "LightCyan"},   {"Black", "Lavender"},
-    {"Black", "LemonChiffon"}, {"Black", "PeachPuff"},  {"Navy", "AliceBlue"},    {"DarkGreen", "MintCream"},
-    {"Maroon", "Linen"},       {"Black", "Thistle"},    {"Black", "PaleTurquoise"}, {"White", "SteelBlue"},
-    {"Black", "Wheat"},        {"White", "CadetBlue"},  {"Black", "LightPink"},   {"Black", "PaleGreen"},
-    {"White", "SlateBlue"},    {"Black", "Khaki"},      {"Black", "LightSkyBlue"}, {"White", "Sienna"},
-    {"Black", "Gainsboro"},    {"White", "DarkCyan"},   {"Black", "NavajoWhite"}, {"White", "Indigo"},
+    {"Black", "MistyRose"},    {"Black", "Honeydew"},  {"Black", "LightCyan"},     {"Black", "Lavender"},
+    {"Black", "LemonChiffon"}, {"Black", "PeachPuff"}, {"Navy", "AliceBlue"},      {"DarkGreen", "MintCream"},
+    {"Maroon", "Linen"},       {"Black", "Thistle"},   {"Black", "PaleTurquoise"}, {"White", "SteelBlue"},
+    {"Black", "Wheat"},        {"White", "CadetBlue"}, {"Black", "LightPink"},     {"Black", "PaleGreen"},
+    {"White", "SlateBlue"},    {"Black", "Khaki"},     {"Black", "LightSkyBlue"},  {"White", "Sienna"},
+    {"Black", "Gainsboro"},    {"White", "DarkCyan"},  {"Black", "NavajoWhite"},   {"White", "Indigo"},
 };
-const Texts kTeachers = {"Ms. Okafor", "Mr. Alvarez", "Mrs. Lindqvist", "Dr. Chen",  "Mr. Haddad",
-                         "Ms. Moreau", "Mr. Kowalski", "Mrs. Tanaka",   "Ms. Brennan", "Mr. Osei"};
+const Texts kTeachers = {"Ms. Okafor", "Mr. Alvarez",  "Mrs. Lindqvist", "Dr. Chen",    "Mr. Haddad",
+                         "Ms. Moreau", "Mr. Kowalski", "Mrs. Tanaka",    "Ms. Brennan", "Mr. Osei"};
 
 struct TypeShape {
     const char* type;
-    int weight;                // how often a student enters one
+    int weight;                  // how often a student enters one
     int minMinutes, maxMinutes;  // estimated time
-    const char* gradeWeight;   // percent of the class grade
-    Texts descriptions;        // '#' takes a number
+    const char* gradeWeight;     // percent of the class grade
+    Texts descriptions;          // '#' takes a number
 };
 const TypeShape kAssignmentTypes[] = {
     {"Assignment", 35, 30, 90, "5",
@@ -49,7 +50,8 @@ const TypeShape kAssignmentTypes[] = {
     {"Test", 10, 60, 240, "20", {"Unit # test", "Chapter # test", "Midterm exam", "Final exam"}},
     {"Study", 10, 30, 120, "5", {"Study for unit # test", "Review notes, chapter #", "Flash cards, set #"}},
     {"Report", 8, 120, 360, "15", {"Lab report #", "Book report #", "Research paper, draft #", "Essay #"}},
-    {"Project", 7, 180, 600, "25", {"Group project #", "Poster project #", "Science fair, step #", "Portfolio piece #"}},
+    {"Project", 7, 180, 600, "25",
+     {"Group project #", "Poster project #", "Science fair, step #", "Portfolio piece #"}},
 };
 const Texts kNoteSentences = {
     "Bring the calculator and a ruler.",
@@ -70,19 +72,39 @@ const Texts kNoteSentences = {
 const Texts kGrades = {"A", "A", "A-", "A-", "B+", "B+", "B", "B", "B", "B-", "C+", "C", "C-", "D+"};
 
 const Texts kTaskDescriptions = {
-    "Return library books",        "Buy graph paper",              "Email teacher about the retake",
-    "Sign up for the SAT",         "Clean out locker",             "Renew bus pass",
-    "Practice piano",              "Call Grandma",                 "Finish college essay draft",
-    "Pick up yearbook",            "Pay lab fee",                  "Update résumé",
-    "Fix bike tire",               "Buy batteries for calculator", "Plan study group",
-    "Print permission slip",       "Get shots for the trip",       "Ask for a recommendation letter",
-    "Organize binder",             "Back up laptop",               "Buy a birthday present",
-    "Volunteer hours form",        "Replace earbuds",              "Schedule driving lesson",
-    "Write thank-you notes",       "Sell old textbooks",           "Find a summer job",
-    "Clean room",                  "Laundry",                      "Apply for scholarship",
+    "Return library books",
+    "Buy graph paper",
+    "Email teacher about the retake",
+    "Sign up for the SAT",
+    "Clean out locker",
+    "Renew bus pass",
+    "Practice piano",
+    "Call Grandma",
+    "Finish college essay draft",
+    "Pick up yearbook",
+    "Pay lab fee",
+    "Update résumé",
+    "Fix bike tire",
+    "Buy batteries for calculator",
+    "Plan study group",
+    "Print permission slip",
+    "Get shots for the trip",
+    "Ask for a recommendation letter",
+    "Organize binder",
+    "Back up laptop",
+    "Buy a birthday present",
+    "Volunteer hours form",
+    "Replace earbuds",
+    "Schedule driving lesson",
+    "Write thank-you notes",
+    "Sell old textbooks",
+    "Find a summer job",
+    "Clean room",
+    "Laundry",
+    "Apply for scholarship",
 };
-const Texts kTaskTypes = {"None", "Class", "School", "Home", "Personal", "Friends",
-                          "Family", "Recreation", "Work", "Project", "Idea"};
+const Texts kTaskTypes = {"None",   "Class",      "School", "Home",    "Personal", "Friends",
+                          "Family", "Recreation", "Work",   "Project", "Idea"};
 const Texts kPriorities = {"None", "Low", "Medium", "High"};
 const Texts kTaskNotes = {"",
                           "",
@@ -98,35 +120,57 @@ struct Happening {
     const char* type;
 };
 const Happening kOnceEvents[] = {
-    {"Dentist appointment", "Personal"},      {"Field trip to the science museum", "School"},
-    {"Band concert", "School"},               {"Job interview at the café", "Work"},
-    {"Movie night", "Friends"},               {"College fair", "School"},
-    {"Basketball game", "Recreation"},        {"Parent-teacher conference", "School"},
-    {"Driving test", "Personal"},             {"Sleepover at Jess's", "Friends"},
-    {"Family reunion", "Family"},             {"Eye exam", "Personal"},
-    {"Club bake sale", "School"},             {"Concert downtown", "Recreation"},
-    {"Dinner with the cousins", "Family"},    {"Picture day", "School"},
-    {"Open house", "School"},                 {"Hiking trip", "Recreation"},
-    {"Extra shift", "Work"},                  {"Plumber coming", "Home"},
-    {"Lunch with Sam", "None"},               {"Orientation", "School"},
+    {"Dentist appointment", "Personal"},
+    {"Field trip to the science museum", "School"},
+    {"Band concert", "School"},
+    {"Job interview at the café", "Work"},
+    {"Movie night", "Friends"},
+    {"College fair", "School"},
+    {"Basketball game", "Recreation"},
+    {"Parent-teacher conference", "School"},
+    {"Driving test", "Personal"},
+    {"Sleepover at Jess's", "Friends"},
+    {"Family reunion", "Family"},
+    {"Eye exam", "Personal"},
+    {"Club bake sale", "School"},
+    {"Concert downtown", "Recreation"},
+    {"Dinner with the cousins", "Family"},
+    {"Picture day", "School"},
+    {"Open house", "School"},
+    {"Hiking trip", "Recreation"},
+    {"Extra shift", "Work"},
+    {"Plumber coming", "Home"},
+    {"Lunch with Sam", "None"},
+    {"Orientation", "School"},
 };
 const Happening kWeeklyEvents[] = {
-    {"Soccer practice", "Recreation"}, {"Piano lesson", "Personal"},  {"Shift at the bookstore", "Work"},
-    {"Youth group", "Personal"},       {"Swim team", "Recreation"},   {"Tutoring", "School"},
-    {"Chess club", "School"},          {"Babysitting", "Work"},       {"Trash night", "Home"},
+    {"Soccer practice", "Recreation"},
+    {"Piano lesson", "Personal"},
+    {"Shift at the bookstore", "Work"},
+    {"Youth group", "Personal"},
+    {"Swim team", "Recreation"},
+    {"Tutoring", "School"},
+    {"Chess club", "School"},
+    {"Babysitting", "Work"},
+    {"Trash night", "Home"},
     {"Call Dad", "Family"},
 };
 const Happening kMonthlyEvents[] = {
-    {"Phone bill due", "Personal"},       {"Haircut", "Personal"},           {"Allowance", "Family"},
+    {"Phone bill due", "Personal"},        {"Haircut", "Personal"},           {"Allowance", "Family"},
     {"Check savings account", "Personal"}, {"Renew library books", "School"}, {"Magazine arrives", "Home"},
-    {"Robotics club meeting", "School"},  {"Book club", "Friends"},          {"Student council", "School"},
+    {"Robotics club meeting", "School"},   {"Book club", "Friends"},          {"Student council", "School"},
     {"Orchestra rehearsal", "Recreation"},
 };
-const Texts kBirthdays = {"Mom's birthday",    "Dad's birthday",   "Grandma's birthday", "Jordan's birthday",
-                          "Aunt Rosa's birthday", "Priya's birthday", "Marcus's birthday",  "Sam's birthday",
-                          "Jess's birthday",   "Uncle Lee's birthday", "Our anniversary"};
-const Texts kEventNotes = {"", "", "", "Bring the blue folder.", "Meet at the front door.",
-                           "Costs $12, bring cash.", "Carpool with the Nguyens.\r\nBack by 9."};
+const Texts kBirthdays = {"Mom's birthday",       "Dad's birthday",       "Grandma's birthday", "Jordan's birthday",
+                          "Aunt Rosa's birthday", "Priya's birthday",     "Marcus's birthday",  "Sam's birthday",
+                          "Jess's birthday",      "Uncle Lee's birthday", "Our anniversary"};
+const Texts kEventNotes = {"",
+                           "",
+                           "",
+                           "Bring the blue folder.",
+                           "Meet at the front door.",
+                           "Costs $12, bring cash.",
+                           "Carpool with the Nguyens.\r\nBack by 9."};
 
 // Holidays that fall on a rule of their own: (month, day) for the day-number kinds,
 // (month, weekday 1..7, ordinal 0..4) for the weekday kind.
@@ -135,7 +179,7 @@ struct DayNumberHoliday {
     int month, ordinal;  // ordinal 0..3: day 1..4; 4: the month's last day
 };
 const DayNumberHoliday kDayNumberHolidays[] = {
-    {"New Year's Day", 1, 0}, {"Groundhog Day", 2, 1}, {"World Wildlife Day", 3, 2},
+    {"New Year's Day", 1, 0},   {"Groundhog Day", 2, 1},   {"World Wildlife Day", 3, 2},
     {"Independence Day", 7, 3}, {"New Year's Eve", 12, 4},
 };
 struct WeekdayHoliday {
@@ -143,8 +187,11 @@ struct WeekdayHoliday {
     int month, weekday, ordinal;
 };
 const WeekdayHoliday kWeekdayHolidays[] = {
-    {"Martin Luther King Jr. Day", 1, 2, 2}, {"Mother's Day", 5, 1, 1}, {"Labor Day", 9, 2, 0},
-    {"Thanksgiving", 11, 5, 3},              {"Memorial Day", 5, 2, 4},
+    {"Martin Luther King Jr. Day", 1, 2, 2},
+    {"Mother's Day", 5, 1, 1},
+    {"Labor Day", 9, 2, 0},
+    {"Thanksgiving", 11, 5, 3},
+    {"Memorial Day", 5, 2, 4},
 };
 struct SameDateHoliday {
     const char* name;
@@ -246,9 +293,10 @@ ClassPlan makeClass(Dice& dice, int id, const std::string& termId, int nameIndex
     if (!colors.ColorValues.contains(fore) || !colors.ColorValues.contains(back))
         throw std::logic_error("a sample class colour is not in the vocabulary");
     std::string notes = "Room " + std::to_string(dice.between(101, 340)) + ", " + dice.pick(kTeachers) + ".";
-    if (dice.percent(50)) notes += " Office hours " + std::string(dice.percent(50) ? "Tuesday" : "Thursday") + " after school.";
-    return {std::to_string(id), termId, kClassNames[std::size_t(nameIndex % int(kClassNames.size()))], fore, back,
-            notes};
+    if (dice.percent(50))
+        notes += " Office hours " + std::string(dice.percent(50) ? "Tuesday" : "Thursday") + " after school.";
+    return {
+        std::to_string(id), termId, kClassNames[std::size_t(nameIndex % int(kClassNames.size()))], fore, back, notes};
 }
 
 const TypeShape& pickType(Dice& dice) {
@@ -277,8 +325,8 @@ AssignmentPlan makeAssignment(Dice& dice, Date today, const std::string& classId
                       : due == today   ? dice.percent(40)
                                        : dice.percent(10);
     a.Done = done ? "True" : "False";
-    const bool graded = done && (a.Type != "Assignment" && a.Type != "Reading" && a.Type != "Study" ? true
-                                                                                                  : dice.percent(30));
+    const bool graded =
+        done && (a.Type != "Assignment" && a.Type != "Reading" && a.Type != "Study" ? true : dice.percent(30));
     a.Grade = graded ? dice.pick(kGrades) : " ";
     a.Weight = shape.gradeWeight;
     a.Reminder = a.Type == "Test" || a.Type == "Report" ? std::to_string(dice.between(2, 5)) + " Days"
@@ -297,7 +345,9 @@ void addSessions(Dice& dice, Date today, std::vector<AssignmentPlan>& assignment
     for (std::size_t i = 0; i < assignments.size(); ++i) {
         const AssignmentBuffer& a = assignments[i].record;
         if (a.DateValue - 14 > today) continue;
-        const int weight = a.Type == "Test" || a.Type == "Project" ? 3 : a.Type == "Report" || a.Type == "Study" ? 2 : 1;
+        const int weight = a.Type == "Test" || a.Type == "Project"   ? 3
+                           : a.Type == "Report" || a.Type == "Study" ? 2
+                                                                     : 1;
         draws.insert(draws.end(), std::size_t(weight), i);
     }
     if (draws.empty()) throw std::logic_error("no assignment can take a study session");
@@ -305,7 +355,8 @@ void addSessions(Dice& dice, Date today, std::vector<AssignmentPlan>& assignment
         AssignmentPlan& plan = assignments[draws[std::size_t(dice.below(int(draws.size())))]];
         if (plan.sessions.size() >= 99) continue;  // the editor's limit for one assignment
         const Date due = plan.record.DateValue;
-        plan.sessions.push_back({spanText(roundTo5(dice.between(15, 120))), dice.between(due - 14, std::min(due, today))});
+        plan.sessions.push_back(
+            {spanText(roundTo5(dice.between(15, 120))), dice.between(due - 14, std::min(due, today))});
         ++n;
     }
     for (AssignmentPlan& plan : assignments) {
@@ -316,7 +367,8 @@ void addSessions(Dice& dice, Date today, std::vector<AssignmentPlan>& assignment
             studied += std::stoi(s.length.substr(0, 2)) * 60 + std::stoi(s.length.substr(5, 2));
         AssignmentBuffer& a = plan.record;
         const int estimate = std::stoi(a.EstTime.substr(0, 2)) * 60 + std::stoi(a.EstTime.substr(5, 2));
-        if (a.Done == "False" && studied >= estimate) a.EstTime = spanText(std::min(3000, roundTo5(studied + dice.between(15, 60))));
+        if (a.Done == "False" && studied >= estimate)
+            a.EstTime = spanText(std::min(3000, roundTo5(studied + dice.between(15, 60))));
     }
 }
 
@@ -337,8 +389,9 @@ TaskPlan makeTask(Dice& dice, Date today) {
     t.Done = done ? "True" : "False";
     t.Notes = dice.pick(kTaskNotes);
     // The editor gives a reminder only to a task with a date.
-    t.Reminder = dated && !done && date >= today && dice.percent(50) ? (dice.percent(50) ? "1 Day" : std::to_string(dice.between(2, 3)) + " Days")
-                                                                   : "None";
+    t.Reminder = dated && !done && date >= today && dice.percent(50)
+                     ? (dice.percent(50) ? "1 Day" : std::to_string(dice.between(2, 3)) + " Days")
+                     : "None";
     return plan;
 }
 
@@ -361,7 +414,8 @@ EventPlan baseEvent(Dice& dice, EventKind kind, Date first, const std::string& d
     e.End = "False";
     e.EndDate = e.Date;
     e.Notes = dice.pick(kEventNotes);
-    e.Reminder = dice.percent(40) ? (dice.percent(50) ? "1 Day" : std::to_string(dice.between(2, 7)) + " Days") : "None";
+    e.Reminder =
+        dice.percent(40) ? (dice.percent(50) ? "1 Day" : std::to_string(dice.between(2, 7)) + " Days") : "None";
     return plan;
 }
 
@@ -429,7 +483,8 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
         case EventKind::MonthlyWeekday: {
             const auto [year, month] = monthBefore(today, dice.between(0, 3));
             const bool byWeekday = kind == EventKind::MonthlyWeekday;
-            const Date first = byWeekday ? nthWeekday(year, month, dice.between(1, 7), ordinal) : nthDay(year, month, ordinal);
+            const Date first =
+                byWeekday ? nthWeekday(year, month, dice.between(1, 7), ordinal) : nthDay(year, month, ordinal);
             const Happening& h = kMonthlyEvents[dice.between(byWeekday ? 6 : 0, byWeekday ? 9 : 5)];
             EventPlan plan = baseEvent(dice, kind, first, h.description, h.type);
             plan.record.SameDate = "False";
@@ -552,8 +607,8 @@ DrivePlan RealisticPlan(Date today, Dice& dice) {
 
     for (const TermPlan& term : plan.terms) {
         const bool active = &term == &plan.terms.back();
-        addAssignments(dice, today, classesOf(plan.classes, term.id), term.start, active ? lastDueDate(term, today) : term.end,
-                       200, plan.assignments);
+        addAssignments(dice, today, classesOf(plan.classes, term.id), term.start,
+                       active ? lastDueDate(term, today) : term.end, 200, plan.assignments);
     }
     addSessions(dice, today, plan.assignments, 3000);
     // A few are deleted again, as students do: one in forty.
@@ -591,7 +646,20 @@ DrivePlan MaximalPlan(Date today, Dice& dice, int records) {
     addAssignments(dice, today, activeClasses, active.start, lastDueDate(active, today), records, plan.assignments);
     addSessions(dice, today, plan.assignments, records);
     for (int i = 0; i < records; ++i) plan.tasks.push_back(makeTask(dice, today));
-    plan.events = makeEvents(dice, today, records, activeClasses, plan.terms.back());
+    // A full event file whose every range still fits the 16-bit counters of the event
+    // list: one event in a hundred repeats, the others happen once, spread over thirty
+    // years, so a year's view holds a few thousand occurrences.
+    plan.events = makeEvents(dice, today, records / 100, activeClasses, plan.terms.back());
+    while (int(plan.events.size()) < records) {
+        EventPlan once = makeEvent(dice, today, EventKind::Once, 0, activeClasses, plan.terms.back());
+        const Date first = today - 15 * 365 + dice.between(0, 30 * 365);
+        once.record.Date = once.record.EndDate = dateText(first);
+        const auto [number, day] = proposedRule(first);
+        once.record.RepeatNumber = number;
+        once.record.RepeatDay = day;
+        plan.events.push_back(once);
+    }
+    shuffle(dice, plan.events);
     return plan;
 }
 
