@@ -24,15 +24,15 @@
 namespace qh {
 namespace {
 
-const char* const kRecordFiles[] = {"Terms.txt", "Classes.txt", "Assignments.txt", "Notes.txt",
-                                    "StudySessions.txt", "Tasks.txt", "Events.txt"};
+const char* const kRecordFiles[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
+                                    "StudySessions.txt", "Tasks.txt",   "Events.txt"};
 
 // The maximal drive, made once for the whole run, on the real file layer.
 struct MaximalDrive {
     FakePlatform fake;  // the temporary folder and the quiet stand-ins
     PosixFileSystem files;
-    Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
+    Platform platform{fake.environment, fake.clock,   fake.locale,    fake.messages, files,
+                      fake.processes,   fake.dialogs, fake.windowing, fake.canvases};
     std::size_t bytes = 0;
 
     MaximalDrive() {

@@ -11,10 +11,11 @@ using namespace qh::fuzz;
 namespace {
 
 // Term 1 is active. Class 2 has two rows, class 4 is deleted and class 3 is another term's.
-const std::vector<std::vector<std::string>> kClasses = {
-    {"1", "1", "Biology", "Black", "White", ""},        {"2", "1", "Chemistry", "Black", "White", ""},
-    {"3", "2", "History", "Black", "White", ""},        {"4", "1", "DELETED RECORD", "Black", "White", ""},
-    {"2", "1", "Chemistry again", "Black", "White", ""}};
+const std::vector<std::vector<std::string>> kClasses = {{"1", "1", "Biology", "Black", "White", ""},
+                                                        {"2", "1", "Chemistry", "Black", "White", ""},
+                                                        {"3", "2", "History", "Black", "White", ""},
+                                                        {"4", "1", "DELETED RECORD", "Black", "White", ""},
+                                                        {"2", "1", "Chemistry again", "Black", "White", ""}};
 const std::vector<std::vector<std::string>> kSessions = {
     {"1", "1", "00 : 30", "2026/11/01"}, {"2", "2", "01 : 00", "2026/11/02"}, {"3", "-1", "", "2026/11/03"},
     {"4", "0", "00 : 15", "2026/11/04"}, {"5", "3", "00 : 45", "2026/11/05"}, {"6", "02", "00 : 20", "2026/11/06"}};

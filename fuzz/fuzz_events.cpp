@@ -19,7 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::vector<std::string>> live;
     for (const auto& record : records)
         if (record[3] != "DELETED RECORD") live.push_back(record);
-    TextColumn const* const columns[] = {&s.EventRecordNos, &s.EventIDs, &s.EventDates, &s.EventDescriptions, &s.EventTypes, &s.EventTimes, &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays, &s.EventRepeatDailies, &s.EventEnds, &s.EventEndDates, &s.EventNotes, &s.EventReminders};
+    TextColumn const* const columns[] = {
+        &s.EventRecordNos,     &s.EventIDs,         &s.EventDates,     &s.EventDescriptions,  &s.EventTypes,
+        &s.EventTimes,         &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
+        &s.EventRepeatDailies, &s.EventEnds,        &s.EventEndDates,  &s.EventNotes,         &s.EventReminders};
     for (std::size_t c = 0; c < 15; ++c) {
         require(columns[c]->count() == int(live.size()), "a row for each live record");
         for (std::size_t i = 0; i < live.size(); ++i)
@@ -31,7 +34,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto& v = records.back();
     bool datesRead = true;
     for (std::size_t d : {2, 12}) datesRead = datesRead && parseDateText(v[d]).has_value();
-    drive.store.EventRecord = {v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11], v[12], v[13], v[14]};
+    drive.store.EventRecord = {v[0], v[1], v[2],  v[3],  v[4],  v[5],  v[6], v[7],
+                               v[8], v[9], v[10], v[11], v[12], v[13], v[14]};
     const Int16 last = Int16(records.size());
     const bool saved = drive.records.SaveEvent(last);
     require(saved == datesRead, "a record is written exactly when its dates read as dates");

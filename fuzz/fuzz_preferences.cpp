@@ -28,9 +28,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PreferenceValues values{"(none)", "(unread)", "(unread)", 7};
     ReadPreferences(drive.platform, drive.store, screenWidth, screenHeight, window, values);
     require(drive.machine.shown.empty(), "the preferences are read silently");
-    require(values.StartDayOfWeek == "Sunday" || values.StartDayOfWeek == "Monday" ||
-                values.StartDayOfWeek == "Saturday",
-            "the week starts on Sunday, Monday or Saturday");
+    require(
+        values.StartDayOfWeek == "Sunday" || values.StartDayOfWeek == "Monday" || values.StartDayOfWeek == "Saturday",
+        "the week starts on Sunday, Monday or Saturday");
     require(values.ShowTipsAtStartup == "Yes" || values.ShowTipsAtStartup == "No", "tips are shown or not");
     require(window.state == 0 || window.state == 2, "the window is normal or maximised");
     require(windowValueHolds(window.left, loaded.left, screenWidth) &&

@@ -17,9 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // Assignment 2 has two records, so its sessions come twice; 4 is deleted.
     std::string assignments;
     for (const char* id : {"1", "2", "3", "2", "4"})
-        assignments += recordOf(kAssignmentsLayout, {id, id, "1", "2026/11/20", "Quiz", "Easy", "00 : 30",
-                                                     id[0] == '4' ? "DELETED RECORD" : "Chapter 4", "False", " ",
-                                                     "5", "1 Day"});
+        assignments +=
+            recordOf(kAssignmentsLayout, {id, id, "1", "2026/11/20", "Quiz", "Easy", "00 : 30",
+                                          id[0] == '4' ? "DELETED RECORD" : "Chapter 4", "False", " ", "5", "1 Day"});
     drive.put("Assignments.txt", assignments);
     drive.put("StudySessions.txt", bytes);
     require(drive.loadAll(1) && drive.machine.shown.empty(), "StudySessions.txt of any bytes loads");

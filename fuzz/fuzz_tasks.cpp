@@ -19,7 +19,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::vector<std::string>> live;
     for (const auto& record : records)
         if (record[2] != "DELETED RECORD") live.push_back(record);
-    TextColumn const* const columns[] = {&s.TaskRecordNos, &s.TaskIDs, &s.TaskDescriptions, &s.TaskDateExists, &s.TaskDates, &s.TaskTypes, &s.TaskPriorities, &s.TaskDones, &s.TaskNotes, &s.TaskReminders};
+    TextColumn const* const columns[] = {&s.TaskRecordNos, &s.TaskIDs,      &s.TaskDescriptions, &s.TaskDateExists,
+                                         &s.TaskDates,     &s.TaskTypes,    &s.TaskPriorities,   &s.TaskDones,
+                                         &s.TaskNotes,     &s.TaskReminders};
     for (std::size_t c = 0; c < 10; ++c) {
         require(columns[c]->count() == int(live.size()), "a row for each live record");
         for (std::size_t i = 0; i < live.size(); ++i)

@@ -97,7 +97,9 @@ MemoryDrive::MemoryDrive() {
     if (!SetStorageLocations(store, platform)) fail("the memory drive has no data directory");
 }
 
-void MemoryDrive::put(const std::string& name, const std::string& bytes) { files.files[dataFilePath(store, name)] = bytes; }
+void MemoryDrive::put(const std::string& name, const std::string& bytes) {
+    files.files[dataFilePath(store, name)] = bytes;
+}
 
 std::string MemoryDrive::bytesOf(const std::string& name) const {
     const auto found = files.files.find(dataFilePath(store, name));

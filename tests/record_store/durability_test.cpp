@@ -69,7 +69,8 @@ std::optional<Row> rowUnlessDeleted(const Row& values, std::size_t description) 
 }
 
 const RecordFileKind kAssignments{
-    "Assignments.txt", kAssignmentsLayout,
+    "Assignments.txt",
+    kAssignmentsLayout,
     [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
         s.AssignmentRecord = {v[0], v[1], v[2], dateFromText(v[3]), v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11]};
         return files.SaveAssignment(number);
@@ -77,9 +78,8 @@ const RecordFileKind kAssignments{
     [](RecordFiles& files) { return files.LoadAssignments(); },
     [](const RecordStore& s) {
         return rowsOf({&s.AssignmentRecordNos, &s.AssignmentIDs, &s.AssignmentClassLinks, &s.AssignmentDates,
-                       &s.AssignmentTypes, &s.AssignmentDifficulties, &s.AssignmentEstTimes,
-                       &s.AssignmentDescriptions, &s.AssignmentDones, &s.AssignmentGrades, &s.AssignmentWeights,
-                       &s.AssignmentReminders});
+                       &s.AssignmentTypes, &s.AssignmentDifficulties, &s.AssignmentEstTimes, &s.AssignmentDescriptions,
+                       &s.AssignmentDones, &s.AssignmentGrades, &s.AssignmentWeights, &s.AssignmentReminders});
     },
     [](const Row& v, const RecordStore& s) -> std::optional<Row> {
         if (v[7] == kDeletedRecord || !isLiveClassOfActiveTerm(s, v[2])) return std::nullopt;
@@ -87,22 +87,25 @@ const RecordFileKind kAssignments{
     },
     [](RecordStore& s) -> Int16& { return s.NextAssignmentRecord; }};
 
-const RecordFileKind kNotes{
-    "Notes.txt", kNotesLayout,
-    [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
-        s.NoteRecord = {v[0], v[1], v[2]};
-        return files.SaveNote(number);
-    },
-    [](RecordFiles& files) { return files.LoadAssignments(); },
-    [](const RecordStore& s) { return rowsOf({&s.NoteRecordNos, &s.NoteLinkIDs}); },
-    [](const Row& v, const RecordStore&) -> std::optional<Row> {
-        if (int16OrZero(v[1]) <= 0) return std::nullopt;
-        return Row{v[0], v[1]};
-    },
-    [](RecordStore& s) -> Int16& { return s.NextNoteRecord; }};
+const RecordFileKind kNotes{"Notes.txt",
+                            kNotesLayout,
+                            [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
+                                s.NoteRecord = {v[0], v[1], v[2]};
+                                return files.SaveNote(number);
+                            },
+                            [](RecordFiles& files) { return files.LoadAssignments(); },
+                            [](const RecordStore& s) {
+                                return rowsOf({&s.NoteRecordNos, &s.NoteLinkIDs});
+                            },
+                            [](const Row& v, const RecordStore&) -> std::optional<Row> {
+                                if (int16OrZero(v[1]) <= 0) return std::nullopt;
+                                return Row{v[0], v[1]};
+                            },
+                            [](RecordStore& s) -> Int16& { return s.NextNoteRecord; }};
 
 const RecordFileKind kSessions{
-    "StudySessions.txt", kStudySessionsLayout,
+    "StudySessions.txt",
+    kStudySessionsLayout,
     [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
         s.EditStudySessionRecordNos = {v[0]};
         s.EditStudySessionLinkIDs = {v[1]};
@@ -112,8 +115,7 @@ const RecordFileKind kSessions{
     },
     [](RecordFiles& files) { return files.LoadAssignments(); },
     [](const RecordStore& s) {
-        return rowsOf({&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
-                       &s.StudySessionDates});
+        return rowsOf({&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths, &s.StudySessionDates});
     },
     [](const Row& v, const RecordStore& s) -> std::optional<Row> {
         if (v[1] == "0" || !isLoadedAssignment(s, v[1])) return std::nullopt;
@@ -122,21 +124,23 @@ const RecordFileKind kSessions{
     [](RecordStore& s) -> Int16& { return s.NextStudySessionRecord; }};
 
 const RecordFileKind kTasks{
-    "Tasks.txt", kTasksLayout,
+    "Tasks.txt",
+    kTasksLayout,
     [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
         s.TaskRecord = {v[0], v[1], v[4], v[2], v[3], v[5], v[6], v[7], v[8], v[9]};
         return files.SaveTask(number);
     },
     [](RecordFiles& files) { return files.LoadTasks(); },
     [](const RecordStore& s) {
-        return rowsOf({&s.TaskRecordNos, &s.TaskIDs, &s.TaskDescriptions, &s.TaskDateExists, &s.TaskDates,
-                       &s.TaskTypes, &s.TaskPriorities, &s.TaskDones, &s.TaskNotes, &s.TaskReminders});
+        return rowsOf({&s.TaskRecordNos, &s.TaskIDs, &s.TaskDescriptions, &s.TaskDateExists, &s.TaskDates, &s.TaskTypes,
+                       &s.TaskPriorities, &s.TaskDones, &s.TaskNotes, &s.TaskReminders});
     },
     [](const Row& v, const RecordStore&) { return rowUnlessDeleted(v, 2); },
     [](RecordStore& s) -> Int16& { return s.NextTaskRecord; }};
 
 const RecordFileKind kEvents{
-    "Events.txt", kEventsLayout,
+    "Events.txt",
+    kEventsLayout,
     [](RecordFiles& files, RecordStore& s, const Row& v, Int16 number) {
         s.EventRecord = {v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11], v[12], v[13], v[14]};
         return files.SaveEvent(number);
@@ -144,9 +148,8 @@ const RecordFileKind kEvents{
     [](RecordFiles& files) { return files.LoadEvents(); },
     [](const RecordStore& s) {
         return rowsOf({&s.EventRecordNos, &s.EventIDs, &s.EventDates, &s.EventDescriptions, &s.EventTypes,
-                       &s.EventTimes, &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers,
-                       &s.EventRepeatDays, &s.EventRepeatDailies, &s.EventEnds, &s.EventEndDates, &s.EventNotes,
-                       &s.EventReminders});
+                       &s.EventTimes, &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
+                       &s.EventRepeatDailies, &s.EventEnds, &s.EventEndDates, &s.EventNotes, &s.EventReminders});
     },
     [](const Row& v, const RecordStore&) { return rowUnlessDeleted(v, 3); },
     [](RecordStore& s) -> Int16& { return s.NextEventRecord; }};
@@ -170,8 +173,8 @@ public:
             values_["Assignments.txt"].push_back({n, n, links[i % 3], "2026/11/" + std::to_string(10 + i), "Quiz",
                                                   "Easy", "00 : 30", "Chapter " + n, "False", " ", "5", "1 Day"});
             values_["Notes.txt"].push_back({n, n, "Note " + n + " about the chapter, ümlauts and all."});
-            values_["Tasks.txt"].push_back({n, n, "Task " + n, "True", "2026/11/2" + n, "Home", "Low", "False",
-                                            "Some notes", "None"});
+            values_["Tasks.txt"].push_back(
+                {n, n, "Task " + n, "True", "2026/11/2" + n, "Home", "Low", "False", "Some notes", "None"});
             values_["Events.txt"].push_back({n, n, "2026/12/0" + n, "Event " + n, "School", "3:30 pm", "Month", "True",
                                              "First", "Day", "FFFFFFF", "True", "2027/06/0" + n, "", "1 Day"});
         }
@@ -233,7 +236,8 @@ public:
         RecordStore again = reload(kind);
         Rows rows = baselineRows_.at(kind.name);
         if (!append) {
-            const std::optional<Row> torn = kind.rowOf(parseRecord(kind.layout, expected.substr(at, record.size())), again);
+            const std::optional<Row> torn =
+                kind.rowOf(parseRecord(kind.layout, expected.substr(at, record.size())), again);
             const std::optional<Row> before = kind.rowOf(old[std::size_t(number - 1)], loaded_);
             // Every record of the drive makes one row, so record n is row n.
             ASSERT_TRUE(before.has_value());
@@ -346,7 +350,8 @@ private:
         const std::string n = std::to_string(number);
         const bool remove = dice() % 4 == 0;
         if (&kind == &kAssignments) {
-            if (values.empty()) values = {n, n, "2", "2026/12/01", "Test", "Hard", "02 : 00", "", "False", " ", "20", "3 Days"};
+            if (values.empty())
+                values = {n, n, "2", "2026/12/01", "Test", "Hard", "02 : 00", "", "False", " ", "20", "3 Days"};
             values[7] = remove ? kDeletedRecord : "Changed " + n;
             values[8] = "True";
         } else if (&kind == &kNotes) {
@@ -354,14 +359,18 @@ private:
             values[1] = remove ? "0" : values[1];
             values[2] = remove ? "" : "A longer note, written again: " + std::string(dice() % 900, 'x');
         } else if (&kind == &kSessions) {
-            if (values.empty()) values = {n, "3", "01 : 15", "2026/11/20"};
-            else if (remove) values[1] = "-1", values[2] = "";
+            if (values.empty())
+                values = {n, "3", "01 : 15", "2026/11/20"};
+            else if (remove)
+                values[1] = "-1", values[2] = "";
         } else if (&kind == &kTasks) {
             if (values.empty()) values = {n, n, "", "False", "2026/11/30", "School", "High", "False", "", "None"};
             values[2] = remove ? kDeletedRecord : "Changed task " + n;
             values[8] = std::string(dice() % 845, 'n');
         } else {
-            if (values.empty()) values = {n, n, "2026/12/24", "", "Holiday", "None", "Year", "True", "Fourth", "Day", "FFFFFFF", "False", "2031/12/24", "", "7 Days"};
+            if (values.empty())
+                values = {n,        n,     "2026/12/24", "",      "Holiday",    "None", "Year",  "True",
+                          "Fourth", "Day", "FFFFFFF",    "False", "2031/12/24", "",     "7 Days"};
             values[3] = remove ? kDeletedRecord : "Changed event " + n;
             values[13] = std::string(dice() % 795, 'e');
         }
@@ -384,7 +393,8 @@ private:
         RecordStore store;
         store.DataDirectory = loaded_.DataDirectory;
         store.CurrentTermID = kActiveTerm;
-        for (auto [to, from] : {std::pair{&store.ClassIDs, &loaded_.ClassIDs}, {&store.ClassTermLinks, &loaded_.ClassTermLinks},
+        for (auto [to, from] : {std::pair{&store.ClassIDs, &loaded_.ClassIDs},
+                                {&store.ClassTermLinks, &loaded_.ClassTermLinks},
                                 {&store.ClassNames, &loaded_.ClassNames}})
             *to = *from;
         RecordFiles files(store, d_.fake.platform);

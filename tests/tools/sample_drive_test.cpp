@@ -1,3 +1,5 @@
+#include "sample_drive.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -9,7 +11,6 @@
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "sample_content.h"
-#include "sample_drive.h"
 #include "shell/preferences.h"
 #include "support/fake_platform.h"
 
@@ -20,8 +21,8 @@ using sample::DriveSize;
 using sample::EventKind;
 
 const Date kToday = dateFromYmd(2026, 11, 21);
-const char* const kFiles[] = {"Terms.txt", "Classes.txt", "Assignments.txt", "Notes.txt", "StudySessions.txt",
-                              "Tasks.txt", "Events.txt",  "Preferences.ini"};
+const char* const kFiles[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
+                              "StudySessions.txt", "Tasks.txt",   "Events.txt",      "Preferences.ini"};
 
 // The kind of repetition an event's stored rule is, read back from its fields.
 EventKind kindOf(const RecordStore& s, int i) {
@@ -42,7 +43,11 @@ bool ruleFitsItsDate(const std::string& number, const std::string& day, Date fir
     const int last = daysInMonth(ymd.year, ymd.month);
     if (day == "Day") {
         if (number == "Last") return ymd.day == last;
-        const int wanted = number == "First" ? 1 : number == "Second" ? 2 : number == "Third" ? 3 : number == "Fourth" ? 4 : 0;
+        const int wanted = number == "First"    ? 1
+                           : number == "Second" ? 2
+                           : number == "Third"  ? 3
+                           : number == "Fourth" ? 4
+                                                : 0;
         return ymd.day == wanted;
     }
     if (day != kDays[weekdayOf(first) - 1]) return false;

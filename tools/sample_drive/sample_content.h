@@ -57,10 +57,10 @@ struct SessionPlan {
 };
 
 struct AssignmentPlan {
-    AssignmentBuffer record;          // RecordNo and ID are set when it is written
-    std::string note;                 // empty: no note
+    AssignmentBuffer record;            // RecordNo and ID are set when it is written
+    std::string note;                   // empty: no note
     std::vector<SessionPlan> sessions;  // newest first, as the editor lists them
-    bool deletedLater = false;        // deleted by the student after it was made
+    bool deletedLater = false;          // deleted by the student after it was made
 };
 
 struct TaskPlan {

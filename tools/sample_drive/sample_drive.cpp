@@ -1,5 +1,6 @@
 #include "sample_drive.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 
@@ -15,8 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const char* const kPlannerFiles[] = {"Terms.txt", "Classes.txt",  "Assignments.txt", "Notes.txt",
-                                     "StudySessions.txt", "Tasks.txt", "Events.txt",   "Preferences.ini"};
+const char* const kPlannerFiles[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
+                                     "StudySessions.txt", "Tasks.txt",   "Events.txt",      "Preferences.ini"};
 
 // A platform with nobody at the screen: the real file layer (without a sync per record)
 // and quiet stand-ins for the rest. A message box means a save failed.
@@ -181,16 +182,16 @@ void prepareFolders(const std::string& drive) {
     const fs::path data = fs::path(drive) / "Documents" / "Quillhollow" / "Data";
     for (const char* name : kPlannerFiles)
         if (fs::exists(data / name))
-            throw std::runtime_error("sample drive: " + drive + " already holds planner data (" + (data / name).string() +
-                                     "); choose an empty folder");
+            throw std::runtime_error("sample drive: " + drive + " already holds planner data (" +
+                                     (data / name).string() + "); choose an empty folder");
     fs::create_directories(fs::path(drive) / "exec");
     fs::create_directories(fs::path(drive) / "Documents");
 }
 
 DriveSummary summarize(const DrivePlan& plan, const RecordStore& store) {
     DriveSummary summary;
-    summary.records = {store.NextTermRecord - 1,  store.NextClassRecord - 1,        store.NextAssignmentRecord - 1,
-                       store.NextNoteRecord - 1,  store.NextStudySessionRecord - 1, store.NextTaskRecord - 1,
+    summary.records = {store.NextTermRecord - 1, store.NextClassRecord - 1,        store.NextAssignmentRecord - 1,
+                       store.NextNoteRecord - 1, store.NextStudySessionRecord - 1, store.NextTaskRecord - 1,
                        store.NextEventRecord - 1};
     const TermPlan& active = plan.terms.back();
     summary.activeTerm = active.name;
@@ -219,7 +220,8 @@ DriveSummary summarize(const DrivePlan& plan, const RecordStore& store) {
 DriveSummary MakeSampleDrive(const std::string& drive, DriveSize size, Date today, std::uint32_t seed) {
     prepareFolders(drive);
     Dice dice(seed);
-    const DrivePlan plan = size == DriveSize::Realistic ? RealisticPlan(today, dice) : MaximalPlan(today, dice, kMaximalRecords);
+    const DrivePlan plan =
+        size == DriveSize::Realistic ? RealisticPlan(today, dice) : MaximalPlan(today, dice, kMaximalRecords);
 
     QuietPlatform quiet;
     const std::string root = fs::absolute(drive).lexically_normal().string();

@@ -38,19 +38,18 @@ struct RecordCounts {
 // What the drive holds, as the planner will find it at start.
 struct DriveSummary {
     RecordCounts records;
-    std::string activeTerm;          // the newest term, named in Preferences.ini
-    int activeTermClasses = 0;       // live classes of the active term
-    int activeTermAssignments = 0;   // live assignments of its live classes
-    int activeTermSessions = 0;      // live sessions of those assignments
-    int liveNotes = 0;               // notes with a link above 0, all terms
+    std::string activeTerm;         // the newest term, named in Preferences.ini
+    int activeTermClasses = 0;      // live classes of the active term
+    int activeTermAssignments = 0;  // live assignments of its live classes
+    int activeTermSessions = 0;     // live sessions of those assignments
+    int liveNotes = 0;              // notes with a link above 0, all terms
     int liveTasks = 0, liveEvents = 0;
-    int eventsOfKind[8] = {};        // live events by EventKind (sample_content.h)
+    int eventsOfKind[8] = {};  // live events by EventKind (sample_content.h)
 };
 
 // Makes the drive in the folder `drive` (made when missing). Throws std::runtime_error
 // when the folder already holds planner data, or when a save fails (with the message the
 // planner showed).
-DriveSummary MakeSampleDrive(const std::string& drive, DriveSize size, Date today,
-                             std::uint32_t seed = kDefaultSeed);
+DriveSummary MakeSampleDrive(const std::string& drive, DriveSize size, Date today, std::uint32_t seed = kDefaultSeed);
 
 }  // namespace qh::sample
