@@ -29,9 +29,7 @@ public:
         on("RadioA(0)", FormEvent::Click, [this](const EventArgs&) { log += "radio;"; });
         on("Timer1", FormEvent::Timer, [this](const EventArgs&) { log += "tick;"; });
     }
-    bool Form_QueryUnload() override { return allowClose; }
     std::string log;
-    bool allowClose = false;
 };
 
 TEST(FormKit, DrivesControlsByNameAsAUserWould) {
@@ -74,14 +72,6 @@ TEST(FormKit, ModalShowLastsUntilTheModelHidesTheWindow) {
     EXPECT_TRUE(sawVisible);
     EXPECT_FALSE(window.visible);
     EXPECT_EQ(window.log, "ok;");
-}
-
-TEST(FormKit, AModelMayRefuseACloseByTheCloseBox) {
-    FakePlatform fake;
-    SampleWindow window(fake.canvases);
-    EXPECT_FALSE(window.Form_QueryUnload());
-    window.allowClose = true;
-    EXPECT_TRUE(window.Form_QueryUnload());
 }
 
 TEST(FormKit, DrawablePictureBoxesOwnACanvasThatFollowsTheirSize) {
