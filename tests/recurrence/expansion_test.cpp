@@ -35,24 +35,6 @@ TEST(EventRangeEnd, BothEndsCountSoAWeekIsEightDates) {
     EXPECT_EQ(EventRangeEnd(ymd(2026, 3, 3), "Decade"), ymd(2027, 3, 2));
 }
 
-TEST(ExpandEvents, OneOffEventsAtTheRangeEnds) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/11/21"});  // the day before a Sunday start
-    addEvent(store, {.date = "2026/11/22"});
-    addEvent(store, {.date = "2026/11/29"});  // the Sunday a week on
-    addEvent(store, {.date = "2026/11/30"});
-    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2026, 11, 22), "Week", "All")), (Texts{"2026/11/22", "2026/11/29"}));
-
-    RecordStore year;
-    addEvent(year, {.date = "2027/03/02"});
-    addEvent(year, {.date = "2027/03/03"});
-    addEvent(year, {.date = "2026/03/03"});
-    const EventRows rows = ExpandEvents(year, ymd(2026, 3, 3), "Year", "All");
-    EXPECT_EQ(rowDates(rows), (Texts{"2027/03/02", "2026/03/03"}));
-    EXPECT_EQ(rows.ListEventRows, (Column<Int16>{1, 3}));
-    EXPECT_EQ(rows.EventTotal, 2);
-}
-
 TEST(ExpandEvents, WeeklyRowsComeWeekdayByWeekday) {
     RecordStore store;
     // Monday and Wednesday ticked, first on Tuesday 17 November 2026.

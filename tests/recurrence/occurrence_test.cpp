@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "common/failure.h"
 #include "recurrence/event_records.h"
@@ -126,25 +125,6 @@ INSTANTIATE_TEST_SUITE_P(
         OccurrenceCase{"OneOffOnItsDate", kOneOff, ymd(2026, 5, 5), true},
         OccurrenceCase{"OneOffNextDay", kOneOff, ymd(2026, 5, 6), false}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(EventOccursOn, NothingBeforeTheFirstDateWhateverTheRule) {
-    RecordStore store;
-    const std::vector<EventFields> rules = {
-        {.date = "2026/06/01", .recurrence = "Day", .repeatDaily = "TTTTTTT"},
-        {.date = "2026/06/01", .recurrence = "Month"},
-        {.date = "2026/06/01", .recurrence = "Year"},
-        {.date = "2026/06/01", .recurrence = "Month", .sameDate = "False", .repeatNumber = "First"},
-        {.date = "2026/06/01", .recurrence = "Month", .sameDate = "False", .repeatNumber = "First",
-         .repeatDay = "Monday"},
-        {.date = "2026/06/30", .recurrence = "Year", .sameDate = "False", .repeatNumber = "Last"},
-    };
-    for (const EventFields& rule : rules) {
-        const int row = addEvent(store, rule);
-        const Date first = dateFromText(rule.date);
-        EXPECT_TRUE(EventOccursOn(store, first, Int16(row))) << row;
-        for (Date d = first - 800; d < first; ++d) ASSERT_FALSE(EventOccursOn(store, d, Int16(row))) << row << " " << d;
-    }
-}
 
 TEST(EventOccursOn, UnreadableDatesFailOnlyWhenTheyAreRead) {
     RecordStore store;
