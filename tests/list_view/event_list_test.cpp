@@ -12,12 +12,6 @@ using namespace qh::testing;
 using test::addEvent;
 using test::EventFields;
 
-// The values of a row column, whatever width of integer it keeps them in.
-template <class T>
-std::vector<int> asInts(const Column<T>& column) {
-    return {column.begin(), column.end()};
-}
-
 const Date kDay = dateFromYmd(2026, 11, 21);  // a Saturday; the fake clock's today
 
 // Weekday letters run Monday to Sunday.

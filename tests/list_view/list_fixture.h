@@ -86,6 +86,12 @@ inline int addTask(RecordStore& s, TaskFields f) {
     return row;
 }
 
+// The values of a row column, whatever width of integer it keeps them in.
+template <class T>
+std::vector<int> asInts(const Column<T>& column) {
+    return {column.begin(), column.end()};
+}
+
 // A main window, not loaded, with its colours built and one mode ticked; the grid laid
 // out for that mode.
 class ListWindow {

@@ -10,12 +10,6 @@ namespace {
 
 using namespace qh::testing;
 
-// The values of a row column, whatever width of integer it keeps them in.
-template <class T>
-std::vector<int> asInts(const Column<T>& column) {
-    return {column.begin(), column.end()};
-}
-
 TEST(DateWord, NamesTheNearDaysAndCountsTheOthers) {
     const std::pair<int, const char*> words[] = {
         {30, "30 Days"},   {2, "2 Days"},      {1, "Tomorrow"},        {0, "Today"},
