@@ -1,10 +1,11 @@
 #include "recurrence/type_colors.h"
 
 namespace qh {
+namespace {
 
-const char* EventTypeBackColor(std::string_view type) {
-    if (type == "Birthday") return "Gold";
-    if (type == "Holiday") return "LightPink";
+// Tasks and events share the colours of their common types; only the first two types of
+// each list differ.
+const char* commonTypeBackColor(std::string_view type) {
     if (type == "Class") return "LightYellow";
     if (type == "School") return "NavajoWhite";
     if (type == "Home") return "MistyRose";
@@ -16,18 +17,18 @@ const char* EventTypeBackColor(std::string_view type) {
     return "White";
 }
 
+}  // namespace
+
+const char* EventTypeBackColor(std::string_view type) {
+    if (type == "Birthday") return "Gold";
+    if (type == "Holiday") return "LightPink";
+    return commonTypeBackColor(type);
+}
+
 const char* TaskTypeBackColor(std::string_view type) {
     if (type == "Project") return "Gold";
     if (type == "Idea") return "LightPink";
-    if (type == "Class") return "LightYellow";
-    if (type == "School") return "NavajoWhite";
-    if (type == "Home") return "MistyRose";
-    if (type == "Personal") return "Lavender";
-    if (type == "Friends") return "PaleGoldenrod";
-    if (type == "Family") return "Honeydew";
-    if (type == "Recreation") return "PaleGreen";
-    if (type == "Work") return "PaleTurquoise";
-    return "White";
+    return commonTypeBackColor(type);
 }
 
 }  // namespace qh
