@@ -113,6 +113,8 @@ void MainWindow::bindHandlers() {
     for (int i = 0; i < 9; ++i) onClick("picColHeader(" + std::to_string(i) + ")", [this, i] { headerClicked(i); });
     on("VSGridScroll", FormEvent::Change, [this](const EventArgs&) { RefillGrid(); });
     on("VSGridScroll", FormEvent::Scroll, [this](const EventArgs&) { RefillGrid(); });
+    // The keyboard belongs to the grid: the scroll bar hands on the focus it gets.
+    on("VSGridScroll", FormEvent::GotFocus, [this](const EventArgs&) { focusedControl = "picGrid"; });
 
     onClick("ButtonNewAssignment", [this] { NewAssignment(); });
     onClick("MenuNewAssignment", [this] { NewAssignment(); });

@@ -85,6 +85,14 @@ TEST(TintViewPanel, FollowsTheListChoice) {
     EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xD7EBFAu);
 }
 
+TEST(GridScroll, HandsTheFocusItGetsToTheGrid) {
+    LoadedMainWindow main;
+    MainWindow& window = main.load();
+    window.focusedControl = "VSGridScroll";
+    window.fire("VSGridScroll", FormEvent::GotFocus);
+    EXPECT_EQ(window.focusedControl, "picGrid");
+}
+
 TEST(MainWindowResize, AMinimisedWindowRaisesNoRefresh) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
