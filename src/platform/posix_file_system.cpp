@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -64,25 +65,20 @@ public:
     PosixRecordFile(int fd, int recordLength, std::string path)
         : fd_(fd), length_(recordLength), path_(std::move(path)) {}
 
+    // Loads read every record in turn, so records come from a read-ahead window of whole
+    // records rather than one system call each; a write drops the window.
     bool read(std::int32_t recordNumber, std::string& bytes) override {
         if (recordNumber < 1) throw FileFailure("Bad record number");
-        bytes.resize(std::size_t(length_));
         const off_t offset = off_t(recordNumber - 1) * length_;
-        std::size_t got = 0;
-        while (got < bytes.size()) {
-            const ssize_t n = ::pread(fd_.get(), bytes.data() + got, bytes.size() - got, offset + off_t(got));
-            if (n < 0) {
-                if (errno == EINTR) continue;
-                fail("Cannot read", path_);
-            }
-            if (n == 0) return false;
-            got += std::size_t(n);
-        }
+        if (offset < windowStart_ || offset + length_ > windowStart_ + off_t(window_.size())) fillWindow(offset);
+        if (offset + length_ > windowStart_ + off_t(window_.size())) return false;
+        bytes.assign(window_, std::size_t(offset - windowStart_), std::size_t(length_));
         return true;
     }
 
     void write(std::int32_t recordNumber, const std::string& bytes) override {
         if (recordNumber < 1 || int(bytes.size()) != length_) throw FileFailure("Bad record for " + path_);
+        window_.clear();
         const off_t offset = off_t(recordNumber - 1) * length_;
         std::size_t done = 0;
         while (done < bytes.size()) {
@@ -103,9 +99,31 @@ public:
     }
 
 private:
+    // Reads whole records from `offset` into the window, as many as fit in about 256 KiB;
+    // fewer bytes than a record at the end of the file leave the window short of it.
+    void fillWindow(off_t offset) {
+        const std::size_t records = std::max<std::size_t>(1, (256 * 1024) / std::size_t(length_));
+        window_.resize(records * std::size_t(length_));
+        windowStart_ = offset;
+        std::size_t got = 0;
+        while (got < window_.size()) {
+            const ssize_t n = ::pread(fd_.get(), window_.data() + got, window_.size() - got, offset + off_t(got));
+            if (n < 0) {
+                if (errno == EINTR) continue;
+                window_.clear();
+                fail("Cannot read", path_);
+            }
+            if (n == 0) break;
+            got += std::size_t(n);
+        }
+        window_.resize(got);
+    }
+
     Descriptor fd_;
     int length_;
     std::string path_;
+    std::string window_;
+    off_t windowStart_ = 0;
 };
 
 }  // namespace
