@@ -52,15 +52,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (record[7] == "DELETED RECORD") continue;
         for (int n = classRowsOf(int16OrZero(record[2])); n > 0; --n) taken.push_back(record);
     }
-    TextColumn const* const columns[] = {&s.AssignmentRecordNos, &s.AssignmentIDs,          &s.AssignmentClassLinks,
-                                         &s.AssignmentDates,     &s.AssignmentTypes,        &s.AssignmentDifficulties,
-                                         &s.AssignmentEstTimes,  &s.AssignmentDescriptions, &s.AssignmentDones,
-                                         &s.AssignmentGrades,    &s.AssignmentWeights,      &s.AssignmentReminders};
-    for (std::size_t c = 0; c < 12; ++c) {
-        require(columns[c]->count() == int(taken.size()), "a row for each record taken");
-        for (std::size_t i = 0; i < taken.size(); ++i)
-            require((*columns[c])(int(i) + 1) == taken[i][c], "a row holds its record's values");
-    }
+    requireRows({&s.AssignmentRecordNos, &s.AssignmentIDs, &s.AssignmentClassLinks, &s.AssignmentDates,
+                 &s.AssignmentTypes, &s.AssignmentDifficulties, &s.AssignmentEstTimes, &s.AssignmentDescriptions,
+                 &s.AssignmentDones, &s.AssignmentGrades, &s.AssignmentWeights, &s.AssignmentReminders},
+                taken, "a row for each record taken");
 
     int expectedSessions = 0;
     for (const auto& v : kSessions) {

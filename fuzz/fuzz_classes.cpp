@@ -16,13 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(drive.records.LoadTermsAndClasses() && drive.machine.shown.empty(), "Classes.txt of any bytes loads");
     const RecordStore& s = drive.store;
     require(s.NextClassRecord == int(records.size()) + 1, "the counter ends one past the whole records");
-    TextColumn const* const columns[] = {&s.ClassIDs,        &s.ClassTermLinks,  &s.ClassNames,
-                                         &s.ClassForeColors, &s.ClassBackColors, &s.ClassNotes};
-    for (std::size_t c = 0; c < 6; ++c) {
-        require(columns[c]->count() == int(records.size()), "one row for each whole record");
-        for (std::size_t i = 0; i < records.size(); ++i)
-            require((*columns[c])(int(i) + 1) == records[i][c], "a row holds its record's values");
-    }
+    requireRows({&s.ClassIDs, &s.ClassTermLinks, &s.ClassNames, &s.ClassForeColors, &s.ClassBackColors, &s.ClassNotes},
+                records, "one row for each whole record");
 
     require(drive.records.SaveTermsAndClasses(), "classes of any text are written back");
     MemoryDrive again;

@@ -19,15 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::vector<std::string>> live;
     for (const auto& record : records)
         if (record[3] != "DELETED RECORD") live.push_back(record);
-    TextColumn const* const columns[] = {
-        &s.EventRecordNos,     &s.EventIDs,         &s.EventDates,     &s.EventDescriptions,  &s.EventTypes,
-        &s.EventTimes,         &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
-        &s.EventRepeatDailies, &s.EventEnds,        &s.EventEndDates,  &s.EventNotes,         &s.EventReminders};
-    for (std::size_t c = 0; c < 15; ++c) {
-        require(columns[c]->count() == int(live.size()), "a row for each live record");
-        for (std::size_t i = 0; i < live.size(); ++i)
-            require((*columns[c])(int(i) + 1) == live[i][c], "a row holds its record's values");
-    }
+    requireRows({&s.EventRecordNos, &s.EventIDs, &s.EventDates, &s.EventDescriptions, &s.EventTypes, &s.EventTimes,
+                 &s.EventRecurrences, &s.EventSameDates, &s.EventRepeatNumbers, &s.EventRepeatDays,
+                 &s.EventRepeatDailies, &s.EventEnds, &s.EventEndDates, &s.EventNotes, &s.EventReminders},
+                live, "a row for each live record");
 
     // The last whole record written back over itself from its row's values.
     if (records.empty()) return 0;
@@ -41,11 +36,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(saved == datesRead, "a record is written exactly when its dates read as dates");
     require(drive.store.NextEventRecord == (saved ? last + 1 : last),
             "an overwrite puts the counter back, a failed one leaves it on the record");
-    const std::string after = drive.bytesOf("Events.txt");
-    const std::size_t length = std::size_t(kEventsLayout.length), at = (records.size() - 1) * length;
-    require(after.size() == bytes.size() && after.compare(0, at, bytes, 0, at) == 0 &&
-                after.compare(at + length, std::string::npos, bytes, at + length, std::string::npos) == 0,
-            "an overwrite changes its own record alone");
-    if (saved) require(after.compare(at, length, recordOf(kEventsLayout, v)) == 0, "the record holds what was written");
+    requireOverwriteAlone(kEventsLayout, bytes, drive.bytesOf("Events.txt"), records.size() - 1, saved, v);
     return 0;
 }

@@ -34,12 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const char* id : {"1", "2", "3", "2"})
             if (int16OrZero(id) == link) taken.push_back(record);
     }
-    TextColumn const* const columns[] = {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
-                                         &s.StudySessionDates};
-    for (std::size_t c = 0; c < 4; ++c) {
-        require(columns[c]->count() == int(taken.size()), "a row for each session taken");
-        for (std::size_t i = 0; i < taken.size(); ++i)
-            require((*columns[c])(int(i) + 1) == taken[i][c], "a row holds its record's values");
-    }
+    requireRows({&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths, &s.StudySessionDates}, taken,
+                "a row for each session taken");
     return 0;
 }

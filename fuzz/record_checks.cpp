@@ -64,4 +64,24 @@ std::string recordOf(const RecordLayout& layout, std::vector<std::string> values
     return buildRecord(layout, values);
 }
 
+void requireRows(std::initializer_list<const TextColumn*> columns,
+                 const std::vector<std::vector<std::string>>& expected, const char* rowsWhat) {
+    std::size_t c = 0;
+    for (const TextColumn* column : columns) {
+        require(column->count() == int(expected.size()), rowsWhat);
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            require((*column)(int(i) + 1) == expected[i][c], "a row holds its record's values");
+        ++c;
+    }
+}
+
+void requireOverwriteAlone(const RecordLayout& layout, const std::string& before, const std::string& after,
+                           std::size_t index, bool saved, const std::vector<std::string>& values) {
+    const std::size_t length = std::size_t(layout.length), at = index * length;
+    require(after.size() == before.size() && after.compare(0, at, before, 0, at) == 0 &&
+                after.compare(at + length, std::string::npos, before, at + length, std::string::npos) == 0,
+            "an overwrite changes its own record alone");
+    if (saved) require(after.compare(at, length, recordOf(layout, values)) == 0, "the record holds what was written");
+}
+
 }  // namespace qh::fuzz

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/column.h"
 #include "record_store/record_layout.h"
 
 namespace qh::fuzz {
@@ -21,5 +22,16 @@ std::vector<std::vector<std::string>> checkRecords(const RecordLayout& layout, s
 // The record bytes of `values` (as buildRecord takes them), for the fixed companion files
 // of a fuzzed one.
 std::string recordOf(const RecordLayout& layout, std::vector<std::string> values);
+
+// Each column holds one row for each expected record, in order, with that record's value
+// of the column's field; `rowsWhat` names the failure of the count.
+void requireRows(std::initializer_list<const TextColumn*> columns,
+                 const std::vector<std::vector<std::string>>& expected, const char* rowsWhat);
+
+// After record `index` (0-based) of a file was written over in place: the file keeps its
+// size and every byte of the other records, and, when the save went through, holds the
+// record of `values` there.
+void requireOverwriteAlone(const RecordLayout& layout, const std::string& before, const std::string& after,
+                           std::size_t index, bool saved, const std::vector<std::string>& values);
 
 }  // namespace qh::fuzz
