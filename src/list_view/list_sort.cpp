@@ -1,9 +1,9 @@
 #include "list_view/list_sort.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <numeric>
 #include <string_view>
-#include <unordered_map>
 
 #include "list_view/time_text.h"
 #include "platform/locale.h"
@@ -70,41 +70,89 @@ SortKeys numberKeys(SortRule rule, int n, auto&& numberOf) {
     return keys;
 }
 
-// The rank of each text among the distinct texts, by the rule; texts that compare equal
-// ("Lab" and "lab") share a rank. Texts are compared once per pair of distinct values
-// rather than once per pair of rows: lists repeat their class names, types and flags many
-// times, and the platform's comparison is the costly part. Keeps the ranks in `ranks`.
-std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, bool binary, const Locale& locale,
-                                 TextRanks* ranks) {
-    const std::size_t n = texts.size();
-    std::unordered_map<std::string_view, int> idOf;
-    std::vector<const std::string*> distinct;
-    std::vector<int> ids(n);
-    idOf.reserve(n);
-    for (std::size_t i = 0; i < n; ++i) {
-        const auto [it, added] = idOf.try_emplace(*texts[i], int(distinct.size()));
-        if (added) distinct.push_back(texts[i]);
-        ids[i] = it->second;
+// The order of byte strings, comparing whole strings only where their first eight bytes
+// after the prefix they all share are the same: the keys of a list's texts often share a
+// long beginning ("assignment description number ...").
+std::vector<int> orderOfKeys(const std::vector<std::string_view>& keys) {
+    std::size_t shared = keys.empty() ? 0 : keys[0].size();
+    for (const std::string_view key : keys) {
+        const auto end = std::min(shared, key.size());
+        shared = std::size_t(std::mismatch(key.begin(), key.begin() + long(end), keys[0].begin()).first - key.begin());
     }
-    const auto less = [&](int a, int b) {
-        const std::string& x = *distinct[std::size_t(a)];
-        const std::string& y = *distinct[std::size_t(b)];
-        return binary ? x < y : locale.compareText(x, y) < 0;
+    struct Entry {
+        std::uint64_t head;  // the eight bytes after the shared prefix, big-endian, zero-filled
+        int id;
     };
-    std::vector<int> byKey(distinct.size());
-    std::iota(byKey.begin(), byKey.end(), 0);
-    // A merge sort: the fewest calls of the comparison.
-    std::stable_sort(byKey.begin(), byKey.end(), less);
-    std::vector<long long> rank(distinct.size());
-    for (std::size_t j = 1; j < byKey.size(); ++j)
-        rank[std::size_t(byKey[j])] = rank[std::size_t(byKey[j - 1])] + (less(byKey[j - 1], byKey[j]) ? 1 : 0);
-    if (ranks) {
-        ranks->locale = &locale;
-        ranks->binary = binary;
-        ranks->rank.clear();
-        ranks->rank.reserve(distinct.size());
-        for (std::size_t j = 0; j < distinct.size(); ++j) ranks->rank.emplace(*distinct[j], rank[j]);
+    std::vector<Entry> entries(keys.size());
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        std::uint64_t head = 0;
+        for (std::size_t b = 0; b < 8; ++b) {
+            const std::size_t at = shared + b;
+            head = head << 8 | (at < keys[i].size() ? static_cast<unsigned char>(keys[i][at]) : 0u);
+        }
+        entries[i] = {head, int(i)};
     }
+    // A zero-filled head never orders before a shorter string's head, so heads order as the
+    // strings do, and equal heads leave it to the strings.
+    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
+        if (a.head != b.head) return a.head < b.head;
+        return keys[std::size_t(a.id)].substr(shared) < keys[std::size_t(b.id)].substr(shared);
+    });
+    std::vector<int> order(keys.size());
+    for (std::size_t i = 0; i < keys.size(); ++i) order[i] = entries[i].id;
+    return order;
+}
+
+// The rank of each text among the distinct texts, by the rule; texts whose keys are equal
+// ("Lab" and "lab") share a rank. Keys are made once per distinct text rather than once
+// per row: lists repeat their class names, types and flags many times. Keeps the texts
+// and their ranks in `ranks`.
+std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, bool binary, const Locale& locale,
+                                 TextRanks& ranks) {
+    const std::size_t n = texts.size();
+    std::size_t bytes = 0;
+    for (const std::string* text : texts) bytes += text->size();
+    ranks.locale = &locale;
+    ranks.binary = binary;
+    ranks.rank.reset(n, bytes);
+
+    // Each distinct text once, with the distinct number of each row.
+    std::vector<std::string_view> distinct;
+    std::vector<long long*> rankOf;
+    std::vector<int> ids(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto [entry, added] = ranks.rank.insert(*texts[i], static_cast<long long>(distinct.size()));
+        if (added) {
+            distinct.push_back(*texts[i]);
+            rankOf.push_back(entry);
+        }
+        ids[i] = int(*entry);
+    }
+
+    std::vector<std::string_view> keys;
+    std::string keyBytes;
+    if (binary) {
+        keys = distinct;
+    } else {
+        std::vector<std::size_t> ends;
+        ends.reserve(distinct.size());
+        for (const std::string_view text : distinct) {
+            locale.appendSortKey(text, keyBytes);
+            ends.push_back(keyBytes.size());
+        }
+        std::size_t start = 0;
+        for (const std::size_t end : ends) {
+            keys.emplace_back(keyBytes.data() + start, end - start);
+            start = end;
+        }
+    }
+    const std::vector<int> byKey = orderOfKeys(keys);
+    std::vector<long long> rank(distinct.size());
+    for (std::size_t j = 1; j < byKey.size(); ++j) {
+        const auto previous = std::size_t(byKey[j - 1]), current = std::size_t(byKey[j]);
+        rank[current] = rank[previous] + (keys[previous] == keys[current] ? 0 : 1);
+    }
+    for (std::size_t j = 0; j < distinct.size(); ++j) *rankOf[j] = rank[j];
     std::vector<long long> numbers(n);
     for (std::size_t i = 0; i < n; ++i) numbers[i] = rank[std::size_t(ids[i])];
     return numbers;
@@ -126,13 +174,16 @@ std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& 
         numbers.resize(n);
         bool known = ranks && ranks->locale == &locale && ranks->binary == binary;
         for (std::size_t i = 0; known && i < n; ++i) {
-            const auto found = ranks->rank.find(std::string_view(*keys.texts[i]));
-            if (found == ranks->rank.end())
-                known = false;
+            const long long* found = ranks->rank.find(*keys.texts[i]);
+            if (found)
+                numbers[i] = *found;
             else
-                numbers[i] = found->second;
+                known = false;
         }
-        if (!known) numbers = rankTexts(keys.texts, binary, locale, ranks);
+        if (!known) {
+            TextRanks fresh;
+            numbers = rankTexts(keys.texts, binary, locale, ranks ? *ranks : fresh);
+        }
     } else {
         numbers = keys.numbers;
     }

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <string_view>
 
 #include "common/day_number.h"
 
@@ -19,8 +20,19 @@ public:
     virtual std::string monthName(int month) const = 0;
     // weekday 1 = Sunday .. 7 = Saturday, the full name.
     virtual std::string dayName(int weekday) const = 0;
-    // Text comparison without regard to case, by the host's collation: <0, 0 or >0.
-    virtual int compareText(const std::string& a, const std::string& b) const = 0;
+    // Appends the text's collation key to `key`. Keys compare byte by byte as their texts do
+    // by the host's collation without regard to case; texts that compare equal ("Lab" and
+    // "lab") have equal keys. A list sorts thousands of texts by keys made once each.
+    virtual void appendSortKey(std::string_view text, std::string& key) const = 0;
+
+    // <0, 0 or >0: the texts by their keys.
+    int compareText(std::string_view a, std::string_view b) const {
+        std::string keyA, keyB;
+        appendSortKey(a, keyA);
+        appendSortKey(b, keyB);
+        const int order = keyA.compare(keyB);
+        return order < 0 ? -1 : order > 0 ? 1 : 0;
+    }
 };
 
 }  // namespace qh

@@ -38,13 +38,19 @@ TEST(QtLocale, NamedFormatsFollowTheHostLocale) {
     EXPECT_EQ(german.shortDate(date), "21.11.2026");
 }
 
-TEST(QtLocale, ComparisonIgnoresCase) {
+TEST(QtLocale, CollationIgnoresCaseButNotAccents) {
     testApplication();
     const QtLocale us(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(us.compareText("Algebra", "ALGEBRA"), 0);
     EXPECT_LT(us.compareText("algebra", "Biology"), 0);
     EXPECT_GT(us.compareText("Chemistry", "biology"), 0);
     EXPECT_LT(us.compareText("", "a"), 0);
+    // Letters before accents: an accent decides only between otherwise equal texts.
+    EXPECT_LT(us.compareText("Äpfel", "Birne"), 0);
+    EXPECT_LT(us.compareText("resume", "Résumé"), 0);
+    EXPECT_LT(us.compareText("Résumé", "resumes"), 0);
+    // Malformed bytes still get a key, after the letters.
+    EXPECT_GT(us.compareText("\xff\xfe", "zzz"), 0);
 }
 
 TEST(QtProcesses, OneCopyAtATimeAndACrashedRunDoesNotCount) {

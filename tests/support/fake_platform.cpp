@@ -110,14 +110,11 @@ std::string FakeLocale::mediumTime(int secondsOfDay) const {
 std::string FakeLocale::monthName(int month) const { return kMonths[month - 1]; }
 std::string FakeLocale::dayName(int weekday) const { return kDays[weekday - 1]; }
 
-int FakeLocale::compareText(const std::string& a, const std::string& b) const {
-    const std::size_t n = std::min(a.size(), b.size());
-    for (std::size_t i = 0; i < n; ++i) {
-        const int ca = std::tolower(static_cast<unsigned char>(a[i]));
-        const int cb = std::tolower(static_cast<unsigned char>(b[i]));
-        if (ca != cb) return ca < cb ? -1 : 1;
-    }
-    return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
+void FakeLocale::appendSortKey(std::string_view text, std::string& key) const {
+    const std::size_t start = key.size();
+    key.append(text);
+    for (std::size_t i = start; i < key.size(); ++i)
+        if (key[i] >= 'A' && key[i] <= 'Z') key[i] = char(key[i] - 'A' + 'a');
 }
 
 MessageAnswer FakeMessageBoxes::show(const std::string& text, const std::string& title, MessageButtons buttons,

@@ -36,7 +36,7 @@ public:
     std::string mediumTime(int secondsOfDay) const override;  // "09:05 PM"
     std::string monthName(int month) const override;
     std::string dayName(int weekday) const override;
-    int compareText(const std::string& a, const std::string& b) const override;
+    void appendSortKey(std::string_view text, std::string& key) const override;  // the text in lower case
 };
 
 struct ShownMessage {

@@ -55,8 +55,9 @@ Moment QtClock::now() const {
     return {dateFromYmd(date.year(), date.month(), date.day()), now.time().msecsSinceStartOfDay() / 1000};
 }
 
-QtLocale::QtLocale() : locale_(std::make_unique<QLocale>(QLocale::system())) {}
-QtLocale::QtLocale(const QLocale& locale) : locale_(std::make_unique<QLocale>(locale)) {}
+QtLocale::QtLocale() : QtLocale(QLocale::system()) {}
+QtLocale::QtLocale(const QLocale& locale)
+    : locale_(std::make_unique<QLocale>(locale)), collation_(str(locale.name())) {}
 
 std::string QtLocale::longDate(Date date) const { return str(locale_->toString(qtDate(date), QLocale::LongFormat)); }
 
@@ -84,10 +85,7 @@ std::string QtLocale::dayName(int weekday) const {
     return str(locale_->dayName(qtDay, QLocale::LongFormat));
 }
 
-int QtLocale::compareText(const std::string& a, const std::string& b) const {
-    const int order = QString::localeAwareCompare(qs(a).toCaseFolded(), qs(b).toCaseFolded());
-    return order < 0 ? -1 : order > 0 ? 1 : 0;
-}
+void QtLocale::appendSortKey(std::string_view text, std::string& key) const { collation_.appendSortKey(text, key); }
 
 MessageAnswer QtMessageBoxes::show(const std::string& text, const std::string& title, MessageButtons buttons,
                                    MessageIcon icon) {

@@ -8,9 +8,8 @@
 #include "platform/platform.h"
 #include "platform/posix_file_system.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/host_collation.h"
 #include "platform/qt/qt_canvas.h"
-
-
 
 namespace qh {
 
@@ -35,10 +34,11 @@ public:
     std::string mediumTime(int secondsOfDay) const override;  // "hh:mm AP": "09:05 PM"
     std::string monthName(int month) const override;
     std::string dayName(int weekday) const override;
-    int compareText(const std::string& a, const std::string& b) const override;
+    void appendSortKey(std::string_view text, std::string& key) const override;
 
 private:
     std::unique_ptr<QLocale> locale_;
+    HostCollation collation_;
 };
 
 class QtMessageBoxes : public MessageBoxes {
