@@ -1,6 +1,7 @@
 #include "list_view/list_sort.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <numeric>
 #include <string_view>
@@ -93,11 +94,25 @@ std::vector<int> orderOfKeys(const std::vector<std::string_view>& keys) {
         entries[i] = {head, int(i)};
     }
     // A zero-filled head never orders before a shorter string's head, so heads order as the
-    // strings do, and equal heads leave it to the strings.
-    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
-        if (a.head != b.head) return a.head < b.head;
-        return keys[std::size_t(a.id)].substr(shared) < keys[std::size_t(b.id)].substr(shared);
-    });
+    // strings do: a radix sort by head, a byte at a time from the last, then the strings
+    // decide within each run of equal heads.
+    std::vector<Entry> spare(entries.size());
+    for (int shift = 0; shift < 64; shift += 8) {
+        std::array<std::size_t, 257> start{};
+        for (const Entry& e : entries) ++start[(e.head >> shift & 0xFF) + 1];
+        if (std::find(start.begin(), start.end(), entries.size()) != start.end()) continue;  // one value only
+        for (std::size_t b = 1; b < start.size(); ++b) start[b] += start[b - 1];
+        for (const Entry& e : entries) spare[start[e.head >> shift & 0xFF]++] = e;
+        entries.swap(spare);
+    }
+    for (auto run = entries.begin(); run != entries.end();) {
+        const auto end = std::find_if(run, entries.end(), [&](const Entry& e) { return e.head != run->head; });
+        if (end - run > 1)
+            std::sort(run, end, [&](const Entry& a, const Entry& b) {
+                return keys[std::size_t(a.id)].substr(shared) < keys[std::size_t(b.id)].substr(shared);
+            });
+        run = end;
+    }
     std::vector<int> order(keys.size());
     for (std::size_t i = 0; i < keys.size(); ++i) order[i] = entries[i].id;
     return order;
@@ -118,10 +133,10 @@ std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, b
 
     // Each distinct text once, with the distinct number of each row.
     std::vector<std::string_view> distinct;
-    std::vector<long long*> rankOf;
+    std::vector<std::int32_t*> rankOf;
     std::vector<int> ids(n);
     for (std::size_t i = 0; i < n; ++i) {
-        const auto [entry, added] = ranks.rank.insert(*texts[i], static_cast<long long>(distinct.size()));
+        const auto [entry, added] = ranks.rank.insert(*texts[i], std::int32_t(distinct.size()));
         if (added) {
             distinct.push_back(*texts[i]);
             rankOf.push_back(entry);
@@ -152,7 +167,7 @@ std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, b
         const auto previous = std::size_t(byKey[j - 1]), current = std::size_t(byKey[j]);
         rank[current] = rank[previous] + (keys[previous] == keys[current] ? 0 : 1);
     }
-    for (std::size_t j = 0; j < distinct.size(); ++j) *rankOf[j] = rank[j];
+    for (std::size_t j = 0; j < distinct.size(); ++j) *rankOf[j] = std::int32_t(rank[j]);
     std::vector<long long> numbers(n);
     for (std::size_t i = 0; i < n; ++i) numbers[i] = rank[std::size_t(ids[i])];
     return numbers;
@@ -174,7 +189,7 @@ std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& 
         numbers.resize(n);
         bool known = ranks && ranks->locale == &locale && ranks->binary == binary;
         for (std::size_t i = 0; known && i < n; ++i) {
-            const long long* found = ranks->rank.find(*keys.texts[i]);
+            const std::int32_t* found = ranks->rank.find(*keys.texts[i]);
             if (found)
                 numbers[i] = *found;
             else

@@ -16,12 +16,12 @@ void TextRankTable::reset(std::size_t texts, std::size_t bytes) {
     size_ = 0;
 }
 
-std::uint64_t TextRankTable::hashOf(std::string_view text) {
-    const std::uint64_t hash = std::hash<std::string_view>{}(text);
+std::uint32_t TextRankTable::hashOf(std::string_view text) {
+    const auto hash = std::uint32_t(std::hash<std::string_view>{}(text));
     return hash == 0 ? 1 : hash;
 }
 
-std::size_t TextRankTable::slotOf(std::string_view text, std::uint64_t hash) const {
+std::size_t TextRankTable::slotOf(std::string_view text, std::uint32_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = std::size_t(hash) & mask;; i = (i + 1) & mask) {
         const Slot& slot = slots_[i];
@@ -30,22 +30,22 @@ std::size_t TextRankTable::slotOf(std::string_view text, std::uint64_t hash) con
     }
 }
 
-std::pair<long long*, bool> TextRankTable::insert(std::string_view text, long long rank) {
+std::pair<std::int32_t*, bool> TextRankTable::insert(std::string_view text, std::int32_t rank) {
     if (slots_.empty() || 2 * (size_ + 1) > slots_.size())
         throw UntrappedFailure("A text rank table holds more texts than it was made for.");
-    const std::uint64_t hash = hashOf(text);
+    const std::uint32_t hash = hashOf(text);
     Slot& slot = slots_[slotOf(text, hash)];
     if (slot.hash != 0) return {&slot.rank, false};
     slot.hash = hash;
-    slot.offset = bytes_.size();
-    slot.length = text.size();
+    slot.offset = std::uint32_t(bytes_.size());
+    slot.length = std::uint32_t(text.size());
     slot.rank = rank;
     bytes_.insert(bytes_.end(), text.begin(), text.end());
     ++size_;
     return {&slot.rank, true};
 }
 
-const long long* TextRankTable::find(std::string_view text) const {
+const std::int32_t* TextRankTable::find(std::string_view text) const {
     if (slots_.empty()) return nullptr;
     const Slot& slot = slots_[slotOf(text, hashOf(text))];
     return slot.hash == 0 ? nullptr : &slot.rank;

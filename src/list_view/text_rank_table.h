@@ -11,28 +11,29 @@ namespace qh {
 
 class TextRankTable {
 public:
-    // Empties the table and makes room for `texts` texts of `bytes` bytes in all; the table
-    // holds no more than that until the next reset.
+    // Empties the table and makes room for `texts` texts of `bytes` bytes in all (under
+    // 4 GiB); the table holds no more than that until the next reset.
     void reset(std::size_t texts, std::size_t bytes);
 
     // The number of `text`, which is set to `rank` when the text is new (second is true
     // then). The pointer stays valid until the next reset.
-    std::pair<long long*, bool> insert(std::string_view text, long long rank);
+    std::pair<std::int32_t*, bool> insert(std::string_view text, std::int32_t rank);
 
-    const long long* find(std::string_view text) const;
+    const std::int32_t* find(std::string_view text) const;
 
     std::size_t size() const { return size_; }
 
 private:
+    // Sixteen bytes, so that the table of a full list stays in the processor's cache.
     struct Slot {
-        std::uint64_t hash = 0;  // never 0 for a text, so 0 marks a free slot
-        std::size_t offset = 0;  // where the text starts in `bytes_`
-        std::size_t length = 0;
-        long long rank = 0;
+        std::uint32_t hash = 0;    // never 0 for a text, so 0 marks a free slot
+        std::uint32_t offset = 0;  // where the text starts in `bytes_`
+        std::uint32_t length = 0;
+        std::int32_t rank = 0;
     };
-    static std::uint64_t hashOf(std::string_view text);
+    static std::uint32_t hashOf(std::string_view text);
     // The slot holding `text`, or the free slot where it belongs.
-    std::size_t slotOf(std::string_view text, std::uint64_t hash) const;
+    std::size_t slotOf(std::string_view text, std::uint32_t hash) const;
 
     std::vector<Slot> slots_;  // a power of two, at least twice the texts
     std::vector<char> bytes_;
