@@ -25,16 +25,24 @@ bool isIdentity(const std::vector<int>& order) {
 }
 
 // Moves the first order.size() entries of a column into the given order, after filling a
-// short column up with `fill`; entries beyond the list's rows stay at the end.
+// short column up with empty entries; entries beyond the list's rows stay at the end.
 template <class T>
-void reorder(Column<T>& column, const std::vector<int>& order, const T& fill) {
+void reorder(Column<T>& column, const std::vector<int>& order) {
     std::vector<T>& values = column.values();
-    if (values.size() < order.size()) values.resize(order.size(), fill);
+    if (values.size() < order.size()) values.resize(order.size());
     std::vector<T> moved;
     moved.reserve(values.size());
     for (int i : order) moved.push_back(std::move(values[std::size_t(i)]));
     for (std::size_t i = order.size(); i < values.size(); ++i) moved.push_back(std::move(values[i]));
     values.swap(moved);
+}
+
+// Puts the rows of every given column into the order, unless the order leaves them as
+// they are.
+template <class... Columns>
+void reorderRows(const std::vector<int>& order, Columns&... columns) {
+    if (isIdentity(order)) return;
+    (reorder(columns, order), ...);
 }
 
 // A text of a record column through a row index that may be missing.
@@ -259,13 +267,8 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
             keys = record(SortRule::BinaryText, store.AssignmentGrades);
             break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
-    if (isIdentity(order)) return;
-    reorder(rows.ListAssignmentRows, order, 0);
-    reorder(rows.ListTimes, order, kEmpty);
-    reorder(rows.ListForeColors, order, kEmpty);
-    reorder(rows.ListBackColors, order, kEmpty);
-    reorder(rows.ListClassNames, order, kEmpty);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListTimes,
+                rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
 }
 
 void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, int direction,
@@ -308,14 +311,8 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
             keys = numberKeys(SortRule::Date, n, due);
             break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
-    if (isIdentity(order)) return;
-    reorder(rows.ListAssignmentRows, order, 0);
-    reorder(rows.ListSessionLengthRows, order, 0);
-    reorder(rows.ListSessionDateRows, order, 0);
-    reorder(rows.ListForeColors, order, kEmpty);
-    reorder(rows.ListBackColors, order, kEmpty);
-    reorder(rows.ListClassNames, order, kEmpty);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListSessionLengthRows,
+                rows.ListSessionDateRows, rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
 }
 
 void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
@@ -353,11 +350,8 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
             keys = record(SortRule::BinaryText, store.TaskDones);
             break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
-    if (isIdentity(order)) return;
-    reorder(rows.ListTaskRows, order, 0);
-    reorder(rows.ListTaskForeColors, order, kEmpty);
-    reorder(rows.ListTaskBackColors, order, kEmpty);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListTaskRows, rows.ListTaskForeColors,
+                rows.ListTaskBackColors);
 }
 
 void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
@@ -393,12 +387,8 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
             keys = recordOrSubstitute(store.EventRecurrences);
             break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
-    if (isIdentity(order)) return;
-    reorder(rows.ListEventRows, order, Int16(0));
-    reorder(rows.ListEventDates, order, Date(0));
-    reorder(rows.ListEventForeColors, order, kEmpty);
-    reorder(rows.ListEventBackColors, order, kEmpty);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListEventRows, rows.ListEventDates,
+                rows.ListEventForeColors, rows.ListEventBackColors);
 }
 
 void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale, TextRanks* ranks) {
@@ -435,17 +425,9 @@ void SortReminderList(ReminderRows& rows, int column, int direction, const Local
             keys = numberKeys(SortRule::Date, n, date);
             break;
     }
-    const std::vector<int> order = SortedOrder(keys, direction, locale, ranks);
-    if (isIdentity(order)) return;
-    reorder(rows.ReminderRecords, order, Int16(0));
-    reorder(rows.ReminderKinds, order, kEmpty);
-    reorder(rows.ReminderForeColors, order, kEmpty);
-    reorder(rows.ReminderBackColors, order, kEmpty);
-    reorder(rows.ReminderClasses, order, kEmpty);
-    reorder(rows.ReminderTypes, order, kEmpty);
-    reorder(rows.ReminderDescriptions, order, kEmpty);
-    reorder(rows.ReminderDays, order, 0);
-    reorder(rows.ReminderDates, order, Date(0));
+    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ReminderRecords, rows.ReminderKinds,
+                rows.ReminderForeColors, rows.ReminderBackColors, rows.ReminderClasses, rows.ReminderTypes,
+                rows.ReminderDescriptions, rows.ReminderDays, rows.ReminderDates);
 }
 
 }  // namespace qh
