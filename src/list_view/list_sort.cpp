@@ -159,10 +159,7 @@ std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, b
     } else {
         std::vector<std::size_t> ends;
         ends.reserve(distinct.size());
-        for (const std::string_view text : distinct) {
-            locale.appendSortKey(text, keyBytes);
-            ends.push_back(keyBytes.size());
-        }
+        locale.appendSortKeys(distinct, keyBytes, ends);
         std::size_t start = 0;
         for (const std::size_t end : ends) {
             keys.emplace_back(keyBytes.data() + start, end - start);

@@ -1,6 +1,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/day_number.h"
 
@@ -24,6 +25,18 @@ public:
     // by the host's collation without regard to case; texts that compare equal ("Lab" and
     // "lab") have equal keys. A list sorts thousands of texts by keys made once each.
     virtual void appendSortKey(std::string_view text, std::string& key) const = 0;
+
+    // The keys of many texts, one after another in `keys`, with where each ends in `ends`.
+    // They compare with each other as the keys of appendSortKey do, but not necessarily
+    // with keys made by another call: a host may take a quicker form of key for a set of
+    // plain texts.
+    virtual void appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
+                                std::vector<std::size_t>& ends) const {
+        for (const std::string_view text : texts) {
+            appendSortKey(text, keys);
+            ends.push_back(keys.size());
+        }
+    }
 
     // <0, 0 or >0: the texts by their keys.
     int compareText(std::string_view a, std::string_view b) const {

@@ -1,13 +1,21 @@
 #include "platform/qt/host_collation.h"
 
 #include <unicode/ucol.h>
+#include <unicode/uset.h>
 #include <unicode/ustring.h>
 
+#include <algorithm>
 #include <climits>
 
 #include "common/failure.h"
 
 namespace qh {
+namespace {
+
+constexpr char kFirstPrintable = ' ', kLastPrintable = '~';
+constexpr char kLevelSeparator = '\x01';  // between the levels of an ICU key
+
+}  // namespace
 
 HostCollation::HostCollation(const std::string& localeName) {
     UErrorCode status = U_ZERO_ERROR;
@@ -15,6 +23,77 @@ HostCollation::HostCollation(const std::string& localeName) {
     if (U_FAILURE(status)) throw UntrappedFailure("The collation of \"" + localeName + "\" is not available.");
     // Secondary strength: accents count, case does not.
     ucol_setStrength(collator_, UCOL_SECONDARY);
+    rankPrintableAscii();
+}
+
+void HostCollation::rankPrintableAscii() {
+    UErrorCode status = U_ZERO_ERROR;
+    // Numbers collated by value span characters. (Punctuation that is ignored, as where
+    // the collation shifts it aside, shows as a key without letter weight below.)
+    if (ucol_getAttribute(collator_, UCOL_NUMERIC_COLLATION, &status) == UCOL_ON || U_FAILURE(status)) return;
+
+    USet* contractions = uset_openEmpty();
+    USet* expansions = uset_openEmpty();
+    ucol_getContractionsAndExpansions(collator_, contractions, expansions, true, &status);
+    bool plain = U_SUCCESS(status);
+    for (UChar32 c = kFirstPrintable; plain && c <= kLastPrintable; ++c) plain = !uset_contains(expansions, c);
+    for (int32_t i = uset_getRangeCount(contractions); plain && i < uset_getItemCount(contractions); ++i) {
+        UChar unit[64];
+        UChar32 start = 0, end = 0;
+        UErrorCode itemStatus = U_ZERO_ERROR;
+        const int32_t length = uset_getItem(contractions, i, &start, &end, unit, 64, &itemStatus);
+        bool ascii = U_SUCCESS(itemStatus);
+        for (int32_t k = 0; ascii && k < length; ++k) ascii = unit[k] >= kFirstPrintable && unit[k] <= kLastPrintable;
+        plain = !ascii;
+    }
+    uset_close(contractions);
+    uset_close(expansions);
+    if (!plain) return;
+
+    struct Keyed {
+        std::string key;
+        char c;
+    };
+    std::vector<Keyed> keyed;
+    for (char c = kFirstPrintable; c <= kLastPrintable; ++c) {
+        Keyed k{{}, c};
+        appendSortKey(std::string_view(&c, 1), k.key);
+        // A key that begins with the level separator has no letter weight: ignored.
+        if (k.key.empty() || k.key[0] == kLevelSeparator) return;
+        keyed.push_back(std::move(k));
+    }
+    std::sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.key < b.key; });
+    const auto letters = [](const std::string& key) { return key.substr(0, key.find(kLevelSeparator)); };
+    unsigned char rank = 0;
+    for (std::size_t j = 0; j < keyed.size(); ++j) {
+        if (j == 0 || keyed[j].key != keyed[j - 1].key) {
+            if (j > 0 && letters(keyed[j].key) == letters(keyed[j - 1].key)) return;
+            ++rank;
+        }
+        asciiRank_[std::size_t(keyed[j].c)] = rank;
+    }
+    asciiRanked_ = true;
+}
+
+void HostCollation::appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
+                                   std::vector<std::size_t>& ends) const {
+    bool ascii = asciiRanked_;
+    for (std::size_t i = 0; ascii && i < texts.size(); ++i)
+        for (const char c : texts[i])
+            if (c < kFirstPrintable || c > kLastPrintable) {
+                ascii = false;
+                break;
+            }
+    for (const std::string_view text : texts) {
+        if (ascii) {
+            const std::size_t at = keys.size();
+            keys.resize(at + text.size());
+            for (std::size_t i = 0; i < text.size(); ++i) keys[at + i] = char(asciiRank_[std::size_t(text[i])]);
+        } else {
+            appendSortKey(text, keys);
+        }
+        ends.push_back(keys.size());
+    }
 }
 
 HostCollation::~HostCollation() { ucol_close(collator_); }

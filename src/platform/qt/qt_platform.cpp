@@ -87,6 +87,11 @@ std::string QtLocale::dayName(int weekday) const {
 
 void QtLocale::appendSortKey(std::string_view text, std::string& key) const { collation_.appendSortKey(text, key); }
 
+void QtLocale::appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
+                              std::vector<std::size_t>& ends) const {
+    collation_.appendSortKeys(texts, keys, ends);
+}
+
 MessageAnswer QtMessageBoxes::show(const std::string& text, const std::string& title, MessageButtons buttons,
                                    MessageIcon icon) {
     QMessageBox::Icon qtIcon = QMessageBox::NoIcon;

@@ -35,6 +35,8 @@ public:
     std::string monthName(int month) const override;
     std::string dayName(int weekday) const override;
     void appendSortKey(std::string_view text, std::string& key) const override;
+    void appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
+                        std::vector<std::size_t>& ends) const override;
 
 private:
     std::unique_ptr<QLocale> locale_;
