@@ -12,54 +12,27 @@ namespace {
 struct BackupDrive : StoreOnDrive {
     std::string backup(const std::string& name) const { return fake.bytesOf(store.BackupDirectory + "/" + name); }
     bool inBackup(const std::string& name) const { return std::filesystem::exists(store.BackupDirectory + "/" + name); }
-    // One run of the planner that leaves Tasks.txt holding `content` and flags it.
-    void exitAfterChangingTasks(const std::string& content) {
-        writeFile("Tasks.txt", content);
-        store.TasksChanged = kTrue;
-        RotateBackups(store, fake.platform);
-        store.TasksChanged = kFalse;
-    }
 };
 
-TEST(Backups, FourExitsKeepThreeGenerationsNewestFirst) {
+TEST(Backups, EachExitAfterAChangeShiftsThreeGenerationsAlongAndOtherExitsTouchNothing) {
     BackupDrive d;
-    d.exitAfterChangingTasks("run 1");
-    EXPECT_EQ(d.backup("Tasks_backup1.txt"), "run 1");
-    EXPECT_FALSE(d.inBackup("Tasks_backup2.txt"));
-    EXPECT_FALSE(d.inBackup("Tasks.txt"));
-
-    d.exitAfterChangingTasks("run 2");
-    d.exitAfterChangingTasks("run 3");
-    d.exitAfterChangingTasks("run 4");
+    for (int run = 1; run <= 4; ++run) {
+        d.writeFile("Tasks.txt", "run " + std::to_string(run));
+        d.store.TasksChanged = kTrue;
+        RotateBackups(d.store, d.fake.platform);
+    }
     EXPECT_EQ(d.backup("Tasks_backup1.txt"), "run 4");
     EXPECT_EQ(d.backup("Tasks_backup2.txt"), "run 3");
     EXPECT_EQ(d.backup("Tasks_backup3.txt"), "run 2");
-    EXPECT_FALSE(d.inBackup("Tasks.txt"));
+    // Nothing else: the fresh copy under the plain name has been rotated in.
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(d.store.BackupDirectory),
                             std::filesystem::directory_iterator()),
               3);
-}
 
-TEST(Backups, ARunThatChangesNothingDoesNotTouchTheBackupFolder) {
-    BackupDrive d;
-    d.writeFile("Terms.txt", "terms");
+    d.store.TasksChanged = kFalse;
     d.fake.files.log.clear();
     RotateBackups(d.store, d.fake.platform);
     EXPECT_TRUE(d.fake.files.log.empty());
-    EXPECT_TRUE(std::filesystem::is_empty(d.store.BackupDirectory));
-}
-
-TEST(Backups, AFileThatMetAWriteErrorIsNotRotatedUntilALaterSaveSucceeds) {
-    BackupDrive d;
-    d.store.NoteRecord = {"1", "1", "first"};
-    d.fake.files.failWrite(1);
-    EXPECT_FALSE(d.files.SaveNote(0));
-    RotateBackups(d.store, d.fake.platform);
-    EXPECT_FALSE(d.inBackup("Notes_backup1.txt"));
-
-    ASSERT_TRUE(d.files.SaveNote(0));
-    RotateBackups(d.store, d.fake.platform);
-    EXPECT_TRUE(d.inBackup("Notes_backup1.txt"));
 }
 
 TEST(Backups, AFailingFileDoesNotStopTheOthers) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "record_store/record_files.h"
 #include "support/fake_platform.h"
 
@@ -13,12 +11,11 @@ namespace {
 std::vector<std::string> directoriesMade(const FakeFileSystem& files) {
     std::vector<std::string> made;
     for (const std::string& line : files.log)
-        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir")
-            made.push_back(line.substr(6, line.size() - 12));
+        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir") made.push_back(line.substr(6, line.size() - 12));
     return made;
 }
 
-TEST(StorageLocations, FirstRunOnAnEmptyDriveMakesTheThreeFoldersInOrder) {
+TEST(StorageLocations, FirstRunOnAnEmptyDriveMakesTheThreeFoldersInOrderAndLaterRunsNone) {
     FakePlatform fake;
     RecordStore store;
     ASSERT_TRUE(SetStorageLocations(store, fake.platform));
@@ -29,66 +26,58 @@ TEST(StorageLocations, FirstRunOnAnEmptyDriveMakesTheThreeFoldersInOrder) {
     EXPECT_EQ(store.DataDirectory, program + "/Data");
     EXPECT_EQ(store.BackupDirectory, program + "/Data/Backup");
     EXPECT_EQ(store.HelpFile, fake.exec + "/QuillhollowHelp.chm");
-    EXPECT_TRUE(fake.messages.shown.empty());
 
-    // A second start finds them all and makes nothing.
     fake.files.log.clear();
     ASSERT_TRUE(SetStorageLocations(store, fake.platform));
     EXPECT_TRUE(directoriesMade(fake.files).empty());
+    EXPECT_TRUE(fake.messages.shown.empty());
 }
 
-TEST(StorageLocations, AMissingDataDirectoryEndsTheRunAfterItsMessage) {
+TEST(StorageLocations, AMissingDirectoryShowsItsMessage) {
     FakePlatform fake;
     // A file where the program's folder should be: the make fails unnoticed, the check
-    // of the data directory does not.
+    // of the data directory does not, and the run ends.
     fake.writeBytes(fake.documents + "/Quillhollow", "not a folder");
     RecordStore store;
     EXPECT_FALSE(SetStorageLocations(store, fake.platform));
-    ASSERT_EQ(fake.messages.shown.size(), 1u);
-    const ShownMessage& box = fake.messages.shown[0];
-    EXPECT_EQ(box.title, "Quillhollow - Directory Error");
-    EXPECT_EQ(box.text,
-              "Error creating Quillhollow Data Directory\r\n\r\nPlease restart Quillhollow. If the error "
-              "continues, please contact Quillhollow Software.");
-    EXPECT_EQ(box.icon, MessageIcon::Exclamation);
-    EXPECT_EQ(box.buttons, MessageButtons::OK);
-}
-
-TEST(StorageLocations, AFileRoutineWithoutItsDirectoryShowsTheDirectoryMessageOnly) {
-    FakePlatform fake;
-    RecordStore store;
-    ASSERT_TRUE(SetStorageLocations(store, fake.platform));
-    store.DataDirectory = fake.documents + "/gone";
+    // A file routine whose directory has gone shows the directory message only.
     store.TasksChanged = kTrue;
-    RecordFiles files(store, fake.platform);
-    EXPECT_FALSE(files.SaveTask(0));
-    ASSERT_EQ(fake.messages.shown.size(), 1u);
+    EXPECT_FALSE(RecordFiles(store, fake.platform).SaveTask(0));
+    EXPECT_EQ(store.NextTaskRecord, 1);
+    EXPECT_EQ(store.TasksChanged, kTrue);
+
+    ASSERT_EQ(fake.messages.shown.size(), 2u);
     EXPECT_EQ(fake.messages.shown[0].title, "Quillhollow - Directory Error");
     EXPECT_EQ(fake.messages.shown[0].text,
+              "Error creating Quillhollow Data Directory\r\n\r\nPlease restart Quillhollow. If the error "
+              "continues, please contact Quillhollow Software.");
+    EXPECT_EQ(fake.messages.shown[1].title, "Quillhollow - Directory Error");
+    EXPECT_EQ(fake.messages.shown[1].text,
               "Error creating or changing the File Directory.\r\n\r\nDo not continue working. Exit and restart "
               "Quillhollow. If the error continues, see the Help for more information.");
-    EXPECT_EQ(store.NextTaskRecord, 1);
-    EXPECT_EQ(store.TasksChanged, kTrue);  // only a file error clears the flag
+    for (const ShownMessage& box : fake.messages.shown) {
+        EXPECT_EQ(box.icon, MessageIcon::Exclamation);
+        EXPECT_EQ(box.buttons, MessageButtons::OK);
+    }
 }
 
-TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNames) {
+TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNamesOnly) {
+    using S = RecordStore;
+    const std::pair<const char*, Int16 S::*> files[] = {
+        {"Terms.txt", &S::TermsChanged},         {"Classes.txt", &S::ClassesChanged}, {"Assignments.txt", &S::AssignmentsChanged},
+        {"Notes.txt", &S::NotesChanged},         {"StudySessions.txt", &S::StudySessionsChanged},
+        {"Tasks.txt", &S::TasksChanged},         {"Events.txt", &S::EventsChanged},   {"", nullptr}};
     FakePlatform fake;
     RecordStore store;
-    Int16 RecordStore::*const flags[] = {&RecordStore::TermsChanged,         &RecordStore::ClassesChanged,
-                                         &RecordStore::AssignmentsChanged,   &RecordStore::NotesChanged,
-                                         &RecordStore::StudySessionsChanged, &RecordStore::TasksChanged,
-                                         &RecordStore::EventsChanged};
-    const char* const names[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
-                                 "StudySessions.txt", "Tasks.txt",   "Events.txt"};
-    for (int i = 0; i < 7; ++i) {
-        for (auto flag : flags) store.*flag = kTrue;
-        ReportFileError(store, fake.messages, names[i], "writing");
-        for (int j = 0; j < 7; ++j) EXPECT_EQ(store.*flags[j], i == j ? kFalse : kTrue) << names[i];
+    for (const auto& [name, flag] : files) {
+        for (const auto& [other, otherFlag] : files)
+            if (otherFlag) store.*otherFlag = kTrue;
+        ReportFileError(store, fake.messages, name, "writing");
+        for (const auto& [other, otherFlag] : files)
+            if (otherFlag) {
+                EXPECT_EQ(store.*otherFlag, otherFlag == flag ? kFalse : kTrue) << name << " " << other;
+            }
     }
-    for (auto flag : flags) store.*flag = kTrue;
-    ReportFileError(store, fake.messages, "", "writing");
-    for (auto flag : flags) EXPECT_EQ(store.*flag, kTrue);
-
     const ShownMessage& box = fake.messages.shown.front();
     EXPECT_EQ(box.title, "Quillhollow - File Read Error");
     EXPECT_EQ(box.text,

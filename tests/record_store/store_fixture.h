@@ -1,11 +1,12 @@
 #pragma once
-// A record store on a fresh fake drive with its storage locations set, and helpers that
-// spell out record bytes field by field.
-#include <ostream>
+// A record store on a fresh fake drive with its storage locations set, and record bytes
+// made from the record tables.
 #include <string>
+#include <vector>
 
 #include "record_store/columns.h"
 #include "record_store/record_files.h"
+#include "record_store/record_layout.h"
 #include "record_store/storage_locations.h"
 #include "support/fake_platform.h"
 
@@ -23,20 +24,18 @@ struct StoreOnDrive {
     void writeFile(const std::string& name, const std::string& bytes) const { fake.writeBytes(path(name), bytes); }
 };
 
-// A text field as the files hold it: the (code page) bytes, padded with spaces.
-inline std::string field(const std::string& bytes, std::size_t width) {
-    std::string out = bytes.substr(0, width);
-    out.resize(width, ' ');
-    return out;
+// A record as an older or hand-edited file holds it: each value padded to its field as it
+// stands, dates unrepaired, reserved fields filled. The golden byte tests pin the widths.
+inline std::string rawRecord(const RecordLayout& layout, const std::vector<std::string>& values) {
+    std::string bytes;
+    std::size_t next = 0;
+    for (const FieldSpec& field : layout.fields) {
+        std::string value = field.kind == FieldKind::Reserved ? std::string(std::size_t(field.width), layout.reservedFill)
+                                                              : values.at(next++);
+        value.resize(std::size_t(field.width), ' ');
+        bytes += value;
+    }
+    return bytes;
 }
-inline std::string nuls(std::size_t width) { return std::string(width, '\0'); }
-// Columns print as their rows when a comparison fails.
-inline void PrintTo(const TextColumn& column, std::ostream* out) {
-    *out << "{";
-    for (const std::string& value : column) *out << " \"" << value << "\"";
-    *out << " }";
-}
-
-inline std::string spaces(std::size_t width) { return std::string(width, ' '); }
 
 }  // namespace qh
