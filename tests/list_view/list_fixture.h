@@ -1,7 +1,9 @@
 #pragma once
 // Records put straight into the record store's columns (events: recurrence/event_records.h),
 // and a main window in one mode on the fake platform, for the tests of the lists.
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "list_view/grid.h"
 #include "list_view/list_rows.h"
@@ -92,23 +94,19 @@ std::vector<int> asInts(const Column<T>& column) {
     return {column.begin(), column.end()};
 }
 
-// A main window, not loaded, with its colours built and one mode ticked; the grid laid
-// out for that mode.
+// A main window, not loaded, with its colours built and one mode ticked, sorted by the
+// mode's first sort column.
 class ListWindow {
 public:
-    explicit ListWindow(Mode mode) : window(store, fake.platform) {
+    explicit ListWindow(Mode m) : window(store, fake.platform), mode(m) {
         window.colors->BuildColorValues();
         window.colors->BuildColorNames();
         window.state.ClickedDate = window.state.DisplayedDate = fake.clock.today();
-        setMode(mode);
-    }
-    void setMode(Mode mode) {
         const char* menus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
         for (int i = 0; i < 5; ++i) window.c(menus[i]).checked = int(mode) == i + 1;
         const Int16 sortColumns[] = {7, 6, 5, 3, 5};
         window.state.SortColumn = sortColumns[int(mode) - 1];
         window.state.SortDirection = 1;
-        this->mode = mode;
     }
     void filters(const std::string& list, const std::string& range) {
         window.c("ComboList").text = list;
@@ -120,46 +118,50 @@ public:
         window.BuildList(mode);
     }
     RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.c("picGrid").canvas); }
-    RecordingCanvas& header(int i) { return dynamic_cast<RecordingCanvas&>(*window.c("picColHeader", i).canvas); }
-    // What stands in column c of visible row v (texts printed at the cell's text position).
+    // What stands in column c of visible row v: the texts printed at the cell's text
+    // position, or the check box picture painted in it.
     std::string cell(int v, int c) {
-        const Control& h = window.c("picColHeader", c);
-        const int y = ((v - 1) * 22 + 20 + 4) * 15;
-        if (c == 0) return grid().textsIn(0, y, 345, y);  // the number cell stands on the same line
-        return grid().textsIn(h.left + 45, y, h.left + 45, y);
-    }
-    // The background of column c of visible row v.
-    Color cellBack(int v, int c) {
-        const Control& h = window.c("picColHeader", c);
-        const int y = ((v - 1) * 22 + 20 + 1) * 15;
-        Color found = 0x123456;
+        const int left = window.c("picColHeader", c).left, top = rowTop(v);
+        if (c == 0) return grid().textsIn(0, top + 60, 345, top + 60);  // the number stands on the same line
+        std::string found = grid().textsIn(left + 45, top + 60, left + 45, top + 60);
         for (const CanvasCall& call : grid().calls())
-            if (call.kind == CanvasCall::FilledBox && call.x1 == h.left + 15 && call.y1 == y) found = call.color;
+            if (call.kind == CanvasCall::Picture && call.x1 == left + 225 && call.y1 == top + 75) found += call.text;
         return found;
     }
-    // The check box picture of column c of visible row v, empty if none.
-    std::string picture(int v, int c) {
-        const Control& h = window.c("picColHeader", c);
-        std::string found;
-        for (const CanvasCall& call : grid().calls())
-            if (call.kind == CanvasCall::Picture && call.x1 == h.left + 225 && call.y1 == (v - 1) * 330 + 300 + 75)
-                found = call.text;
-        return found;
+    // Visible row v as its cells joined by "|" over the columns the mode shows, then the
+    // names of its text and background colours: "1| Art|...|Checked Navy/MistyRose".
+    std::string row(int v) {
+        std::string row = cell(v, 0);
+        for (int c = 1; c < 9 && window.c("picColHeader", c).visible; ++c) row += "|" + cell(v, c);
+        return row + " " + colourName(cellFore(v, 1)) + "/" + colourName(cellBack(v, 1));
     }
-    // Numbers of the rows painted, in order.
-    std::vector<std::string> numbers() {
-        std::vector<std::string> found;
-        for (const CanvasCall& call : grid().calls())
-            if (call.kind == CanvasCall::Text && call.x2 == 345) found.push_back(call.text);
-        return found;
-    }
+    // The colour of the texts and of the background of column c of visible row v.
+    Color cellFore(int v, int c) { return cellCall(v, c, CanvasCall::Text, 45, 60); }
+    Color cellBack(int v, int c) { return cellCall(v, c, CanvasCall::FilledBox, 15, 15); }
     std::string text(const std::string& control) { return window.c(control).text; }
     Color back(const std::string& control) { return window.c(control).backColor; }
 
     FakePlatform fake;
     RecordStore store;
     MainWindow window;
-    Mode mode = Mode::Homework;
+    Mode mode;
+
+private:
+    std::string colourName(Color color) {
+        for (int i = 1; i <= window.colors->ColorNames.count(); ++i)
+            if (window.colors->ColorValues(i) == color) return window.colors->ColorNames(i);
+        return "?";
+    }
+    int rowTop(int v) { return ((v - 1) * 22 + 20) * 15; }
+    Color cellCall(int v, int c, CanvasCall::Kind kind, int dx, int dy) {
+        const int left = window.c("picColHeader", c).left;
+        Color found = 0x123456;
+        for (const CanvasCall& call : grid().calls()) {
+            const bool inCell = c == 0 ? call.x1 <= 345 : call.x1 == left + dx;
+            if (call.kind == kind && inCell && call.y1 == rowTop(v) + dy) found = call.color;
+        }
+        return found;
+    }
 };
 
 }  // namespace qh::testing
