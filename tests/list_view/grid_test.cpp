@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
 #include "support/fake_platform.h"
 
 namespace qh {
 namespace {
-
-RecordingCanvas& recording(Canvas& canvas) { return dynamic_cast<RecordingCanvas&>(canvas); }
 
 // --- Geometry --------------------------------------------------------------------------
 
@@ -27,51 +27,36 @@ TEST(GridColumns, FixedColumnsTakePixelsAndSharesSplitTheRestOnWholePixels) {
 
 TEST(GridRows, TheBottomIsTheLastWholeRowAndTheHeaderStripIsNotARow) {
     const GridRows rows = MeasureGridRows(3355, 300, 22);
-    EXPECT_EQ(rows.pitchTwips, 330);
     EXPECT_EQ(rows.bottomTwips, 3300);
-    EXPECT_EQ(rows.gridBottom(), 220);
-    EXPECT_EQ(rows.headerHeight(), 20);
     EXPECT_EQ(rows.rowsVisible, 9);
     // One twip less and the last row no longer fits whole under the header strip.
     EXPECT_EQ(MeasureGridRows(3269, 300, 22).rowsVisible, 8);
     EXPECT_EQ(MeasureGridRows(200, 300, 22).rowsVisible, 0);
 }
 
-struct HitCase {
-    const char* name;
-    int x, y;
-    int pressed, released;
-};
-
-class GridHitTest : public ::testing::TestWithParam<HitCase> {};
-
-TEST_P(GridHitTest, PressAndReleaseFindTheirRows) {
+TEST(GridRows, PressAndReleaseFindTheirRows) {
     const GridRows rows = MeasureGridRows(3355, 300, 22);
-    const HitCase& c = GetParam();
-    EXPECT_EQ(RowPressedAt(rows, 9280, c.x, c.y), c.pressed);
-    EXPECT_EQ(RowReleasedAt(rows, c.y), c.released);
+    const struct {
+        int x, y, pressed, released;
+    } hits[] = {
+        {500, 0, 1, 0},
+        {500, 300, 1, 0},  // the header strip: row 1 on a press only
+        {500, 301, 1, 1},
+        {500, 630, 1, 1},  // the first row, to its lower border
+        {500, 631, 2, 2},
+        {500, 3270, 9, 9},  // the last whole row
+        {500, 3271, 999, 0},
+        {500, 4000, 999, 0},  // below it
+        {9280 - 255, 700, 999, 2},
+        {9280 - 256, 700, 2, 2},  // the scroll strip and just left of it
+    };
+    for (const auto& h : hits) {
+        EXPECT_EQ(RowPressedAt(rows, 9280, h.x, h.y), h.pressed) << h.x << "," << h.y;
+        EXPECT_EQ(RowReleasedAt(rows, h.y), h.released) << h.x << "," << h.y;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Borders, GridHitTest,
-    ::testing::Values(HitCase{"TopOfHeaderStrip", 500, 0, 1, 0}, HitCase{"HeaderStripEdge", 500, 300, 1, 0},
-                      HitCase{"FirstRowTop", 500, 301, 1, 1}, HitCase{"FirstRowBorder", 500, 630, 1, 1},
-                      HitCase{"SecondRowTop", 500, 631, 2, 2}, HitCase{"LastWholeRowBorder", 500, 3270, 9, 9},
-                      HitCase{"BelowLastWholeRow", 500, 3271, 999, 0}, HitCase{"BelowCanvas", 500, 4000, 999, 0},
-                      HitCase{"ScrollStripEdge", 9280 - 255, 700, 999, 2},
-                      HitCase{"JustLeftOfScrollStrip", 9280 - 256, 700, 2, 2}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 // --- Painter ---------------------------------------------------------------------------
-
-GridFrame frameOf(std::initializer_list<ColumnSpan> columns) {
-    GridFrame frame;
-    frame.columns = columns;
-    frame.headerHeight = 20;
-    frame.gridBottom = 220;
-    frame.rowPitch = 22;
-    return frame;
-}
 
 TEST(GridPainter, ClipsByPixelWidthWithoutEllipsis) {
     RecordingCanvas canvas;
@@ -91,21 +76,20 @@ TEST(GridPainter, ClipsByPixelWidthWithoutEllipsis) {
     EXPECT_EQ(ClipToCell(canvas, "anything", 50), "");
 }
 
-TEST(GridPainter, RowsStopAtTheLastWholeRowAndAtTheEndOfTheList) {
-    const GridFrame frame = frameOf({{0, 420}, {405, 1140}});
-    int asked = 0;
-    auto rowAt = [&](int p) {
-        ++asked;
-        GridRow row;
-        row.cells.push_back({CellKind::Trimmed, "  item " + std::to_string(p) + "  "});
-        return row;
+TEST(GridPainter, AsksOnlyForRowsThatArePaintedAndInTheList) {
+    GridFrame frame;
+    frame.columns = {{0, 420}, {405, 1140}};
+    frame.headerHeight = 20;
+    frame.gridBottom = 220;
+    std::vector<int> asked;
+    const auto rowAt = [&](int p) {
+        asked.push_back(p);
+        return GridRow{};
     };
     RecordingCanvas canvas;
-    PaintGridRows(canvas, frame, 1, 30, rowAt);
-    EXPECT_EQ(asked, 9);  // 9 whole rows fit under the header strip
-    asked = 0;
-    PaintGridRows(canvas, frame, 4, 5, rowAt);  // positions 4 and 5 of a list of 5
-    EXPECT_EQ(asked, 2);
+    PaintGridRows(canvas, frame, 1, 30, rowAt);  // nine whole rows fit under the header strip
+    PaintGridRows(canvas, frame, 4, 5, rowAt);   // a scrolled grid over a list that shrank to five
+    EXPECT_EQ(asked, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 4, 5}));
 }
 
 // --- The window ------------------------------------------------------------------------
@@ -116,31 +100,22 @@ protected:
         window.colors->BuildColorValues();
         window.c("MenuHomework").checked = true;
     }
-    RecordingCanvas& grid() { return recording(*window.c("picGrid").canvas); }
+    RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.c("picGrid").canvas); }
 
     FakePlatform fake;
     RecordStore store;
     MainWindow window;
 };
 
-TEST_F(GridWindowTest, LayoutPlacesGridHeadersAndScrollBarByTheWindowSize) {
+TEST_F(GridWindowTest, LayoutFitsTheGridHeadersAndScrollBarToTheWindow) {
     window.LayoutGrid(Mode::Tasks);
     const Control& picGrid = window.c("picGrid");
-    EXPECT_EQ(picGrid.left, 100);
-    EXPECT_EQ(picGrid.top, 2650);
     EXPECT_EQ(picGrid.width, window.scaleWidth - 200);
     EXPECT_EQ(picGrid.height, window.scaleHeight - 2650 - 300 - 100);
-    const Control& scroll = window.c("VSGridScroll");
-    EXPECT_EQ(scroll.left, picGrid.width - 255);
-    EXPECT_EQ(scroll.height, picGrid.height);
-    for (int i = 0; i < 9; ++i) {
-        EXPECT_EQ(window.c("picColHeader", i).visible, i < 6) << i;
-        EXPECT_EQ(window.c("picColHeader", i).enabled, i < 6) << i;
-    }
-    EXPECT_EQ(window.c("picColHeader", 1).left, 405);
+    EXPECT_EQ(window.c("VSGridScroll").left, picGrid.width - 255);
+    EXPECT_EQ(window.c("VSGridScroll").height, picGrid.height);
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(window.c("picColHeader", i).visible, i < 6) << i;
     EXPECT_EQ(window.c("picColHeader", 2).left, 405 + window.c("picColHeader", 1).width - 15);
-    EXPECT_EQ(window.state.HeaderHeight, 20);
-    EXPECT_EQ(window.state.GridBottom, 220);
     EXPECT_EQ(window.state.RowsVisible, 9);
     EXPECT_EQ(window.c("picStatusBar").top, window.scaleHeight - 300);
 
@@ -153,97 +128,73 @@ TEST_F(GridWindowTest, LayoutPlacesGridHeadersAndScrollBarByTheWindowSize) {
 
 TEST_F(GridWindowTest, LayoutRulesTheEmptyLinesLightAndTheNumberColumnDark) {
     window.LayoutGrid(Mode::Homework);
-    int lightHorizontal = 0, darkHorizontal = 0, lightVertical = 0, darkVertical = 0;
+    std::map<std::string, int> rules;  // how many rules of each kind, by where they end
     for (const CanvasCall& call : grid().calls()) {
         if (call.kind != CanvasCall::Line) continue;
-        const bool horizontal = call.y1 == call.y2;
-        if (call.color == kLightRule) ++(horizontal ? lightHorizontal : lightVertical);
-        if (call.color == kDarkRule) {
-            ++(horizontal ? darkHorizontal : darkVertical);
-            if (horizontal) {
-                EXPECT_EQ(call.x2, 405);
-            }
-        }
-        if (!horizontal) {
-            EXPECT_EQ(call.y2, 3300);
-        }
+        const bool across = call.y1 == call.y2;
+        const char* colour = call.color == kLightRule ? " light" : call.color == kDarkRule ? " dark" : " other";
+        ++rules[(across ? "across" : "down") + std::string(colour) + " to " +
+                std::to_string(across ? call.x2 : call.y2)];
     }
-    EXPECT_EQ(lightVertical, 8);
-    EXPECT_EQ(darkVertical, 1);
-    EXPECT_EQ(lightHorizontal, 10);  // the header strip's edge and nine row borders
-    EXPECT_EQ(darkHorizontal, 10);
+    const std::string width = std::to_string(grid().scaleWidth());
+    // The header strip's edge and nine row borders across, one rule down per column.
+    EXPECT_EQ(rules, (std::map<std::string, int>{{"across light to " + width, 10},
+                                                 {"across dark to 405", 10},
+                                                 {"down light to 3300", 8},
+                                                 {"down dark to 3300", 1}}));
 }
 
 TEST_F(GridWindowTest, ScrollBarIsOffWhileTheListFitsAndSpansTheRestOtherwise) {
-    window.LayoutGrid(Mode::Homework);
+    window.LayoutGrid(Mode::Homework);  // nine rows
     Control& scroll = window.c("VSGridScroll");
-    window.state.RowCount = 9;
-    window.state.TopRow = 3;
-    window.UpdateGridScroll();
-    EXPECT_FALSE(scroll.enabled);
-    EXPECT_EQ(scroll.value, 1);
-    EXPECT_EQ(window.state.TopRow, 1);
-
-    window.state.RowCount = 20;
-    window.UpdateGridScroll();
-    EXPECT_TRUE(scroll.enabled);
-    EXPECT_EQ(scroll.minimum, 1);
-    EXPECT_EQ(scroll.maximum, 12);
-    EXPECT_EQ(scroll.largeChange, 8);
-
-    // The list shrinks while scrolled to its end: the bar and the top row follow.
-    scroll.value = 12;
-    window.state.TopRow = 12;
-    window.state.RowCount = 15;
-    window.UpdateGridScroll();
-    EXPECT_EQ(scroll.value, 7);
-    EXPECT_EQ(window.state.TopRow, 7);
+    const auto bar = [&](int rowCount, int value) {
+        window.state.RowCount = Int16(rowCount);
+        window.state.TopRow = Int16(value);
+        scroll.value = value;
+        window.UpdateGridScroll();
+        return (scroll.enabled ? "on " + std::to_string(scroll.minimum) + ".." + std::to_string(scroll.maximum) +
+                                     " page " + std::to_string(scroll.largeChange)
+                               : std::string("off")) +
+               " at " + std::to_string(scroll.value) + " top " + std::to_string(window.state.TopRow);
+    };
+    EXPECT_EQ(bar(9, 3), "off at 1 top 1");
+    EXPECT_EQ(bar(20, 1), "on 1..12 page 8 at 1 top 1");
+    EXPECT_EQ(bar(15, 12), "on 1..7 page 8 at 7 top 7");  // the list shrank while scrolled to its end
 }
 
 TEST_F(GridWindowTest, HeaderClicksSortAndSwapTheDirectionButTheNumberColumnDoesNothing) {
     window.LayoutGrid(Mode::Homework);
     window.state.SortColumn = 7;
     window.state.SortDirection = 1;
-    window.click("picColHeader(0)");
-    EXPECT_EQ(window.state.SortColumn, 7);
-    EXPECT_EQ(window.state.SortDirection, 1);
-
-    window.click("picColHeader(7)");
-    EXPECT_EQ(window.state.SortDirection, 2);
-    window.click("picColHeader(3)");  // a new column keeps the direction last used
-    EXPECT_EQ(window.state.SortColumn, 3);
-    EXPECT_EQ(window.state.SortDirection, 2);
-    window.click("picColHeader(3)");
-    EXPECT_EQ(window.state.SortDirection, 1);
-}
-
-// The boxes painted on number cells: a click that opens a record marks its number cell.
-std::vector<CanvasCall> numberBoxes(const RecordingCanvas& canvas) {
-    std::vector<CanvasCall> boxes;
-    for (const CanvasCall& call : canvas.calls())
-        if (call.kind == CanvasCall::FilledBox && call.x1 == 15) boxes.push_back(call);
-    return boxes;
+    const auto clicked = [&](int header) {
+        window.click("picColHeader(" + std::to_string(header) + ")");
+        return std::to_string(window.state.SortColumn) + " " + std::to_string(window.state.SortDirection) + " " +
+               window.c("picColHeader", 7).picture + " " + window.c("picColHeader", 3).picture;
+    };
+    EXPECT_EQ(clicked(0), "7 1 GridTitle GridTitle");  // no list is built: nothing repaints
+    EXPECT_EQ(clicked(7), "7 2 GridTitleDown GridTitle");
+    EXPECT_EQ(clicked(0), "7 2 GridTitleDown GridTitle");
+    EXPECT_EQ(clicked(3), "3 2 GridTitle GridTitleDown");  // a new column keeps the direction last used
+    EXPECT_EQ(clicked(3), "3 1 GridTitle GridTitleUp");
 }
 
 TEST_F(GridWindowTest, AClickOpensARowOnlyWhenPressAndReleaseMeetOnIt) {
     window.LayoutGrid(Mode::Homework);
     window.state.ListAssignmentRows = {1, 2, 3};
     window.state.RowCount = 3;
-    window.press("picGrid", {1, 0, 500, 700});
-    window.release("picGrid", {1, 0, 500, 1000});  // row 3
-    window.press("picGrid", {1, 0, 500, 100});     // header strip: row 1 on press...
-    EXPECT_EQ(window.state.PressedRow, 1);
-    window.release("picGrid", {1, 0, 500, 100});  // ...but 0 on release
-    window.press("picGrid", {1, 0, 9200, 500});   // scroll strip
-    EXPECT_EQ(window.state.PressedRow, 999);
-    window.release("picGrid", {1, 0, 9200, 500});
-    EXPECT_TRUE(numberBoxes(grid()).empty());
-    // Press and release anywhere on one row open it: its number cell is marked, then plain.
-    window.press("picGrid", {1, 0, 500, 700});
-    window.release("picGrid", {1, 0, 800, 900});
-    const auto boxes = numberBoxes(grid());
-    ASSERT_EQ(boxes.size(), 2u);
-    EXPECT_EQ(boxes[0].y1, (22 + 20 + 1) * 15);
+    // The boxes painted so far on number cells: an opened record marks its number, then
+    // unmarks it.
+    const auto boxesAfter = [&](int pressX, int pressY, int releaseX, int releaseY) {
+        window.press("picGrid", {1, 0, pressX, pressY});
+        window.release("picGrid", {1, 0, releaseX, releaseY});
+        int boxes = 0;
+        for (const CanvasCall& call : grid().calls()) boxes += call.kind == CanvasCall::FilledBox && call.x1 == 15;
+        return boxes;
+    };
+    EXPECT_EQ(boxesAfter(500, 700, 500, 1000), 0);   // pressed on row 2, released on row 3
+    EXPECT_EQ(boxesAfter(500, 100, 500, 100), 0);    // the header strip: row 1 pressed, none released
+    EXPECT_EQ(boxesAfter(9200, 500, 9200, 500), 0);  // the scroll strip
+    EXPECT_EQ(boxesAfter(500, 700, 800, 900), 2);    // anywhere on row 2
 }
 
 }  // namespace
