@@ -1,99 +1,80 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/main_window_fixture.h"
 
 namespace qh {
 namespace {
 
-struct ModeExpectation {
+// The controls a mode switch shows or hides (the menus: enables or disables).
+const char* const kSwitched[] = {"ButtonNewAssignment",     "ButtonNewTask",       "ButtonNewEvent",
+                                 "PictureBoxStudySessions", "PictureBoxReminders", "PictureBoxStudyTime",
+                                 "PictureBoxTerm",          "picLock",             "LabelFinishedAssignments",
+                                 "MenuNewAssignment",       "MenuNewTask",         "MenuNewEvent"};
+
+struct ModeCase {
     const char* menu;
+    const char* bar;
     const char* status;
-    int sortColumn;
     std::vector<std::string> listEntries, rangeEntries;
-    const char* exportList;
-    std::vector<std::string> shown;   // panels and buttons visible
-    std::vector<std::string> hidden;  // panels and buttons hidden
-    std::vector<std::pair<std::string, std::string>> labels;  // caption by label, in order
-    std::vector<std::string> boxes;   // summary boxes shown
+    std::vector<std::string> on;     // of kSwitched; all others off
+    std::vector<std::string> boxes;  // the summary boxes shown
 };
 
-const std::vector<ModeExpectation>& expectations() {
-    static const std::vector<ModeExpectation> table{
-        {"MenuHomework", "Homework Mode", 7, {"All", "Done", "Not Done"}, {"Day", "Term"}, "This Assignment List...",
-         {"ButtonNewAssignment", "PictureBoxTerm"},
-         {"ButtonNewTask", "ButtonNewEvent", "PictureBoxStudySessions", "PictureBoxReminders", "PictureBoxStudyTime"},
-         {{"LabelTotalAssignments", "Total Assignments:"}, {"LabelFinishedAssignments", "Unfinished Assignments:"},
-          {"LabelTimeRemaining", "Time Left:"}},
-         {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining"}},
-        {"MenuStudySessions", "Study Session Mode", 6, {"All"}, {"Day", "Term"}, "This Study List...",
-         {"ButtonNewAssignment", "PictureBoxStudySessions", "PictureBoxTerm"},
-         {"ButtonNewTask", "ButtonNewEvent", "PictureBoxReminders", "PictureBoxStudyTime", "LabelFinishedAssignments"},
-         {{"LabelTotalAssignments", "Study Sessions:"}, {"LabelTimeRemaining", "Study Time:"}},
-         {"TextBoxStudySessions", "TextBoxStudyTime"}},
-        {"MenuTasks", "Task Mode", 5, {"All", "Done", "Not Done"}, {"Day", "All", "With Date", "Without Date"},
-         "This Task List...", {"ButtonNewTask"},
-         {"ButtonNewAssignment", "ButtonNewEvent", "PictureBoxTerm", "PictureBoxStudyTime", "LabelFinishedAssignments"},
-         {{"LabelTotalAssignments", "Total Tasks:"}, {"LabelTimeRemaining", "Unfinished Tasks:"}},
-         {"TextBoxTotalTasks", "TextBoxFinishedTasks"}},
-        {"MenuEvents", "Event Mode", 3, {"All", "Classes", "Other Events"}, {"Day", "Week", "Month", "Year"},
-         "This Event List...", {"ButtonNewEvent"}, {"ButtonNewAssignment", "ButtonNewTask", "PictureBoxTerm"},
-         {{"LabelTotalAssignments", "Classes:"}, {"LabelTimeRemaining", "Other Events:"}},
-         {"TextBoxClasses", "TextBoxOtherEvents"}},
-        {"MenuReminders", "Today's Reminders", 5, {"All", "Homework", "Tasks", "Events"}, {"Today"},
-         "This Reminder List...", {"PictureBoxReminders", "PictureBoxStudyTime", "picLock"},
-         {"ButtonNewAssignment", "ButtonNewTask", "ButtonNewEvent", "PictureBoxTerm"},
-         {{"LabelTotalAssignments", "Assignments:"}, {"LabelFinishedAssignments", "Tasks:"},
-          {"LabelTimeRemaining", "Events:"}},
-         {"TextBoxAssignments", "TextBoxTasks", "TextBoxEvents"}},
-    };
-    return table;
-}
+const ModeCase kModes[] = {
+    {"MenuHomework", "PictureBarHomework", "Homework Mode", {"All", "Done", "Not Done"}, {"Day", "Term"},
+     {"ButtonNewAssignment", "PictureBoxTerm", "LabelFinishedAssignments", "MenuNewAssignment"},
+     {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining"}},
+    {"MenuStudySessions", "PictureBarStudySessions", "Study Session Mode", {"All"}, {"Day", "Term"},
+     {"ButtonNewAssignment", "PictureBoxStudySessions", "PictureBoxTerm"}, {"TextBoxStudySessions", "TextBoxStudyTime"}},
+    {"MenuTasks", "PictureBarTasks", "Task Mode", {"All", "Done", "Not Done"}, {"Day", "All", "With Date", "Without Date"},
+     {"ButtonNewTask", "MenuNewTask"}, {"TextBoxTotalTasks", "TextBoxFinishedTasks"}},
+    {"MenuEvents", "PictureBarEvents", "Event Mode", {"All", "Classes", "Other Events"}, {"Day", "Week", "Month", "Year"},
+     {"ButtonNewEvent", "MenuNewEvent"}, {"TextBoxClasses", "TextBoxOtherEvents"}},
+    {"MenuReminders", "PictureBarReminders", "Today's Reminders", {"All", "Homework", "Tasks", "Events"}, {"Today"},
+     {"PictureBoxReminders", "PictureBoxStudyTime", "picLock", "LabelFinishedAssignments"},
+     {"TextBoxAssignments", "TextBoxTasks", "TextBoxEvents"}},
+};
 
-TEST(Modes, EachModeSetsItsWholeTable) {
+// Twice round, so that each mode is also entered from every other and must undo what it left.
+TEST(Modes, EachModeSetsItsWholeTableAndItsStatusBar) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
+    const auto& statusBar = static_cast<const RecordingCanvas&>(*window.c("picStatusBar").canvas);
     for (int pass = 0; pass < 2; ++pass) {
-        for (const ModeExpectation& mode : expectations()) {
+        for (const ModeCase& mode : kModes) {
             window.click(mode.menu);
             SCOPED_TRACE(mode.menu);
-            int ticks = 0;
-            for (const char* menu : {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"})
-                ticks += window.c(menu).checked;
-            EXPECT_EQ(ticks, 1);
-            EXPECT_TRUE(window.c(mode.menu).checked);
-            EXPECT_EQ(window.state.StatusBarText, mode.status);
-            EXPECT_EQ(window.state.SortColumn, mode.sortColumn);
-            EXPECT_EQ(window.state.SortDirection, 1);
+            for (const ModeCase& other : kModes) {
+                EXPECT_EQ(window.c(other.menu).checked, &other == &mode) << other.menu;
+                const std::string& picture = window.c(other.bar).picture;
+                EXPECT_EQ(picture.ends_with("Down"), &other == &mode) << picture;
+            }
+            EXPECT_EQ(statusBar.texts(),
+                      (std::vector<std::string>{mode.status, "Saturday, November 21, 2026      09:05 PM"}));
+            EXPECT_EQ(statusBar.calls().back().x2, statusBar.scaleWidth() - 150);  // right-aligned
             EXPECT_EQ(window.c("ComboList").items, mode.listEntries);
             EXPECT_EQ(window.c("ComboDateRange").items, mode.rangeEntries);
-            EXPECT_EQ(window.c("MenuExportList").caption, mode.exportList);
-            for (const std::string& name : mode.shown) EXPECT_TRUE(window.c(name).visible) << name;
-            for (const std::string& name : mode.hidden) EXPECT_FALSE(window.c(name).visible) << name;
-            for (const auto& [label, caption] : mode.labels) {
-                EXPECT_TRUE(window.c(label).visible) << label;
-                EXPECT_EQ(window.c(label).caption, caption);
+            for (const std::string name : kSwitched) {
+                const Control& control = window.c(name);
+                const bool expected = std::ranges::count(mode.on, name) == 1;
+                EXPECT_EQ(name.starts_with("Menu") ? control.enabled : control.visible, expected) << name;
             }
-            int boxesShown = 0;
+            std::vector<std::string> boxes;
             for (const std::string& key : window.order())
-                if (key.rfind("TextBox", 0) == 0 && window.c(key).container.empty() && window.c(key).visible) ++boxesShown;
-            EXPECT_EQ(boxesShown, int(mode.boxes.size()));
-            for (const std::string& box : mode.boxes) EXPECT_TRUE(window.c(box).visible) << box;
-            EXPECT_TRUE(window.c("PictureBoxViewMenus").visible);
+                if (key.starts_with("TextBox") && window.c(key).container.empty() && window.c(key).visible)
+                    boxes.push_back(key);
+            std::vector<std::string> expected = mode.boxes;
+            std::ranges::sort(boxes);
+            std::ranges::sort(expected);
+            EXPECT_EQ(boxes, expected);
             EXPECT_EQ(window.state.SuppressComboEvents, kFalse);
         }
     }
-}
-
-TEST(Modes, OnlyTheCurrentModesBarPictureIsPressed) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
-    window.click("PictureBarTasks");
-    EXPECT_EQ(window.c("PictureBarTasks").picture, "TasksDown");
-    EXPECT_EQ(window.c("PictureBarHomework").picture, "HomeworkUp");
-    EXPECT_EQ(window.c("PictureBarReminders").picture, "RemindersUp");
-    EXPECT_TRUE(window.c("MenuNewTask").enabled);
-    EXPECT_FALSE(window.c("MenuNewAssignment").enabled);
-    EXPECT_EQ(window.c("MenuExportCalendar").caption, "Task Calendar...");
+    main.fake.clock.advanceSeconds(60);  // the status bar's clock goes on
+    window.tick("TimerStatusBar");
+    EXPECT_EQ(statusBar.texts().at(1), "Saturday, November 21, 2026      09:06 PM");
 }
 
 TEST(Modes, FilterChoicesAreRememberedPerModeButTheSortIsNot) {
@@ -102,6 +83,7 @@ TEST(Modes, FilterChoicesAreRememberedPerModeButTheSortIsNot) {
     window.select("ComboList", "Done");
     window.select("ComboDateRange", "Day");
     window.state.SortColumn = 3;
+    window.state.SortDirection = -1;
     window.click("MenuTasks");
     EXPECT_EQ(window.c("ComboList").text, "All");
     EXPECT_EQ(window.c("ComboDateRange").text, "All");
@@ -110,34 +92,15 @@ TEST(Modes, FilterChoicesAreRememberedPerModeButTheSortIsNot) {
     EXPECT_EQ(window.c("ComboList").text, "Done");
     EXPECT_EQ(window.c("ComboDateRange").text, "Day");
     EXPECT_EQ(window.state.SortColumn, 7);
+    EXPECT_EQ(window.state.SortDirection, 1);
     window.click("MenuTasks");
     EXPECT_EQ(window.c("ComboDateRange").text, "Without Date");
-}
 
-TEST(Modes, AClickOnTheCurrentModeDoesNothing) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
+    // A click on the current mode, menu or bar, runs no mode routine: the sort stands.
     window.state.SortColumn = 2;
-    window.state.RefreshReason = "None";
-    window.click("PictureBarHomework");
-    window.click("MenuHomework");
-    EXPECT_EQ(window.state.SortColumn, 2);
-}
-
-TEST(Modes, RemindersModeSelectsTodayAndLocksTheCalendar) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
-    window.click("LabelCalDate(3)");
-    ASSERT_NE(window.state.ClickedDate, main.fake.clock.today());
-    window.click("MenuReminders");
-    EXPECT_EQ(window.state.ClickedDate, main.fake.clock.today());
-    EXPECT_TRUE(window.c("picLock").visible);
-    const Date before = window.state.ClickedDate;
-    window.click("LabelCalDate(3)");
-    window.click("LabelTomorrow");
-    EXPECT_EQ(window.state.ClickedDate, before);
+    window.click("PictureBarTasks");
     window.click("MenuTasks");
-    EXPECT_FALSE(window.c("picLock").visible);
+    EXPECT_EQ(window.state.SortColumn, 2);
 }
 
 }  // namespace

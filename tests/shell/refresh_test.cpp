@@ -5,95 +5,67 @@
 namespace qh {
 namespace {
 
-struct RefreshRow {
-    const char* reason;
-    std::array<const char*, 5> steps;  // Homework, Study Sessions, Tasks, Events, Reminders
-};
+const char* const kModeMenus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
 
-// The steps each reason runs per mode, with the letters R M Y C P L G T.
-const RefreshRow kTable[] = {
-    {"Mode Change", {"PRCLG", "PRCLG", "PRCL", "PRCL", "PMYLCT"}},
-    {"ViewChange", {"RCPL", "RCPL", "RCPL", "RCPL", "RPLCT"}},
-    {"Calendar", {"CPL", "CPL", "CPL", "CPL", "MPLCT"}},
-    {"StartDayofWeek", {"RC", "RC", "RC", "RC", "RC"}},
-    {"NewRecord", {"RCPLG", "RCPLG", "RCPL", "RCPL", "RPLCT"}},
-    {"NewTerm", {"RCPLG", "RCPLG", "", "", ""}},
-    {"Resize", {"PL", "PL", "PL", "PL", "PL"}},
-    {"StartDayOfWeek", {"", "", "", "", ""}},  // another case is no reason
-    {"Anything", {"", "", "", "", ""}},
-};
-
-void enterMode(MainWindow& window, int mode) {
-    const char* menus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
-    window.click(menus[mode]);
-}
-
-TEST(RefreshDisplay, RunsEachReasonsStepsInTheModesOrder) {
+// Steps by letter: R back to the shown date, M new month, Y today, C calendar, P grid
+// layout, L list, G grade list, T study time. A few reasons whose steps differ by mode,
+// and names that are no reason (the case counts).
+TEST(RefreshDisplay, RunsEachReasonsStepsForTheTickedMode) {
+    const struct {
+        const char* reason;
+        std::array<const char*, 5> steps;  // in the order of kModeMenus
+    } rows[] = {
+        {"Mode Change", {"PRCLG", "PRCLG", "PRCL", "PRCL", "PMYLCT"}},
+        {"ViewChange", {"RCPL", "RCPL", "RCPL", "RCPL", "RPLCT"}},
+        {"Calendar", {"CPL", "CPL", "CPL", "CPL", "MPLCT"}},
+        {"NewRecord", {"RCPLG", "RCPLG", "RCPL", "RCPL", "RPLCT"}},
+        {"NewTerm", {"RCPLG", "RCPLG", "", "", ""}},
+        {"StartDayOfWeek", {"", "", "", "", ""}},
+        {"Anything", {"", "", "", "", ""}},
+    };
     LoadedMainWindow main;
     MainWindow& window = main.load();
     for (int mode = 4; mode >= 0; --mode) {
-        enterMode(window, mode);
-        for (const RefreshRow& row : kTable) {
+        window.click(kModeMenus[mode]);
+        for (const auto& row : rows) {
             window.Refresh(row.reason);
-            EXPECT_EQ(window.lastRefreshSteps(), row.steps[std::size_t(mode)]) << row.reason << " in mode " << mode;
+            EXPECT_EQ(window.lastRefreshSteps(), row.steps[std::size_t(mode)]) << row.reason << " in " << kModeMenus[mode];
             EXPECT_EQ(window.state.RefreshReason, "None");
         }
     }
-}
-
-TEST(RefreshDisplay, WithNoModeTickedOnlyResetsTheReason) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
+    // With no mode ticked nothing runs, and the reason is still reset.
     window.c("MenuHomework").checked = false;
     window.Refresh("Mode Change");
     EXPECT_EQ(window.lastRefreshSteps(), "");
     EXPECT_EQ(window.state.RefreshReason, "None");
 }
 
-TEST(RefreshDisplay, ARangeChangeKeepsTheSelectedDateAndMonth) {
+TEST(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderWay) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     window.click("LabelCalDate(20)");
     const Date selected = window.state.ClickedDate;
-    window.select("ComboDateRange", "Day");
+    window.select("ComboDateRange", "Day");  // keeps the selected date and month
     EXPECT_EQ(window.lastRefreshSteps(), "RCPL");
     EXPECT_EQ(window.state.ClickedDate, selected);
     EXPECT_EQ(window.state.DisplayedDate, selected);
-}
-
-TEST(RefreshDisplay, CombosRefillingInsideAModeRoutineRaiseNothing) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
+    // The list choice tints the view panel.
+    for (const auto& [list, tint] : {std::pair{"Not Done", 0xE5E5FFu}, std::pair{"Done", 0xE2F7E1u}}) {
+        window.select("ComboList", list);
+        EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, tint) << list;
+    }
+    window.Refresh("Resize");
     window.state.SuppressComboEvents = kTrue;
-    window.select("ComboList", "Done");
-    EXPECT_EQ(window.lastRefreshSteps(), "PRCLG");  // still the mode change of the load
+    window.select("ComboList", "Not Done");
+    EXPECT_EQ(window.lastRefreshSteps(), "PL");  // still the resize
+    EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE2F7E1u);
     window.state.SuppressComboEvents = kFalse;
     window.state.RefreshReason = "Calendar";  // a refresh under way
-    window.select("ComboDateRange", "Day");
+    window.select("ComboDateRange", "Term");
     EXPECT_EQ(window.state.RefreshReason, "Calendar");
 }
 
-TEST(TintViewPanel, FollowsTheListChoice) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
-    window.select("ComboList", "Not Done");
-    EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE5E5FFu);
-    window.select("ComboList", "Done");
-    EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE2F7E1u);
-    window.click("MenuEvents");
-    window.select("ComboList", "Classes");
-    EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xD7EBFAu);
-}
-
-TEST(GridScroll, HandsTheFocusItGetsToTheGrid) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
-    window.focusedControl = "VSGridScroll";
-    window.fire("VSGridScroll", FormEvent::GotFocus);
-    EXPECT_EQ(window.focusedControl, "picGrid");
-}
-
-TEST(MainWindowResize, AMinimisedWindowRaisesNoRefresh) {
+TEST(MainWindow, AMinimisedWindowRaisesNoRefreshAndTheScrollBarHandsOnItsFocus) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     window.windowState = WindowState::Minimized;
@@ -103,6 +75,10 @@ TEST(MainWindowResize, AMinimisedWindowRaisesNoRefresh) {
     window.windowState = WindowState::Normal;
     window.Form_Resize();
     EXPECT_EQ(window.lastRefreshSteps(), "PL");
+
+    window.focusedControl = "VSGridScroll";
+    window.fire("VSGridScroll", FormEvent::GotFocus);
+    EXPECT_EQ(window.focusedControl, "picGrid");
 }
 
 }  // namespace
