@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <set>
 #include <sstream>
+#include <tuple>
 
 #include "probe_session.h"
 #include "record_store/color_vocabulary.h"
-#include "record_store/record_files.h"
-#include "record_store/storage_locations.h"
 #include "sample_content.h"
-#include "shell/preferences.h"
 #include "support/fake_platform.h"
 
 namespace qh {
@@ -58,67 +55,52 @@ bool ruleFitsItsDate(const std::string& number, const std::string& day, Date fir
     return number == "Last";
 }
 
-struct LoadedDrive {
-    FakePlatform fake;
-    RecordStore store;
-    RecordFiles files{store, fake.platform};
-    sample::DriveSummary made;
+// A realistic drive, and the planner started on it as the probe starts it.
+struct StartedDrive {
+    FakePlatform fake;  // for its fresh drive and host folders
+    sample::DriveSummary made = sample::MakeSampleDrive(fake.drive, DriveSize::Realistic, kToday);
+    std::ostringstream shown;
+    ProbeSession session{fake.drive, fake.host, shown};
 
-    explicit LoadedDrive(std::uint32_t seed = sample::kDefaultSeed) {
-        made = sample::MakeSampleDrive(fake.drive, DriveSize::Realistic, kToday, seed);
-        EXPECT_TRUE(SetStorageLocations(store, fake.platform));
-        EXPECT_TRUE(files.LoadTermsAndClasses());
-        // The term the preferences name, as the program makes it current at start.
-        WindowPlacement window;
-        PreferenceValues preferences;
-        ReadPreferences(fake.platform, store, 1280, 1024, window, preferences);
-        for (int i = 1; i <= store.TermNames.count(); ++i)
-            if (store.TermNames(i) == preferences.ActiveTerm) store.CurrentTermID = int16OrZero(store.TermIDs(i));
-        EXPECT_TRUE(files.LoadAssignments());
-        EXPECT_TRUE(files.LoadTasks());
-        EXPECT_TRUE(files.LoadEvents());
+    StartedDrive() {
+        std::istringstream script("clock 2026-11-21 09:05\nprint\n");
+        EXPECT_TRUE(session.run(script));
     }
-    std::string bytesOf(const std::string& name) const { return fake.bytesOf(fake.dataDirectory() + "/" + name); }
+    const RecordStore& store() { return session.window()->store; }
 };
 
-TEST(SampleDrive, TheRealisticDriveLoadsBackWithItsCounts) {
-    LoadedDrive d;
-    const RecordStore& s = d.store;
-    EXPECT_TRUE(d.fake.messages.shown.empty());
-    EXPECT_EQ(d.made.records, (sample::RecordCounts{4, 24, 800, 800, 3000, 300, 150}));
-
+TEST(SampleDrive, TheProgramFindsWhatTheSummarySays) {
+    StartedDrive d;
+    const RecordStore& s = d.store();
+    const sample::RecordCounts& r = d.made.records;
+    EXPECT_EQ(d.shown.str().find("Message: "), std::string::npos) << d.shown.str();
+    EXPECT_EQ(r, (sample::RecordCounts{4, 24, 800, 800, 3000, 300, 150}));
     // Every record is counted by the loads, deleted ones too.
-    EXPECT_EQ(s.NextTermRecord, 5);
-    EXPECT_EQ(s.NextClassRecord, 25);
-    EXPECT_EQ(s.NextAssignmentRecord, 801);
-    EXPECT_EQ(s.NextNoteRecord, 801);
-    EXPECT_EQ(s.NextStudySessionRecord, 3001);
-    EXPECT_EQ(s.NextTaskRecord, 301);
-    EXPECT_EQ(s.NextEventRecord, 151);
-
-    // The newest term is the active one, holds today, and brings its own homework.
-    EXPECT_EQ(s.CurrentTermID, 4);
-    EXPECT_EQ(d.made.activeTerm, "Fall 2026");
-    EXPECT_LE(dateFromText(s.TermStarts(4)), kToday);
-    EXPECT_GE(dateFromText(s.TermEnds(4)), kToday);
-    EXPECT_EQ(d.made.activeTermClasses, 6);
+    EXPECT_EQ(std::tuple(s.NextTermRecord, s.NextClassRecord, s.NextAssignmentRecord, s.NextNoteRecord,
+                         s.NextStudySessionRecord, s.NextTaskRecord, s.NextEventRecord),
+              std::tuple(r.terms + 1, r.classes + 1, r.assignments + 1, r.notes + 1, r.studySessions + 1,
+                         r.tasks + 1, r.events + 1));
+    // It opens on the newest term, which holds today, with that term's own homework.
+    EXPECT_NE(d.shown.str().find("Term: \"Fall 2026\" \"27 Days Left in Term\""), std::string::npos);
+    EXPECT_NE(d.shown.str().find("Rows: " + std::to_string(d.made.activeTermAssignments) + " from 1"),
+              std::string::npos);
+    EXPECT_EQ(s.CurrentTermID, r.terms);
+    EXPECT_EQ(s.CurrentTermName, d.made.activeTerm);
     EXPECT_EQ(s.AssignmentIDs.count(), d.made.activeTermAssignments);
     EXPECT_GT(d.made.activeTermAssignments, 180);
     EXPECT_EQ(s.StudySessionRecordNos.count(), d.made.activeTermSessions);
     EXPECT_GT(d.made.activeTermSessions, 300);
-
-    // One assignment in forty was deleted again: its note freed, its record kept.
-    EXPECT_EQ(d.made.liveNotes, 780);
-    EXPECT_EQ(s.NoteRecordNos.count(), 780);
-    EXPECT_EQ(d.made.liveTasks, 288);
-    EXPECT_EQ(s.TaskIDs.count(), 288);
-    EXPECT_EQ(d.made.liveEvents, 145);
-    EXPECT_EQ(s.EventIDs.count(), 145);
+    // A few records were deleted again, as the editors delete them.
+    EXPECT_EQ(std::tuple(s.NoteRecordNos.count(), s.TaskIDs.count(), s.EventIDs.count()),
+              std::tuple(d.made.liveNotes, d.made.liveTasks, d.made.liveEvents));
+    EXPECT_LT(d.made.liveNotes, r.notes);
+    EXPECT_LT(d.made.liveTasks, r.tasks);
+    EXPECT_LT(d.made.liveEvents, r.events);
 }
 
 TEST(SampleDrive, HomeworkAndEventsLieAroundTodayInRulesTheEditorsAccept) {
-    LoadedDrive d;
-    const RecordStore& s = d.store;
+    StartedDrive d;
+    const RecordStore& s = d.store();
 
     int past = 0, ahead = 0;
     for (const std::string& date : s.AssignmentDates) (dateFromText(date) < kToday ? past : ahead) += 1;
@@ -158,35 +140,20 @@ TEST(SampleDrive, HomeworkAndEventsLieAroundTodayInRulesTheEditorsAccept) {
     EXPECT_EQ(yearlyOrdinals, all);
 }
 
-TEST(SampleDrive, TheSameSeedMakesTheSameBytesAndAnotherSeedOthers) {
-    LoadedDrive first, again, other(7);
-    for (const char* name : kFiles) EXPECT_EQ(first.bytesOf(name), again.bytesOf(name)) << name;
-    EXPECT_NE(first.bytesOf("Assignments.txt"), other.bytesOf("Assignments.txt"));
-    EXPECT_NE(first.bytesOf("Events.txt"), other.bytesOf("Events.txt"));
-}
+// The same seed makes the same bytes, another seed others; a folder that holds planner
+// data is refused and left as it was.
+TEST(SampleDrive, TheSameSeedMakesTheSameBytesAndAFullFolderIsRefused) {
+    FakePlatform first, again, other;
+    sample::MakeSampleDrive(first.drive, DriveSize::Realistic, kToday);
+    sample::MakeSampleDrive(again.drive, DriveSize::Realistic, kToday);
+    sample::MakeSampleDrive(other.drive, DriveSize::Realistic, kToday, 7);
+    auto bytes = [](FakePlatform& fake, const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); };
+    for (const char* name : kFiles) EXPECT_EQ(bytes(first, name), bytes(again, name)) << name;
+    EXPECT_NE(bytes(first, "Assignments.txt"), bytes(other, "Assignments.txt"));
+    EXPECT_NE(bytes(first, "Events.txt"), bytes(other, "Events.txt"));
 
-TEST(SampleDrive, RefusesAFolderThatHoldsPlannerData) {
-    FakePlatform fake;
-    sample::MakeSampleDrive(fake.drive, DriveSize::Realistic, kToday);
-    const std::string before = fake.bytesOf(fake.dataDirectory() + "/Tasks.txt");
-    EXPECT_THROW(sample::MakeSampleDrive(fake.drive, DriveSize::Realistic, kToday, 99), std::runtime_error);
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"), before);
-}
-
-TEST(SampleDrive, TheProgramOpensOnTheNewestTermsHomework) {
-    FakePlatform fake;
-    const sample::DriveSummary made = sample::MakeSampleDrive(fake.drive, DriveSize::Realistic, kToday);
-    std::ostringstream out;
-    {
-        ProbeSession session(fake.drive, fake.host, out);
-        std::istringstream script("clock 2026-11-21 09:05\nprint\nexit\n");
-        ASSERT_TRUE(session.run(script));
-    }
-    const std::string shown = out.str();
-    EXPECT_NE(shown.find("Term: \"Fall 2026\" \"27 Days Left in Term\""), std::string::npos) << shown;
-    EXPECT_NE(shown.find("Rows: " + std::to_string(made.activeTermAssignments) + " from 1"), std::string::npos)
-        << shown;
-    EXPECT_EQ(shown.find("Message: "), std::string::npos) << shown;
+    EXPECT_THROW(sample::MakeSampleDrive(first.drive, DriveSize::Realistic, kToday, 99), std::runtime_error);
+    EXPECT_EQ(bytes(first, "Tasks.txt"), bytes(again, "Tasks.txt"));
 }
 
 }  // namespace
