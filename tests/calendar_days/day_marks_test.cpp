@@ -21,29 +21,27 @@ std::string markedCells(const DayMarks& marks) {
     return cells;
 }
 
-TEST(DayMarks, MarkTheFirstAndLastCellButNothingJustOutside) {
+TEST(DayMarks, HomeworkMarksTheFortyTwoCellsByTheDoneFilterWithoutTombstones) {
     RecordStore store;
     const MainWindowColors colors;
-    for (Date d : {kFirstCell - 1, kFirstCell, kFirstCell + 41, kFirstCell + 42, kFirstCell + 41})
-        addAssignment(store, d, false);
-    const DayMarks marks = MarkHomeworkDays(store, kFirstCell, "All", colors);
-    EXPECT_EQ(markedCells(marks), "0 41 ");
-    EXPECT_EQ(marks.markedBack, colors.TintBlue);
-}
-
-TEST(DayMarks, HomeworkFiltersByDoneAndSkipsTombstones) {
-    RecordStore store;
-    const MainWindowColors colors;
+    for (Date d : {kFirstCell - 1, kFirstCell, kFirstCell + 41, kFirstCell + 42}) addAssignment(store, d, false);
     addAssignment(store, kFirstCell + 3, true);
     addAssignment(store, kFirstCell + 3, false);
-    addAssignment(store, kFirstCell + 5, false);
+    addAssignment(store, kFirstCell + 5, true);
     addAssignment(store, kFirstCell + 7, true, "DELETED RECORD");
-    EXPECT_EQ(markedCells(MarkHomeworkDays(store, kFirstCell, "Done", colors)), "3 ");
-    EXPECT_EQ(markedCells(MarkHomeworkDays(store, kFirstCell, "Not Done", colors)), "3 5 ");
-    const DayMarks other = MarkHomeworkDays(store, kFirstCell, "Someday", colors);
-    EXPECT_EQ(markedCells(other), "");
-    EXPECT_EQ(other.markedBack, colors.TintPink);
-    EXPECT_EQ(MarkHomeworkDays(store, kFirstCell, "Done", colors).markedBack, colors.TintGreen);
+    const struct {
+        const char* filter;
+        const char* cells;
+        std::string MainWindowColors::*tint;
+    } filters[] = {{"All", "0 3 5 41 ", &MainWindowColors::TintBlue},
+                   {"Done", "3 5 ", &MainWindowColors::TintGreen},
+                   {"Not Done", "0 3 41 ", &MainWindowColors::TintPink},
+                   {"Someday", "", &MainWindowColors::TintPink}};
+    for (const auto& f : filters) {
+        const DayMarks marks = MarkHomeworkDays(store, kFirstCell, f.filter, colors);
+        EXPECT_EQ(markedCells(marks), f.cells) << f.filter;
+        EXPECT_EQ(marks.markedBack, colors.*f.tint) << f.filter;
+    }
 }
 
 TEST(DayMarks, DeletedSessionsAndUndatedTasksMarkNothing) {
