@@ -2,25 +2,10 @@
 
 #include <tuple>
 
-#include "shell/month_navigator.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
 namespace {
-
-TEST(FirstCellDate, AMonthStartingOnTheFirstColumnGetsAWholeRowBefore) {
-    // November 2026 begins on a Sunday, June 2026 on a Monday, August 2026 on a Saturday.
-    const struct {
-        int month;
-        const char* start;
-        Ymd first;
-    } cases[] = {
-        {11, "Sunday", {2026, 10, 25}},  {6, "Monday", {2026, 5, 25}},    {8, "Saturday", {2026, 7, 25}},
-        {11, "Monday", {2026, 10, 26}},  {11, "Saturday", {2026, 10, 31}}, {12, "Sunday", {2026, 11, 29}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(ymdOf(FirstCellDate(2026, c.month, c.start)), c.first) << c.month << " " << c.start;
-}
 
 class MonthNavigator : public ::testing::Test {
 protected:
@@ -128,10 +113,23 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     window->click("LabelCalDay(1)");
     EXPECT_EQ(headers(), "MTWTFSS/56");
     EXPECT_EQ(window->lastRefreshSteps(), "RC");
-    EXPECT_EQ(window->c("LabelCalDate(0)").caption, "26");
     window->click("MenuStartSat");
     EXPECT_EQ(headers(), "SSMTWTF/12");
-    EXPECT_EQ(window->state.StartDayOfWeek, "Saturday");
+
+    // The first cell starts the week of the 1st; a month whose 1st is the first day of
+    // the week shows the whole week before it.
+    const struct {
+        const char* start;
+        Ymd month;
+        const char* firstCell;
+    } cases[] = {{"MenuStartSun", {2026, 11, 1}, "25"}, {"MenuStartSun", {2026, 12, 1}, "29"},
+                 {"MenuStartMon", {2026, 11, 1}, "26"}, {"MenuStartMon", {2026, 6, 1}, "25"},
+                 {"MenuStartSat", {2026, 11, 1}, "31"}, {"MenuStartSat", {2026, 8, 1}, "25"}};
+    for (const auto& c : cases) {
+        window->click(c.start);
+        show(c.month);
+        EXPECT_EQ(window->c("LabelCalDate(0)").caption, c.firstCell) << c.start << " " << c.month.month;
+    }
 }
 
 }  // namespace
