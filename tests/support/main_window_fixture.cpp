@@ -30,15 +30,4 @@ std::string assignmentRecord(int recordNo, int classLink, const std::string& dat
            std::string(20, '\0');
 }
 
-std::string sessionRecord(int recordNo, int link, const std::string& length, const std::string& date) {
-    return field(std::to_string(recordNo), 5) + field(std::to_string(link), 5) + field(length, 10) + field(date, 15) +
-           std::string(20, '\0');
-}
-
-std::string taskRecord(int recordNo, const std::string& description, bool dated, const std::string& date, bool done) {
-    return field(std::to_string(recordNo), 5) + field(std::to_string(recordNo), 5) + field(description, 60) +
-           field(dated ? "True" : "False", 5) + field(date, 15) + field("Personal", 10) + field("Normal", 10) +
-           field(done ? "True" : "False", 5) + field("", 845) + field("None", 20) + std::string(20, '\0');
-}
-
 }  // namespace qh

@@ -33,9 +33,5 @@ std::string classRecord(int id, int termLink, const std::string& name, const std
 // An Assignments.txt record.
 std::string assignmentRecord(int recordNo, int classLink, const std::string& date, const std::string& description,
                              bool done, const std::string& estTime = "01 : 00");
-// A StudySessions.txt record.
-std::string sessionRecord(int recordNo, int link, const std::string& length, const std::string& date);
-// A Tasks.txt record.
-std::string taskRecord(int recordNo, const std::string& description, bool dated, const std::string& date, bool done);
 
 }  // namespace qh

@@ -11,7 +11,6 @@ void RecordingCanvas::resize(int widthTwips, int heightTwips) {
 
 void RecordingCanvas::clear(Color background) {
     calls_.clear();
-    ++clears_;
     calls_.push_back({CanvasCall::Clear, 0, 0, width_, height_, background, {}, font_});
 }
 

@@ -39,14 +39,12 @@ public:
     std::string textsIn(int x1, int y1, int x2, int y2) const;
     // All texts since the last clear, in drawing order.
     std::vector<std::string> texts() const;
-    int clears() const { return clears_; }
 
 private:
     int width_ = 0, height_ = 0;
     CanvasFont font_;
     Color foreColor_ = kBlack;
     std::vector<CanvasCall> calls_;
-    int clears_ = 0;
 };
 
 class RecordingCanvasFactory : public CanvasFactory {
