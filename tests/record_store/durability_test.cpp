@@ -51,6 +51,7 @@ struct RecordFileKind {
     std::string goneValue;  // ...or this, for a delete
 };
 
+// clang-format off
 const RecordFileKind kKinds[] = {
     {"Assignments.txt", kAssignmentsLayout, &S::NextAssignmentRecord,
      {&S::AssignmentRecordNos, &S::AssignmentIDs, &S::AssignmentClassLinks, &S::AssignmentDates, &S::AssignmentTypes,
@@ -95,6 +96,7 @@ const RecordFileKind kKinds[] = {
      },
      3, kDeletedRecord},
 };
+// clang-format on
 const RecordFileKind& kAssignments = kKinds[0];
 const RecordFileKind& kSessions = kKinds[2];
 
@@ -103,7 +105,8 @@ const RecordFileKind& kSessions = kKinds[2];
 class TornDrive {
 public:
     TornDrive() {
-        for (const std::string n : {"1", "2", "3"}) terms_.push_back({n, "Term " + n, "2026/0" + n + "/01", "2026/09/28"});
+        for (const std::string n : {"1", "2", "3"})
+            terms_.push_back({n, "Term " + n, "2026/0" + n + "/01", "2026/09/28"});
         classes_ = {{"1", "1", "Biology", "Black", "MistyRose", "Room 4"},
                     {"2", "1", "Chemistry", "Navy", "AliceBlue", "Lab 2"},
                     {"3", "2", "History", "Black", "Wheat", ""},
@@ -151,7 +154,8 @@ public:
         values[kind.edited] = dice() % 4 == 0 ? kind.goneValue : "Changed " + std::string(dice() % 900, 'x');
         const std::string record = buildRecord(kind.layout, values);
         const std::size_t offset = dice() % record.size();
-        const std::string where = kind.name + " record " + std::to_string(number) + " torn at " + std::to_string(offset);
+        const std::string where =
+            kind.name + " record " + std::to_string(number) + " torn at " + std::to_string(offset);
 
         // All a save of one record needs of the store: where the files are, and its counter.
         S store;
@@ -200,7 +204,8 @@ public:
         store.ClassNames(2) = "Organic Chemistry";
         const Rows newTerms = rowsOf(store, kTermColumns);
         const std::string terms = wholeFile(kTermsLayout, newTerms);
-        const std::size_t size = classes ? wholeFile(kClassesLayout, rowsOf(store, kClassColumns)).size() : terms.size();
+        const std::size_t size =
+            classes ? wholeFile(kClassesLayout, rowsOf(store, kClassColumns)).size() : terms.size();
         const std::size_t offset = dice() % size;
         RecordFiles files(store, d_.fake.platform);
         d_.fake.files.tearWrite(classes ? 2 : 1, (long long)offset);

@@ -45,11 +45,15 @@ struct FullDrive : StoreOnDrive {
                                          assignment(3, 20, "Essay") + assignment(4, 10, "DELETED RECORD") +
                                          assignment(5, 10, "Quiz"));
         writeFile("Notes.txt", records(kNotesLayout, kNote, 1, {"1", "0", "3", "-1"}));
-        writeFile("StudySessions.txt", records(kStudySessionsLayout, kSession, 1, {"1", "-1", "0", "3", "2", "5"}) + "part");
-        writeFile("Tasks.txt", records(kTasksLayout, {"", "9", "", "True", "2026.12.01", "Errand", "Low", "False", "", ""}, 2,
-                                       {"Buy stamps", "DELETED RECORD", "Call home"}) + "part");
-        writeFile("Events.txt", records(kEventsLayout, {"", "9", "2026-12-24", "", "Social", "All Day", "Year", "True", "First",
-                                                        "Day", "FFFFFFF", "True", "never-ever", "", "None"},
+        writeFile("StudySessions.txt",
+                  records(kStudySessionsLayout, kSession, 1, {"1", "-1", "0", "3", "2", "5"}) + "part");
+        writeFile("Tasks.txt",
+                  records(kTasksLayout, {"", "9", "", "True", "2026.12.01", "Errand", "Low", "False", "", ""}, 2,
+                          {"Buy stamps", "DELETED RECORD", "Call home"}) +
+                      "part");
+        writeFile("Events.txt", records(kEventsLayout,
+                                        {"", "9", "2026-12-24", "", "Social", "All Day", "Year", "True", "First", "Day",
+                                         "FFFFFFF", "True", "never-ever", "", "None"},
                                         3, {"Holiday party", "DELETED RECORD", "Recital"}));
     }
 };
@@ -125,8 +129,7 @@ TEST(Loads, AReadErrorEndsTheRoutineWithTheRowsSoFarAndClearsTheFilesFlag) {
         // Five assignments, the read past their end, then the third note.
         {"Notes.txt", 9, &RecordFiles::LoadAssignments, &S::NotesChanged, &S::NoteRecordNos, 1,
          &S::StudySessionRecordNos, &S::NextNoteRecord},
-        {"Events.txt", 3, &RecordFiles::LoadEvents, &S::EventsChanged, &S::EventIDs, 1, nullptr,
-         &S::NextEventRecord},
+        {"Events.txt", 3, &RecordFiles::LoadEvents, &S::EventsChanged, &S::EventIDs, 1, nullptr, &S::NextEventRecord},
     };
     for (const auto& c : cases) {
         FullDrive d;

@@ -11,7 +11,8 @@ namespace {
 std::vector<std::string> directoriesMade(const FakeFileSystem& files) {
     std::vector<std::string> made;
     for (const std::string& line : files.log)
-        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir") made.push_back(line.substr(6, line.size() - 12));
+        if (line.size() > 6 && line.substr(line.size() - 6) == " mkdir")
+            made.push_back(line.substr(6, line.size() - 12));
     return made;
 }
 
@@ -63,10 +64,14 @@ TEST(StorageLocations, AMissingDirectoryShowsItsMessage) {
 
 TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNamesOnly) {
     using S = RecordStore;
-    const std::pair<const char*, Int16 S::*> files[] = {
-        {"Terms.txt", &S::TermsChanged},         {"Classes.txt", &S::ClassesChanged}, {"Assignments.txt", &S::AssignmentsChanged},
-        {"Notes.txt", &S::NotesChanged},         {"StudySessions.txt", &S::StudySessionsChanged},
-        {"Tasks.txt", &S::TasksChanged},         {"Events.txt", &S::EventsChanged},   {"", nullptr}};
+    const std::pair<const char*, Int16 S::*> files[] = {{"Terms.txt", &S::TermsChanged},
+                                                        {"Classes.txt", &S::ClassesChanged},
+                                                        {"Assignments.txt", &S::AssignmentsChanged},
+                                                        {"Notes.txt", &S::NotesChanged},
+                                                        {"StudySessions.txt", &S::StudySessionsChanged},
+                                                        {"Tasks.txt", &S::TasksChanged},
+                                                        {"Events.txt", &S::EventsChanged},
+                                                        {"", nullptr}};
     FakePlatform fake;
     RecordStore store;
     for (const auto& [name, flag] : files) {

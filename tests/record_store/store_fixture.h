@@ -30,8 +30,9 @@ inline std::string rawRecord(const RecordLayout& layout, const std::vector<std::
     std::string bytes;
     std::size_t next = 0;
     for (const FieldSpec& field : layout.fields) {
-        std::string value = field.kind == FieldKind::Reserved ? std::string(std::size_t(field.width), layout.reservedFill)
-                                                              : values.at(next++);
+        std::string value = field.kind == FieldKind::Reserved
+                                ? std::string(std::size_t(field.width), layout.reservedFill)
+                                : values.at(next++);
         value.resize(std::size_t(field.width), ' ');
         bytes += value;
     }

