@@ -18,10 +18,15 @@ public:
         add(ControlKind::ComboBox, "ComboList", "", 100, 900, 2000, 300).items = {"All", "Done", "Not Done"};
         add(ControlKind::CheckBox, "CheckBoxDone", "", 100, 1300, 2000, 300);
         add(ControlKind::RadioButton, "RadioA", "", 100, 1700, 2000, 300, 0);
+        add(ControlKind::RadioButton, "RadioA", "", 100, 2000, 2000, 300, 1).checked = true;
         add(ControlKind::Timer, "Timer1", "", 0, 0, 0, 0).interval = 1000;
         addDrawable("picGrid", "", 0, 2000, 3000, 1500);
-        on("ButtonOK", FormEvent::Click, [this](const EventArgs&) { log += "ok;"; hide(); });
-        on("TextBoxName", FormEvent::Change, [this](const EventArgs&) { log += "typed " + c("TextBoxName").text + ";"; });
+        on("ButtonOK", FormEvent::Click, [this](const EventArgs&) {
+            log += "ok;";
+            hide();
+        });
+        on("TextBoxName", FormEvent::Change,
+           [this](const EventArgs&) { log += "typed " + c("TextBoxName").text + ";"; });
         on("ComboList", FormEvent::Click, [this](const EventArgs&) { log += "list " + c("ComboList").text + ";"; });
         on("CheckBoxDone", FormEvent::Click, [this](const EventArgs&) {
             log += std::string("done ") + (c("CheckBoxDone").checked ? "on" : "off") + ";";
@@ -32,7 +37,7 @@ public:
     std::string log;
 };
 
-TEST(FormKit, DrivesControlsByNameAsAUserWould) {
+TEST(FormKit, DrivesControlsByNameAsAUserWouldAndIgnoresClicksOnDisabledOrHiddenOnes) {
     FakePlatform fake;
     SampleWindow window(fake.canvases);
     window.type("TextBoxName", "Algebra");
@@ -43,20 +48,15 @@ TEST(FormKit, DrivesControlsByNameAsAUserWould) {
     window.tick("Timer1");  // off: nothing
     window.c("Timer1").enabled = true;
     window.tick("Timer1");
-    EXPECT_EQ(window.log, "typed Algeb;list Not Done;done on;done off;radio;tick;");
-    EXPECT_EQ(window.c("ComboList").listIndex, 2);
-    EXPECT_TRUE(window.c("RadioA", 0).checked);
-}
-
-TEST(FormKit, DisabledOrHiddenControlsIgnoreClicks) {
-    FakePlatform fake;
-    SampleWindow window(fake.canvases);
     window.c("ButtonOK").enabled = false;
     window.click("ButtonOK");
     window.c("ButtonOK").enabled = true;
     window.c("ButtonOK").visible = false;
     window.click("ButtonOK");
-    EXPECT_EQ(window.log, "");
+    EXPECT_EQ(window.log, "typed Algeb;list Not Done;done on;done off;radio;tick;");
+    EXPECT_EQ(window.c("ComboList").listIndex, 2);
+    EXPECT_TRUE(window.c("RadioA", 0).checked);
+    EXPECT_FALSE(window.c("RadioA", 1).checked);
     EXPECT_THROW(window.c("NoSuchControl"), UntrappedFailure);
 }
 
@@ -74,7 +74,7 @@ TEST(FormKit, ModalShowLastsUntilTheModelHidesTheWindow) {
     EXPECT_EQ(window.log, "ok;");
 }
 
-TEST(FormKit, DrawablePictureBoxesOwnACanvasThatFollowsTheirSize) {
+TEST(FormKit, PictureBoxCanvasesFollowTheirSizeAndZOrderMovesWithinTheWindow) {
     FakePlatform fake;
     SampleWindow window(fake.canvases);
     ASSERT_TRUE(window.c("picGrid").canvas);
@@ -82,11 +82,6 @@ TEST(FormKit, DrawablePictureBoxesOwnACanvasThatFollowsTheirSize) {
     window.move("picGrid", 0, 0, 4500, 600);
     EXPECT_EQ(window.c("picGrid").canvas->scaleWidth(), 4500);
     EXPECT_EQ(window.c("picGrid").canvas->scaleHeight(), 600);
-}
-
-TEST(FormKit, ZOrderRaisesAndLowersWithinTheWindow) {
-    FakePlatform fake;
-    SampleWindow window(fake.canvases);
     window.bringToFront("ButtonOK");
     EXPECT_GT(window.c("ButtonOK").z, window.c("picGrid").z);
     window.sendToBack("ButtonOK");

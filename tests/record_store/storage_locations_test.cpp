@@ -64,26 +64,19 @@ TEST(StorageLocations, AMissingDirectoryShowsItsMessage) {
 
 TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNamesOnly) {
     using S = RecordStore;
-    const std::pair<const char*, Int16 S::*> files[] = {{"Terms.txt", &S::TermsChanged},
-                                                        {"Classes.txt", &S::ClassesChanged},
-                                                        {"Assignments.txt", &S::AssignmentsChanged},
-                                                        {"Notes.txt", &S::NotesChanged},
-                                                        {"StudySessions.txt", &S::StudySessionsChanged},
-                                                        {"Tasks.txt", &S::TasksChanged},
-                                                        {"Events.txt", &S::EventsChanged},
-                                                        {"", nullptr}};
+    Int16 S::*const flags[] = {&S::TermsChanged,         &S::ClassesChanged, &S::AssignmentsChanged, &S::NotesChanged,
+                               &S::StudySessionsChanged, &S::TasksChanged,   &S::EventsChanged};
+    const char* const names[] = {"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
+                                 "StudySessions.txt", "Tasks.txt",   "Events.txt"};
     FakePlatform fake;
     RecordStore store;
-    for (const auto& [name, flag] : files) {
-        for (const auto& [other, otherFlag] : files)
-            if (otherFlag) store.*otherFlag = kTrue;
-        ReportFileError(store, fake.messages, name, "writing");
-        for (const auto& [other, otherFlag] : files)
-            if (otherFlag) {
-                EXPECT_EQ(store.*otherFlag, otherFlag == flag ? kFalse : kTrue) << name << " " << other;
-            }
+    for (auto flag : flags) store.*flag = kTrue;
+    ReportFileError(store, fake.messages, "", "writing");  // no file's
+    for (int i = 0; i < 7; ++i) {
+        ReportFileError(store, fake.messages, names[i], "writing");
+        for (int j = 0; j < 7; ++j) EXPECT_EQ(store.*flags[j], j <= i ? kFalse : kTrue) << names[i] << " " << names[j];
     }
-    const ShownMessage& box = fake.messages.shown.front();
+    const ShownMessage& box = fake.messages.shown.at(1);
     EXPECT_EQ(box.title, "Quillhollow - File Read Error");
     EXPECT_EQ(box.text,
               "Error writing the file: Terms.txt\r\n\r\nDo not continue working. Exit and restart Quillhollow. If "

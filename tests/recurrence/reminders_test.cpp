@@ -47,9 +47,7 @@ TEST(TaskReminders, StayFromTheReminderDateUntilDone) {
               (Lines{"Task 1 0 2026/05/10", "Task 2 2 2026/05/12"}));
     const ReminderRows later = GatherReminders(store, ymd(2026, 6, 1), "All");
     EXPECT_EQ(rowLines(later), (Lines{"Task 1 -22 2026/05/10", "Task 2 -20 2026/05/12"}));
-    EXPECT_EQ(later.ReminderClasses, (TextColumn{"", ""}));
     EXPECT_EQ(later.ReminderTypes, (TextColumn{"None", "Project"}));
-    EXPECT_EQ(later.ReminderForeColors, (TextColumn{"Black", "Black"}));
     EXPECT_EQ(later.ReminderBackColors, (TextColumn{"White", "Gold"}));
     EXPECT_EQ(later.TaskReminderCount, 2);
 }
