@@ -80,8 +80,6 @@ public:
     }
 
     std::vector<std::string> log;  // "mkdir <path>", "write <path> #n", ... in order
-    int reads() const { return reads_; }
-    int writes() const { return writes_; }
 
     // Used by the record file wrapper.
     void countRead(const std::string& path);
