@@ -54,7 +54,7 @@ public:
     std::string mediumTime(int secondsOfDay) const override { return std::to_string(secondsOfDay); }
     std::string monthName(int month) const override { return std::to_string(month); }
     std::string dayName(int weekday) const override { return std::to_string(weekday); }
-    int compareText(const std::string& a, const std::string& b) const override { return a.compare(b); }
+    void appendSortKey(std::string_view text, std::string& key) const override { key.append(text); }
     MessageAnswer show(const std::string& text, const std::string& title, MessageButtons, MessageIcon) override {
         shown.push_back({text, title});
         return MessageAnswer::OK;
