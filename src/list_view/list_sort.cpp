@@ -237,33 +237,26 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
     const auto className = [&](int i) -> const std::string& { return field(rows.ListClassNames, i); };
     const auto timeLeft = [&](int i) { return MinutesOfTimeForm(field(rows.ListTimes, i)); };
     const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
-    SortKeys keys;
-    switch (column) {
-        case 1:
-            keys = textKeys(SortRule::Text, n, className);
-            break;
-        case 2:
-            keys = record(SortRule::Text, store.AssignmentTypes);
-            break;
-        case 3:
-            keys = record(SortRule::Text, store.AssignmentDescriptions);
-            break;
-        case 4:
-            keys = record(SortRule::Text, store.AssignmentDifficulties);
-            break;
-        case 5:
-            keys = numberKeys(SortRule::Minutes, n, timeLeft);
-            break;
-        case 6:
-            keys = numberKeys(SortRule::Date, n, due);
-            break;
-        case 7:
-            keys = record(SortRule::BinaryText, store.AssignmentDones);
-            break;
-        default:
-            keys = record(SortRule::BinaryText, store.AssignmentGrades);
-            break;
-    }
+    const SortKeys keys = [&] {
+        switch (column) {
+            case 1:
+                return textKeys(SortRule::Text, n, className);
+            case 2:
+                return record(SortRule::Text, store.AssignmentTypes);
+            case 3:
+                return record(SortRule::Text, store.AssignmentDescriptions);
+            case 4:
+                return record(SortRule::Text, store.AssignmentDifficulties);
+            case 5:
+                return numberKeys(SortRule::Minutes, n, timeLeft);
+            case 6:
+                return numberKeys(SortRule::Date, n, due);
+            case 7:
+                return record(SortRule::BinaryText, store.AssignmentDones);
+            default:
+                return record(SortRule::BinaryText, store.AssignmentGrades);
+        }
+    }();
     reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListTimes,
                 rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
 }
@@ -284,30 +277,24 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
     };
     const auto className = [&](int i) -> const std::string& { return field(rows.ListClassNames, i); };
     const auto due = [&](int i) { return dayOf(field(store.AssignmentDates, r(i))); };
-    SortKeys keys;
-    switch (column) {
-        case 1:
-            keys = textKeys(SortRule::Text, n, className);
-            break;
-        case 2:
-            keys = record(store.AssignmentTypes);
-            break;
-        case 3:
-            keys = record(store.AssignmentDescriptions);
-            break;
-        case 4:
-            keys = record(store.AssignmentDifficulties);
-            break;
-        case 5:
-            keys = numberKeys(SortRule::Minutes, n, length);
-            break;
-        case 6:
-            keys = numberKeys(SortRule::Date, n, doneOn);
-            break;
-        default:
-            keys = numberKeys(SortRule::Date, n, due);
-            break;
-    }
+    const SortKeys keys = [&] {
+        switch (column) {
+            case 1:
+                return textKeys(SortRule::Text, n, className);
+            case 2:
+                return record(store.AssignmentTypes);
+            case 3:
+                return record(store.AssignmentDescriptions);
+            case 4:
+                return record(store.AssignmentDifficulties);
+            case 5:
+                return numberKeys(SortRule::Minutes, n, length);
+            case 6:
+                return numberKeys(SortRule::Date, n, doneOn);
+            default:
+                return numberKeys(SortRule::Date, n, due);
+        }
+    }();
     reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListSessionLengthRows,
                 rows.ListSessionDateRows, rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
 }
@@ -329,24 +316,20 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
         const auto date = dated ? parseDateText(field(store.TaskDates, r(i))) : std::nullopt;
         return date ? *date : (direction == 1 ? kUndatedLast : kUndatedFirst);
     };
-    SortKeys keys;
-    switch (column) {
-        case 1:
-            keys = record(SortRule::Text, store.TaskDescriptions);
-            break;
-        case 2:
-            keys = recordOrSubstitute(store.TaskTypes);
-            break;
-        case 3:
-            keys = recordOrSubstitute(store.TaskPriorities);
-            break;
-        case 4:
-            keys = numberKeys(SortRule::Date, n, day);
-            break;
-        default:
-            keys = record(SortRule::BinaryText, store.TaskDones);
-            break;
-    }
+    const SortKeys keys = [&] {
+        switch (column) {
+            case 1:
+                return record(SortRule::Text, store.TaskDescriptions);
+            case 2:
+                return recordOrSubstitute(store.TaskTypes);
+            case 3:
+                return recordOrSubstitute(store.TaskPriorities);
+            case 4:
+                return numberKeys(SortRule::Date, n, day);
+            default:
+                return record(SortRule::BinaryText, store.TaskDones);
+        }
+    }();
     reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListTaskRows, rows.ListTaskForeColors,
                 rows.ListTaskBackColors);
 }
@@ -366,24 +349,20 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
     };
     const auto name = [&](int i) -> const std::string& { return field(store.EventDescriptions, r(i)); };
     const auto date = [&](int i) -> long long { return rows.ListEventDates.valueOr(i, 0); };
-    SortKeys keys;
-    switch (column) {
-        case 1:
-            keys = textKeys(SortRule::Text, n, name);
-            break;
-        case 2:
-            keys = recordOrSubstitute(store.EventTypes);
-            break;
-        case 3:
-            keys = numberKeys(SortRule::Date, n, date);
-            break;
-        case 4:
-            keys = numberKeys(SortRule::Date, n, minuteOfDay);
-            break;
-        default:
-            keys = recordOrSubstitute(store.EventRecurrences);
-            break;
-    }
+    const SortKeys keys = [&] {
+        switch (column) {
+            case 1:
+                return textKeys(SortRule::Text, n, name);
+            case 2:
+                return recordOrSubstitute(store.EventTypes);
+            case 3:
+                return numberKeys(SortRule::Date, n, date);
+            case 4:
+                return numberKeys(SortRule::Date, n, minuteOfDay);
+            default:
+                return recordOrSubstitute(store.EventRecurrences);
+        }
+    }();
     reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListEventRows, rows.ListEventDates,
                 rows.ListEventForeColors, rows.ListEventBackColors);
 }
@@ -401,27 +380,22 @@ void SortReminderList(ReminderRows& rows, int column, int direction, const Local
     };
     const auto days = [&](int i) -> long long { return rows.ReminderDays.valueOr(i, 0); };
     const auto date = [&](int i) -> long long { return rows.ReminderDates.valueOr(i, 0); };
-    SortKeys keys;
-    switch (column) {
-        case 1:
-            keys = own(rows.ReminderKinds);
-            break;
-        case 2:
-            keys = textKeys(SortRule::Text, n, classOrSubstitute);
-            break;
-        case 3:
-            keys = own(rows.ReminderTypes);
-            break;
-        case 4:
-            keys = own(rows.ReminderDescriptions);
-            break;
-        case 5:
-            keys = numberKeys(SortRule::Number, n, days);
-            break;
-        default:
-            keys = numberKeys(SortRule::Date, n, date);
-            break;
-    }
+    const SortKeys keys = [&] {
+        switch (column) {
+            case 1:
+                return own(rows.ReminderKinds);
+            case 2:
+                return textKeys(SortRule::Text, n, classOrSubstitute);
+            case 3:
+                return own(rows.ReminderTypes);
+            case 4:
+                return own(rows.ReminderDescriptions);
+            case 5:
+                return numberKeys(SortRule::Number, n, days);
+            default:
+                return numberKeys(SortRule::Date, n, date);
+        }
+    }();
     reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ReminderRecords, rows.ReminderKinds,
                 rows.ReminderForeColors, rows.ReminderBackColors, rows.ReminderClasses, rows.ReminderTypes,
                 rows.ReminderDescriptions, rows.ReminderDays, rows.ReminderDates);
