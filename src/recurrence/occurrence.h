@@ -3,10 +3,9 @@
 //
 // An Event is stored once, with its first date and its rule; no occurrence is stored.
 // The single-date test here, the range walk of expansion.h and the reminder walk of
-// reminders.h must agree on the dates of every rule the event editor can make. One known
-// exception, kept on purpose: a "Last" weekday rule whose first date lies on day 22..28
-// while a later such weekday exists in that month. The first date is always a hit here,
-// but a walk steps straight to the month's last such weekday and never lists it.
+// reminders.h must agree on the dates of every rule the event editor can make. The first
+// date is an occurrence in all of them, also where the rule alone would not give it (a
+// "Last" weekday rule first on day 22..28 of a month that holds a later such weekday).
 #include <array>
 #include <string>
 #include <string_view>

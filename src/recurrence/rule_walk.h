@@ -37,6 +37,12 @@ inline int weekdaySearch(int year, int month, int wantedWeekday, Ordinal ordinal
 // the weekday found in its month, by the rule's columns. A combination the editor can't
 // write walks nothing.
 //
+// The first date is an occurrence whatever the rule says, as the single-date test has it.
+// Step 0 lists it where its candidate is some other day: a "Last" weekday rule first on
+// day 22..28 of a month that holds a later such weekday has that later day as candidate,
+// and lists the first date too, ahead of it. Nothing before the first date is visited,
+// since `windowStart` never lies before it.
+//
 // Every candidate of step n lies in the n-th month (year) after the first date's, so the
 // steps whose month (year) lies before that of `windowStart` are passed over without
 // being built: a first date centuries back costs no more than one in the range. The step
@@ -68,6 +74,10 @@ void walkSteppedRule(const EventRule& rule, Date windowStart, IsPast isPast, Vis
             const int day = pick == Pick::LastDay ? daysInMonth(ymd.year, ymd.month)
                                                   : weekdaySearch(ymd.year, ymd.month, rule.repeatWeekday, rule.ordinal);
             candidate = dateFromYmd(ymd.year, ymd.month, day);
+        }
+        if (n == 0 && candidate != rule.first && rule.first >= windowStart) {
+            if (isPast(rule.first)) return;
+            visit(rule.first);
         }
         if (candidate < windowStart) continue;
         if (isPast(candidate)) return;

@@ -1,10 +1,8 @@
 // The single-date test, the range walk, the calendar marks and the event reminders must
 // agree on the dates of every rule the event editor can make. The property draws
-// thousands of such events from a fixed seed, so a failure repeats exactly.
-//
-// Left out on purpose: a "Last" weekday rule first on day 22..28 of a month that holds a
-// later such weekday. The single-date test counts the first date, the walks never list it;
-// expansion_test.cpp pins that corner.
+// thousands of such events from a fixed seed, so a failure repeats exactly. A "Last"
+// weekday rule first on day 22..28 of a month that holds a later such weekday is among
+// them, and has its own cases below: its first date is an occurrence everywhere.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -106,7 +104,9 @@ private:
             // The last such weekday of the month: "Last", or "Fourth" where that is the same.
             f.repeatNumber = (day <= 28 && uniform(0, 1)) ? "Fourth" : "Last";
         } else {
-            f.repeatNumber = "Fourth";  // "Last" here would be the corner left out
+            // A later such weekday follows: "Fourth" names this one, and "Last" the later
+            // one, with the first date an occurrence all the same.
+            f.repeatNumber = uniform(0, 1) ? "Fourth" : "Last";
         }
         return date;
     }
@@ -223,6 +223,62 @@ TEST(RuleAgreement, TheWalksAndTheCalendarMarksFindExactlyTheHitsOfTheSingleDate
     EXPECT_GT(expanded, 25000);
     EXPECT_GT(reminded, 2500);
     EXPECT_GT(markedCells, 5000);
+}
+
+// A "Last" weekday rule first on an earlier such weekday of its month: the first date and
+// the month's last such weekday are both occurrences, in the range lists and the
+// reminders as in the single-date test, day by day over ranges and notices around it.
+TEST(RuleAgreement, LastWeekdayFirstOnAnEarlierSuchWeekdayIsListedEverywhere) {
+    const struct {
+        const char* name;
+        EventFields event;
+        const char* laterSameWeekday;  // the rule's own day in the first month
+    } cases[] = {
+        {"monthly, Monday the 22nd, a Monday the 29th follows",
+         {.date = "2022/08/22", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+          .repeatDay = "Monday", .reminder = "7 Days"},
+         "2022/08/29"},
+        {"yearly, Friday the 23rd of January",
+         {.date = "2026/01/23", .recurrence = "Year", .sameDate = "False", .repeatNumber = "Last",
+          .repeatDay = "Friday", .reminder = "10 Days"},
+         "2026/01/30"},
+        {"monthly in a leap February, Thursday the 22nd",
+         {.date = "2024/02/22", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+          .repeatDay = "Thursday", .reminder = "1 Day"},
+         "2024/02/29"},
+        {"ending on its first date",
+         {.date = "2022/08/22", .recurrence = "Month", .sameDate = "False", .repeatNumber = "Last",
+          .repeatDay = "Monday", .ends = "True", .endDate = "2022/08/22", .reminder = "7 Days"},
+         nullptr},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        RecordStore store;
+        addEvent(store, c.event);
+        const Date first = dateFromText(c.event.date);
+
+        Column<Date> firstWeek{first};
+        if (c.laterSameWeekday) firstWeek.append(dateFromText(c.laterSameWeekday));
+        EXPECT_EQ(ExpandEvents(store, first, "Week", "All").ListEventDates, firstWeek);
+
+        for (Date start = first - 10; start <= first + 1; ++start) {
+            for (const char* range : {"Week", "Month", "Year"}) {
+                SCOPED_TRACE(std::string(range) + " from " + dateText(start));
+                const EventRows rows = ExpandEvents(store, start, range, "All");
+                std::map<int, std::vector<Date>> found;
+                for (int r = 1; r <= rows.ListEventRows.count(); ++r) found[1].push_back(rows.ListEventDates(r));
+                const Date end = EventRangeEnd(start, range);
+                EXPECT_EQ(rows.EventTotal, expectHits(store, found, start, [end](int) { return end; }));
+            }
+            SCOPED_TRACE("reminders on " + dateText(start));
+            ReminderRows reminders;
+            GatherEventReminders(store, start, "All", reminders);
+            std::map<int, std::vector<Date>> found;
+            for (int r = 1; r <= reminders.ReminderRecords.count(); ++r) found[1].push_back(reminders.ReminderDates(r));
+            const Date last = start - ReminderOffset(store.EventReminders(1));
+            EXPECT_EQ(reminders.EventReminderCount, expectHits(store, found, start, [last](int) { return last; }));
+        }
+    }
 }
 
 }  // namespace

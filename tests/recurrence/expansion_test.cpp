@@ -71,25 +71,5 @@ TEST(ExpandEvents, CountersCountBeforeTheFilter) {
     EXPECT_EQ(none.EventTotal, 6);
 }
 
-// The one corner where the single-date test and the walks part: a "Last" weekday rule
-// first on day 22 to 28 of a month that holds a later such weekday. The first date is a
-// hit of the test, but the walk steps to the month's last such weekday.
-TEST(ExpandEvents, LastWeekdayFirstOnAnEarlierSuchWeekdayIsNotListed) {
-    RecordStore store;
-    const int row = addEvent(store, {.date = "2022/08/22",
-                                     .recurrence = "Month",
-                                     .sameDate = "False",
-                                     .repeatNumber = "Last",
-                                     .repeatDay = "Monday"});
-    EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 22), Int16(row)));
-    EXPECT_TRUE(EventOccursOn(store, ymd(2022, 8, 29), Int16(row)));
-    EXPECT_EQ(rowDates(ExpandEvents(store, ymd(2022, 8, 1), "Month", "All")), (Texts{"2022/08/29"}));
-    // The reminder walk steps the same way: a week's notice on the first date shows only the 29th.
-    store.EventReminders(row) = "7 Days";
-    ReminderRows reminders;
-    GatherEventReminders(store, ymd(2022, 8, 22), "All", reminders);
-    EXPECT_EQ(reminders.ReminderDates, (Column<Date>{ymd(2022, 8, 29)}));
-}
-
 }  // namespace
 }  // namespace qh
