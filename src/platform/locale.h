@@ -19,6 +19,9 @@ public:
     virtual std::string mediumTime(int secondsOfDay) const = 0;
     // month 1..12, the full name ("January").
     virtual std::string monthName(int month) const = 0;
+    // month 1..12, the abbreviated name of the "MMM" date forms ("Nov"). A host without its
+    // own abbreviations takes the first three characters of the full name.
+    virtual std::string shortMonthName(int month) const { return monthName(month).substr(0, 3); }
     // weekday 1 = Sunday .. 7 = Saturday, the full name.
     virtual std::string dayName(int weekday) const = 0;
     // Appends the text's collation key to `key`. Keys compare byte by byte as their texts do

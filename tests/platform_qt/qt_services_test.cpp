@@ -29,6 +29,7 @@ TEST(QtLocale, NamedFormatsFollowTheHostLocale) {
     EXPECT_EQ(us.mediumTime(21 * 3600 + 5 * 60 + 59), "09:05 PM");  // no seconds
     EXPECT_EQ(us.mediumTime(0), "12:00 AM");
     EXPECT_EQ(us.monthName(1) + us.dayName(1) + us.dayName(7), "JanuarySundaySaturday");
+    EXPECT_EQ(us.shortMonthName(11) + us.shortMonthName(5), "NovMay");
     const QtLocale german(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(german.dayName(2), "Montag");
     EXPECT_EQ(german.shortDate(date), "21.11.2026");

@@ -79,6 +79,10 @@ std::string QtLocale::mediumTime(int secondsOfDay) const {
 
 std::string QtLocale::monthName(int month) const { return str(locale_->monthName(month, QLocale::LongFormat)); }
 
+std::string QtLocale::shortMonthName(int month) const {
+    return str(locale_->monthName(month, QLocale::ShortFormat));
+}
+
 std::string QtLocale::dayName(int weekday) const {
     // The planner counts from Sunday = 1, Qt from Monday = 1.
     const int qtDay = weekday == 1 ? 7 : weekday - 1;

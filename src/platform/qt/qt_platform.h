@@ -33,6 +33,7 @@ public:
     std::string shortDate(Date date) const override;   // the host's short form, year in full
     std::string mediumTime(int secondsOfDay) const override;  // "hh:mm AP": "09:05 PM"
     std::string monthName(int month) const override;
+    std::string shortMonthName(int month) const override;
     std::string dayName(int weekday) const override;
     void appendSortKey(std::string_view text, std::string& key) const override;
     void appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
