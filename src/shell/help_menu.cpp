@@ -9,9 +9,9 @@
 namespace qh {
 namespace {
 
-// The host's player for the tutorial videos: the desktop's opener starts whatever plays
-// the file, so the planner names no player of its own.
-constexpr const char* kVideoPlayer = "xdg-open";
+// The desktop's opener stands in for the help viewer and the video player: it starts the
+// browser or the player the student has chosen, so the planner names none of its own.
+constexpr const char* kDesktopOpener = "xdg-open";
 
 std::string quoted(const std::string& path) { return "\"" + path + "\""; }
 
@@ -68,7 +68,7 @@ void MainWindow::recordStartedProcess(std::int32_t processId) {
 void MainWindow::ShowHelpFile() {
     // A browser that cannot be started has no handler of its own: the failure ends the run.
     const std::string index = joinPath(HelpBookFolder(platform.environment), kHelpIndexPage);
-    recordStartedProcess(platform.processes.startCommand(std::string(kVideoPlayer) + " " + quoted(index)));
+    recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(index)));
 }
 
 void MainWindow::PlayVideo(const std::string& file) {
@@ -77,7 +77,7 @@ void MainWindow::PlayVideo(const std::string& file) {
     try {
         // The opener starts even for a file that is not there; only the player would notice.
         if (!platform.files.exists(path)) throw FileFailure("No such file: " + path);
-        recordStartedProcess(platform.processes.startCommand(std::string(kVideoPlayer) + " " + quoted(path)));
+        recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(path)));
     } catch (const FileFailure&) {
         platform.messages.show("Sorry, could not find the video file.", "File Error", MessageButtons::OK,
                                MessageIcon::Exclamation);
