@@ -6,6 +6,7 @@
 #include "platform/qt/application.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_platform.h"
+#include "shell/help_topics.h"
 #include "shell/module1.h"
 
 int main() {
@@ -16,6 +17,11 @@ int main() {
     qh::Application app(argc, argv);
     qh::installFontSubstitutes();
     qh::QtPlatform qt;
+    // What's This: the bubble tells what the control does and links its help page.
+    qt.renderer().helpText = [&qt](int number) { return qh::WhatsThisText(number, qt.platform().environment); };
+    qt.renderer().openHelpLink = [&qt](const std::string& address) {
+        qt.platform().processes.openWithDefaultHandler(address);
+    };
     try {
         qh::Module1 module(qt.platform());
         if (!module.Main()) return 0;

@@ -4,6 +4,8 @@
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"
+#include "shell/about_window.h"
+#include "shell/tip_window.h"
 
 namespace qh {
 
@@ -106,7 +108,10 @@ void MainWindow::bindHandlers() {
 
     on("TimerStatusBar", FormEvent::Timer, [this](const EventArgs&) { PaintStatusBar(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
-    on("TimerTip", FormEvent::Timer, [this](const EventArgs&) { c("TimerTip").enabled = false; });
+    on("TimerTip", FormEvent::Timer, [this](const EventArgs&) {
+        c("TimerTip").enabled = false;
+        StartTipsIfWanted();
+    });
 
     on("picGrid", FormEvent::MouseDown, [this](const EventArgs& args) { picGridMouseDown(args); });
     on("picGrid", FormEvent::MouseUp, [this](const EventArgs& args) { picGridMouseUp(args); });
@@ -123,6 +128,7 @@ void MainWindow::bindHandlers() {
     onClick("ButtonNewEvent", [this] { NewEvent(); });
     onClick("MenuNewEvent", [this] { NewEvent(); });
     onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
+    bindHelpHandlers();
 }
 
 }  // namespace qh

@@ -10,8 +10,10 @@
 //   term_panel.cpp       SelectTerm, PaintStatusBar
 //   stopwatch.cpp        the study stopwatch
 //   window_layout.cpp    the minimum size and the resize handler
+//   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
 //   list_view/*          the grid layouts, list builders and hit testing
 //   calendar_days/*      which days are marked
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,6 +26,8 @@
 namespace qh {
 
 class RecordFiles;
+class FrmTip;
+class FrmAbout;
 struct ColorVocabulary;
 
 class MainWindow : public Form {
@@ -101,6 +105,15 @@ public:
     void NewEvent();
     void EditEvent(int row);
 
+    // Tips, help, tutorials and About.
+    void StartTipsIfWanted();
+    void ShowHelpFile();
+    void ShowAbout(Form& owner);
+    // Starts the player on a tutorial video of the host folder, or says it can't.
+    void PlayVideo(const std::string& file);
+    // The Tip of the Day window, loaded at its first use and kept.
+    FrmTip& tipWindow();
+
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
 
@@ -123,6 +136,12 @@ private:
     void picGridMouseUp(const EventArgs& args);
     void headerClicked(int index);
     std::string pidFilePath() const;
+    void bindHelpHandlers();
+    // Leaves the .PID file of a process the planner started in the host folder.
+    void recordStartedProcess(std::int32_t processId);
+
+    std::unique_ptr<FrmTip> tip_;
+    std::unique_ptr<FrmAbout> about_;
 
     std::string lastRefreshSteps_;
     bool loadEndedRun_ = false;

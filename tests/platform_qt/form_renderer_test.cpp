@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWhatsThis>
 
 #include "common/failure.h"
 #include "platform/qt/qt_canvas.h"
@@ -355,19 +356,29 @@ TEST_F(FormRendererTest, TheCloseBoxAsksTheModelAndTheLastWindowClosedEndsThePro
     EXPECT_EQ(renderer.windowOf(other), nullptr);
 }
 
-TEST_F(FormRendererTest, WhatsThisAsksForTheControlsHelpNumber) {
+TEST_F(FormRendererTest, WhatsThisAsksForTheControlsHelpTextAndHandsOnItsLink) {
     window.c("ButtonOK").helpContextId = 203;
     renderer.show(window);
     std::vector<int> asked;
-    renderer.showHelp = [&](int number) { asked.push_back(number); };
+    std::vector<std::string> opened;
+    renderer.helpText = [&](int number) {
+        asked.push_back(number);
+        return std::string("<p>OK saves.</p><a href=\"file:///help/ok.html\">More</a>");
+    };
+    renderer.openHelpLink = [&](const std::string& address) { opened.push_back(address); };
     QWidget* ok = widget("ButtonOK");
     EXPECT_FALSE(ok->whatsThis().isEmpty());
     QHelpEvent help(QEvent::WhatsThis, QPoint(2, 2), ok->mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(ok, &help);
+    QWhatsThis::hideText();
     // A control without a number has no help to show.
     QHelpEvent none(QEvent::WhatsThis, QPoint(2, 2), QPoint(2, 2));
     QApplication::sendEvent(widget("ButtonBoom"), &none);
     EXPECT_EQ(asked, std::vector<int>{203});
+    // The bubble's link, clicked, reaches the control it was shown for.
+    QWhatsThisClickedEvent clicked(QStringLiteral("file:///help/ok.html"));
+    EXPECT_TRUE(QApplication::sendEvent(ok, &clicked));
+    EXPECT_EQ(opened, std::vector<std::string>{"file:///help/ok.html"});
 }
 
 TEST_F(FormRendererTest, AWindowsImageGoesToTheChosenPrinter) {

@@ -186,6 +186,11 @@ void prepareFolders(const std::string& drive) {
                                      (data / name).string() + "); choose an empty folder");
     fs::create_directories(fs::path(drive) / "exec");
     fs::create_directories(fs::path(drive) / "Documents");
+    // The help book goes with the program, where ./run puts it too.
+    const fs::path book = fs::path(QH_SOURCE_DIR) / "help";
+    if (fs::is_directory(book))
+        fs::copy(book, fs::path(drive) / "exec" / "help",
+                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
 }
 
 DriveSummary summarize(const DrivePlan& plan, const RecordStore& store) {

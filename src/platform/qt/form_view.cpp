@@ -308,12 +308,15 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::WhatsThis:
             if (form_.has(key) && form_.c(key).helpContextId != 0) {
                 const int number = form_.c(key).helpContextId;
-                if (renderer_.showHelp) {
-                    renderer_.showHelp(number);
-                } else {
-                    QWhatsThis::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                                         QStringLiteral("Help topic %1").arg(number), widget);
-                }
+                const QString text =
+                    renderer_.helpText ? qs(renderer_.helpText(number)) : QStringLiteral("Help topic %1").arg(number);
+                QWhatsThis::showText(static_cast<QHelpEvent*>(event)->globalPos(), text, widget);
+                return true;
+            }
+            break;
+        case QEvent::WhatsThisClicked:
+            if (renderer_.openHelpLink) {
+                renderer_.openHelpLink(str(static_cast<QWhatsThisClickedEvent*>(event)->href()));
                 return true;
             }
             break;

@@ -145,9 +145,11 @@ public:
 
     // The program ends when its last window closes; tests switch this off.
     bool quitWhenLastWindowCloses = true;
-    // Context help for a control's help number, asked for in What's This mode. Without
-    // it a short note with the number shows.
-    std::function<void(int helpContextId)> showHelp;
+    // Context help for a control's help number, asked for in What's This mode: the rich
+    // text of the bubble. Without it a short note with the number shows. A link clicked
+    // in the bubble goes to openHelpLink.
+    std::function<std::string(int helpContextId)> helpText;
+    std::function<void(const std::string& address)> openHelpLink;
 
 private:
     friend class FormWindow;

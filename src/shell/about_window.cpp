@@ -1,0 +1,57 @@
+#include "shell/about_window.h"
+
+#include "platform/environment.h"
+#include "platform/processes.h"
+#include "shell/web_addresses.h"
+
+// The build passes the project's version (CMakeLists.txt, project()) to this file alone.
+#if !defined(QH_VERSION_MAJOR) || !defined(QH_VERSION_MINOR) || !defined(QH_VERSION_PATCH)
+#error "The build must define QH_VERSION_MAJOR, QH_VERSION_MINOR and QH_VERSION_PATCH"
+#endif
+
+namespace qh {
+
+FrmAbout::FrmAbout(const Environment& environment, Processes& processes)
+    : Form("frmAbout"), environment_(environment), processes_(processes) {
+    fixedSize = true;
+    setOuterSize(6300, 4200);
+    add(ControlKind::PictureBox, "picIcon", "", 240, 240, 720, 1760).picture = "TipFull";
+    Control& title = add(ControlKind::Label, "lblTitle", "", 1200, 240, 4800, 420);
+    title.fontName = "Verdana";
+    title.fontSize = 12;
+    title.bold = true;
+    add(ControlKind::Label, "lblVersion", "", 1200, 720, 4800, 285).fontName = "Verdana";
+    Control& description = add(ControlKind::Label, "lblDescription", "", 1200, 1140, 4800, 1920);
+    description.fontName = "Verdana";
+    add(ControlKind::CommandButton, "cmdOK", "", 4680, 3180, 1320, 375).caption = "OK";
+    for (const char* label : {"lblTitle", "lblVersion", "lblDescription"}) c(label).opaque = false;
+
+    on("cmdOK", FormEvent::Click, [this](const EventArgs&) { hide(); });
+    on("lblDescription", FormEvent::Click, [this](const EventArgs&) {
+        processes_.openWithDefaultHandler(HelpBookAddress(environment_, kProductSitePage));
+    });
+}
+
+std::string FrmAbout::VersionNumbers() {
+    return std::to_string(QH_VERSION_MAJOR) + "." + std::to_string(QH_VERSION_MINOR) + "." +
+           std::to_string(QH_VERSION_PATCH);
+}
+
+void FrmAbout::Form_Load() {
+    caption = "About Quillhollow";
+    c("lblTitle").caption = "Quillhollow for u3";
+    c("lblVersion").caption = "Version " + VersionNumbers();
+    // The double blank after "organizer" is the program's own text.
+    c("lblDescription").caption =
+        "Quillhollow is the essential homework management tool. It combines the best features of a student planner "
+        "and homework organizer  into one, easy to use program.\n\nFor questions, orders and upgrades, visit the "
+        "website at " +
+        HelpBookAddress(environment_, kProductSitePage);
+}
+
+bool FrmAbout::Form_QueryUnload() {
+    hide();
+    return false;
+}
+
+}  // namespace qh

@@ -1,0 +1,95 @@
+// The Help menu of the main window: the Tip of the Day, the help book, the tutorials, the
+// web entries and About.
+#include "common/failure.h"
+#include "shell/about_window.h"
+#include "shell/main_window.h"
+#include "shell/tip_window.h"
+#include "shell/web_addresses.h"
+
+namespace qh {
+namespace {
+
+// The desktop's opener stands in for the help viewer and the video player: it starts the
+// browser or the player the student has chosen, so the planner names none of its own.
+constexpr const char* kDesktopOpener = "xdg-open";
+
+std::string quoted(const std::string& path) { return "\"" + path + "\""; }
+
+}  // namespace
+
+void MainWindow::bindHelpHandlers() {
+    auto onClick = [this](const std::string& key, std::function<void()> action) {
+        on(key, FormEvent::Click, [action](const EventArgs&) { action(); });
+    };
+    onClick("MenuShowTips", [this] {
+        state.ShowTipsAtStartup = "Yes";
+        StartTipsIfWanted();
+    });
+    onClick("MenuHelpDB", [this] { ShowHelpFile(); });
+    onClick("MenuVideo1", [this] { PlayVideo("ClassSchedule.wmv"); });
+    onClick("MenuVideo2", [this] { PlayVideo("AddAssignment.wmv"); });
+    onClick("MenuVideo3", [this] { PlayVideo("FinishAssignment.wmv"); });
+    auto openHomeworkHelp = [this] {
+        platform.processes.openWithDefaultHandler(HelpBookAddress(platform.environment, kHomeworkHelpPage));
+    };
+    onClick("MenuHomeworkHelp", openHomeworkHelp);
+    onClick("PictureBarWeb", openHomeworkHelp);
+    onClick("MenuAbout", [this] { ShowAbout(*this); });
+}
+
+FrmTip& MainWindow::tipWindow() {
+    if (!tip_) {
+        tip_ = std::make_unique<FrmTip>(platform.environment);
+        tip_->Form_Load();
+        // The video line leads to the tutorials of the help book.
+        tip_->on("LabelVideo", FormEvent::Click, [this](const EventArgs&) {
+            platform.processes.openWithDefaultHandler(HelpBookAddress(platform.environment, kTutorialsPage));
+        });
+    }
+    return *tip_;
+}
+
+void MainWindow::StartTipsIfWanted() {
+    if (state.ShowTipsAtStartup != "Yes") return;
+    FrmTip& tip = tipWindow();
+    tip.tempShowTipsAtStartup = state.ShowTipsAtStartup;
+    tip.tempCurrentTip = state.CurrentTip;
+    tip.Form_Activate();
+    platform.windowing.showModal(tip, this);
+    state.ShowTipsAtStartup = tip.tempShowTipsAtStartup;
+    state.CurrentTip = tip.tempCurrentTip;
+}
+
+void MainWindow::recordStartedProcess(std::int32_t processId) {
+    platform.files.createEmpty(
+        joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), std::to_string(processId) + ".PID"));
+}
+
+void MainWindow::ShowHelpFile() {
+    // A browser that cannot be started has no handler of its own: the failure ends the run.
+    const std::string index = joinPath(HelpBookFolder(platform.environment), kHelpIndexPage);
+    recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(index)));
+}
+
+void MainWindow::PlayVideo(const std::string& file) {
+    // The videos lie on the host, not on the drive.
+    const std::string path = joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), file);
+    try {
+        // The opener starts even for a file that is not there; only the player would notice.
+        if (!platform.files.exists(path)) throw FileFailure("No such file: " + path);
+        recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(path)));
+    } catch (const FileFailure&) {
+        platform.messages.show("Sorry, could not find the video file.", "File Error", MessageButtons::OK,
+                               MessageIcon::Exclamation);
+    }
+}
+
+void MainWindow::ShowAbout(Form& owner) {
+    if (!about_) {
+        about_ = std::make_unique<FrmAbout>(platform.environment, platform.processes);
+        about_->Form_Load();
+    }
+    platform.windowing.showModal(*about_, &owner);
+}
+
+}  // namespace qh

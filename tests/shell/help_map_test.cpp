@@ -1,0 +1,139 @@
+// The help book against the windows: every control with a help number has a topic, every
+// topic a page of the book, and every link of the book a target.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "shell/about_window.h"
+#include "shell/help_topics.h"
+#include "shell/main_window.h"
+#include "shell/tip_window.h"
+#include "support/main_window_fixture.h"
+
+namespace qh {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kBook = fs::path(QH_SOURCE_DIR) / "help";
+
+std::string readText(const fs::path& path) {
+    std::ifstream in(path);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// "" when `target` (a page of the book relative to `from`, maybe with "#anchor") is there,
+// otherwise what is missing.
+std::string missing(const fs::path& from, const std::string& target) {
+    const auto hash = target.find('#');
+    const fs::path page = (from / target.substr(0, hash)).lexically_normal();
+    if (!fs::is_regular_file(page)) return "no page " + page.string();
+    if (hash == std::string::npos) return "";
+    const std::string anchor = target.substr(hash + 1);
+    if (readText(page).find("id=\"" + anchor + "\"") == std::string::npos)
+        return "no anchor " + anchor + " in " + page.string();
+    return "";
+}
+
+// Every window model of the planner, as a test builds it. A new window joins this list,
+// so that its help numbers are checked as well.
+struct WindowUnderTest {
+    const char* name;
+    std::function<void(FakePlatform&, const std::function<void(Form&)>&)> visit;
+};
+
+const std::vector<WindowUnderTest>& windows() {
+    static const std::vector<WindowUnderTest> list{
+        {"frmMain",
+         [](FakePlatform& fake, const std::function<void(Form&)>& visit) {
+             RecordStore store;
+             MainWindow window(store, fake.platform);
+             window.Form_Load();
+             visit(window);
+             visit(window.tipWindow());
+         }},
+        {"frmAbout",
+         [](FakePlatform& fake, const std::function<void(Form&)>& visit) {
+             FrmAbout about(fake.environment, fake.processes);
+             about.Form_Load();
+             visit(about);
+         }},
+    };
+    return list;
+}
+
+TEST(HelpMap, EveryControlWithAHelpNumberLeadsToAPageOfTheBook) {
+    std::set<int> given;
+    for (const WindowUnderTest& window : windows()) {
+        FakePlatform fake;
+        window.visit(fake, [&](Form& form) {
+            for (const std::string& key : form.order()) {
+                const int number = form.c(key).helpContextId;
+                if (number == 0) continue;
+                SCOPED_TRACE(form.name() + "." + key + " " + std::to_string(number));
+                given.insert(number);
+                const HelpTopic* topic = FindHelpTopic(number);
+                ASSERT_NE(topic, nullptr);
+                EXPECT_EQ(missing(kBook, topic->page), "");
+                // The bubble tells the topic and links its page in the drive's book.
+                const std::string bubble = WhatsThisText(number, fake.environment);
+                EXPECT_NE(bubble.find(topic->summary), std::string::npos);
+                EXPECT_NE(bubble.find("href=\"file://" + fake.exec + "/help/" + topic->page + "\""),
+                          std::string::npos);
+            }
+        });
+    }
+    // The main window alone gives 45 numbers; a window that lost its numbers shows here.
+    EXPECT_GE(given.size(), 45u);
+}
+
+TEST(HelpMap, EveryTopicHasItsPageAndTheTopicsAreInOrder) {
+    int previous = 0;
+    for (const HelpTopic& topic : HelpTopics()) {
+        SCOPED_TRACE(topic.number);
+        EXPECT_GT(topic.number, previous);  // the lookup searches by halves
+        previous = topic.number;
+        EXPECT_EQ(missing(kBook, topic.page), "");
+        EXPECT_EQ(FindHelpTopic(topic.number), &topic);
+        EXPECT_FALSE(std::string(topic.summary).empty());
+    }
+    EXPECT_EQ(FindHelpTopic(114), nullptr);
+    EXPECT_EQ(FindHelpTopic(0), nullptr);
+}
+
+// Links between the pages, pictures and scripts of the book all have their target, and
+// every page is in the search index.
+TEST(HelpMap, TheBooksLinksAllHaveTargetsAndTheSearchKnowsEveryPage) {
+    const std::string searchIndex = readText(kBook / "search_index.js");
+    const std::regex link(R"((?:href|src)="([^"]+)\")");
+    int pages = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(kBook)) {
+        if (entry.path().extension() != ".html") continue;
+        ++pages;
+        const std::string relative = entry.path().lexically_relative(kBook).generic_string();
+        SCOPED_TRACE(relative);
+        EXPECT_NE(searchIndex.find("\"" + relative + "\""), std::string::npos) << "run scripts/help_index";
+        const std::string text = readText(entry.path());
+        for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it) {
+            const std::string target = (*it)[1];
+            if (target.find("://") != std::string::npos || target.starts_with("mailto:")) continue;
+            if (target.starts_with("#")) {
+                EXPECT_EQ(missing(entry.path().parent_path(), entry.path().filename().string() + target), "");
+            } else {
+                EXPECT_EQ(missing(entry.path().parent_path(), target), "");
+            }
+        }
+    }
+    EXPECT_GE(pages, 20);
+}
+
+}  // namespace
+}  // namespace qh
