@@ -123,6 +123,7 @@ void MainWindow::bindHandlers() {
     onClick("ButtonNewEvent", [this] { NewEvent(); });
     onClick("MenuNewEvent", [this] { NewEvent(); });
     onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
+    bindFileMenu();
 }
 
 }  // namespace qh

@@ -9,6 +9,7 @@
 //   month_navigator.cpp  BuildCalendar, the arrows, Today/Tomorrow, the start day
 //   term_panel.cpp       SelectTerm, PaintStatusBar
 //   stopwatch.cpp        the study stopwatch
+//   file_menu.cpp        the list and calendar exports, Print Screen
 //   window_layout.cpp    the minimum size and the resize handler
 //   list_view/*          the grid layouts, list builders and hit testing
 //   calendar_days/*      which days are marked
@@ -101,6 +102,12 @@ public:
     void NewEvent();
     void EditEvent(int row);
 
+    // The File menu's export and print commands (file_menu.cpp).
+    Mode ExportMode() const;
+    void ExportList();
+    void ExportCalendar();
+    void PrintScreen();
+
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
 
@@ -108,6 +115,7 @@ private:
     void buildControls();
     void buildMenus();
     void bindHandlers();
+    void bindFileMenu();
     void applyModeTable(Mode mode);
     void calendarButtonPressed(const std::string& button);
     void calendarButtonReleased(const std::string& button);

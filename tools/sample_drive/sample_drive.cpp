@@ -184,8 +184,12 @@ void prepareFolders(const std::string& drive) {
         if (fs::exists(data / name))
             throw std::runtime_error("sample drive: " + drive + " already holds planner data (" +
                                      (data / name).string() + "); choose an empty folder");
-    fs::create_directories(fs::path(drive) / "exec");
+    const fs::path exec = fs::path(drive) / "exec";
+    fs::create_directories(exec);
     fs::create_directories(fs::path(drive) / "Documents");
+    // The export templates lie beside the program, where the exports look for them.
+    const fs::path templates = fs::path(QH_SOURCE_DIR) / "templates";
+    if (fs::is_directory(templates)) fs::copy(templates, exec, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
 }
 
 DriveSummary summarize(const DrivePlan& plan, const RecordStore& store) {
