@@ -58,13 +58,6 @@ INSTANTIATE_TEST_SUITE_P(Sheets, CalendarExport,
                                            SheetCase{"events", Mode::Events, "November Event Calendar.html"}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(CalendarSheets, StudyAndReminderModesGiveTheHomeworkSheet) {
-    EXPECT_EQ(CalendarSheetOf(Mode::StudySessions), CalendarSheet::Homework);
-    EXPECT_EQ(CalendarSheetOf(Mode::Reminders), CalendarSheet::Homework);
-    EXPECT_EQ(CalendarSheetOf(Mode::Tasks), CalendarSheet::Tasks);
-    EXPECT_EQ(CalendarSheetOf(Mode::Events), CalendarSheet::Events);
-}
-
 // Every entry but the spare last one is taken by exactly one marker line.
 TEST(CalendarSheets, EachOrderTakesEveryEntryOnce) {
     for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks}) {

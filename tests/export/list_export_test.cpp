@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <set>
 
 #include "export/page_text.h"
 #include "export_fixture.h"
@@ -89,21 +88,6 @@ INSTANTIATE_TEST_SUITE_P(Modes, ListExport,
                                            ListCase{"reminders", Mode::Reminders, "All", "Today"},
                                            ListCase{"empty", Mode::Homework, "All", "Day"}),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST(ListExportForms, EachModeHasItsTemplateAndRowLines) {
-    std::set<std::string> templates;
-    for (const Mode mode : {Mode::Homework, Mode::StudySessions, Mode::Tasks, Mode::Reminders, Mode::Events}) {
-        const ListExportForm* form = ListExportFormOf(mode);
-        ASSERT_NE(form, nullptr);
-        templates.insert(form->templateFile);
-        // A cell line holds the marker once, in capitals, so that a cell's text is put in
-        // exactly one place.
-        for (const char* cell : {form->firstCell, form->otherCell})
-            EXPECT_EQ(std::string(cell).find("INSERT"), std::string(cell).rfind("INSERT"));
-    }
-    EXPECT_EQ(templates.size(), 5u);
-    EXPECT_EQ(ListExportFormOf(Mode::None), nullptr);
-}
 
 }  // namespace
 }  // namespace qh::testing
