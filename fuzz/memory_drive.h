@@ -72,7 +72,7 @@ public:
     int screenWidthTwips() const override { return 1280 * 15; }
     int screenHeightTwips() const override { return 1024 * 15; }
     void enterWhatsThisMode() override {}
-    void printWindowImage(Form&, const std::string&) override {}
+    void printWindowImage(Form&, const std::string&, int) override {}
     std::shared_ptr<Canvas> create() override { return nullptr; }
 
     std::vector<ShownMessage> shown;

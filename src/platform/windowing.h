@@ -23,8 +23,9 @@ public:
     virtual int screenHeightTwips() const = 0;
     // The next control clicked shows its context help.
     virtual void enterWhatsThisMode() = 0;
-    // Sends the image of the window to the chosen printer; throws FileFailure on failure.
-    virtual void printWindowImage(Form& form, const std::string& printerName) = 0;
+    // Prints the image of the window on the chosen printer, `copies` full pages in one job,
+    // each scaled to fit the page with its shape kept; throws FileFailure on failure.
+    virtual void printWindowImage(Form& form, const std::string& printerName, int copies) = 0;
 };
 
 }  // namespace qh

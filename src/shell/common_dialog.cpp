@@ -139,7 +139,7 @@ bool CD_ShowOpen_Save(Platform& platform, std::int32_t& flags, std::string& full
     return true;
 }
 
-bool CD_ShowPrinter(Platform& platform, std::string& printerName) {
+bool CD_ShowPrinter(Platform& platform, std::string& printerName, int& copies) {
     PrinterAnswer answer;
     try {
         answer = platform.dialogs.printerDialog();
@@ -150,9 +150,11 @@ bool CD_ShowPrinter(Platform& platform, std::string& printerName) {
     DLG(platform, answer.errorCode, "DLG_PrintDialog");
     if (!answer.chosen || answer.errorCode != 0) {
         printerName.clear();
+        copies = 0;
         return false;
     }
     printerName = answer.printerName;
+    copies = answer.copies;
     return true;
 }
 

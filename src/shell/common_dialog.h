@@ -27,9 +27,10 @@ bool CD_ShowOpen_Save(Platform& platform, std::int32_t& flags, std::string& full
                       const std::string& startDirectory, const std::string& dialogTitle,
                       const std::string& filter, const std::string& defaultExtension, bool open);
 
-// Shows the print dialog. Returns true and the printer's name when one was chosen; false
-// and an empty name on cancel or failure.
-bool CD_ShowPrinter(Platform& platform, std::string& printerName);
+// Shows the print dialog with one copy preset. Returns true, the printer's name and the
+// copies chosen when a printer was chosen; false, an empty name and 0 copies on cancel or
+// failure.
+bool CD_ShowPrinter(Platform& platform, std::string& printerName, int& copies);
 
 // "HTML Files (*.html)|*.html|All Files (*.*)|*.*" as its entries. A trailing "|" ends the
 // list; a name without a pattern after it gets an empty pattern.

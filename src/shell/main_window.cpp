@@ -129,6 +129,7 @@ void MainWindow::bindHandlers() {
     onClick("MenuNewEvent", [this] { NewEvent(); });
     onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
     bindHelpHandlers();
+    bindFileMenu();
 }
 
 }  // namespace qh

@@ -9,6 +9,7 @@
 //   month_navigator.cpp  BuildCalendar, the arrows, Today/Tomorrow, the start day
 //   term_panel.cpp       SelectTerm, PaintStatusBar
 //   stopwatch.cpp        the study stopwatch
+//   file_menu.cpp        the list and calendar exports, Print Screen
 //   window_layout.cpp    the minimum size and the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
 //   list_view/*          the grid layouts, list builders and hit testing
@@ -113,6 +114,11 @@ public:
     void PlayVideo(const std::string& file);
     // The Tip of the Day window, loaded at its first use and kept.
     FrmTip& tipWindow();
+    // The File menu's export and print commands (file_menu.cpp).
+    Mode ExportMode() const;
+    void ExportList();
+    void ExportCalendar();
+    void PrintScreen();
 
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
@@ -121,6 +127,7 @@ private:
     void buildControls();
     void buildMenus();
     void bindHandlers();
+    void bindFileMenu();
     void applyModeTable(Mode mode);
     void calendarButtonPressed(const std::string& button);
     void calendarButtonReleased(const std::string& button);

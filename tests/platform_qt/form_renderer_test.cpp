@@ -14,6 +14,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -381,21 +382,34 @@ TEST_F(FormRendererTest, WhatsThisAsksForTheControlsHelpTextAndHandsOnItsLink) {
     EXPECT_EQ(opened, std::vector<std::string>{"file:///help/ok.html"});
 }
 
-TEST_F(FormRendererTest, AWindowsImageGoesToTheChosenPrinter) {
+// The page objects of a PDF file as Qt writes it (its dictionaries are not compressed).
+int pdfPageCount(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return -1;
+    const QByteArray bytes = file.readAll();
+    if (!bytes.startsWith("%PDF")) return -1;
+    int pages = 0;
+    static const QRegularExpression page(QStringLiteral("/Type\\s*/Page[^s]"));
+    for (auto match = page.globalMatch(QString::fromLatin1(bytes)); match.hasNext(); match.next()) ++pages;
+    return pages;
+}
+
+TEST_F(FormRendererTest, AWindowsImageGoesToTheChosenPrinterOnePagePerCopy) {
     QTemporaryDir folder;
-    const QString pdf = QDir(folder.path()).filePath("screen.pdf");
     PrinterChoice choice;
-    choice.printer = std::make_unique<QPrinter>();
-    choice.printer->setOutputFormat(QPrinter::PdfFormat);
-    choice.printer->setOutputFileName(pdf);
     QtWindowing windowing(renderer, choice);
-    EXPECT_THROW(windowing.printWindowImage(window, ""), FileFailure);  // not on the screen
+    EXPECT_THROW(windowing.printWindowImage(window, "", 1), FileFailure);  // not on the screen
     renderer.show(window);
-    windowing.printWindowImage(window, "");
-    QFile printed(pdf);
-    ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(printed.read(4) == "%PDF");
-    EXPECT_GT(printed.size(), 1000);
+    for (const int copies : {1, 3}) {
+        const QString pdf = QDir(folder.path()).filePath(QStringLiteral("screen%1.pdf").arg(copies));
+        choice.printer = std::make_unique<QPrinter>();
+        choice.printer->setOutputFormat(QPrinter::PdfFormat);
+        choice.printer->setOutputFileName(pdf);
+        windowing.printWindowImage(window, "", copies);
+        EXPECT_EQ(pdfPageCount(pdf), copies);
+        // The job itself asks for one copy: the copies are the pages.
+        EXPECT_EQ(choice.printer->copyCount(), 1);
+    }
 }
 
 }  // namespace

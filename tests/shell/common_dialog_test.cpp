@@ -36,10 +36,11 @@ TEST(CommonDialog, PassesTheRequestOnAndReturnsTheChoice) {
         EXPECT_TRUE(fake.messages.shown.empty());
     }
     FakePlatform fake;
-    fake.dialogs.printerAnswers.push_back({true, 0, "Office Laser"});
+    fake.dialogs.printerAnswers.push_back({true, 0, "Office Laser", 3});
     std::string printer;
-    EXPECT_TRUE(CD_ShowPrinter(fake.platform, printer));
-    EXPECT_EQ(printer, "Office Laser");
+    int copies = 1;
+    EXPECT_TRUE(CD_ShowPrinter(fake.platform, printer, copies));
+    EXPECT_EQ(std::tie(printer, copies), std::make_tuple("Office Laser", 3));
 }
 
 // A cancel and a toolkit failure look the same to the caller; only the failure is reported.
@@ -52,9 +53,10 @@ TEST(CommonDialog, CancelAndFailureClearTheResultsAndOnlyAFailureIsReported) {
         }
         std::int32_t flags = kAskBeforeReplace;
         std::string path = "a.html", title = "a.html", printer = "old";
+        int copies = 1;
         EXPECT_FALSE(CD_ShowOpen_Save(fake.platform, flags, path, title, "", "Export", "A|*.a", "html", false));
-        EXPECT_FALSE(CD_ShowPrinter(fake.platform, printer));
-        EXPECT_EQ(std::tie(flags, path, title, printer), std::make_tuple(0, "", "", ""));
+        EXPECT_FALSE(CD_ShowPrinter(fake.platform, printer, copies));
+        EXPECT_EQ(std::tie(flags, path, title, printer, copies), std::make_tuple(0, "", "", "", 0));
         ASSERT_EQ(fake.messages.shown.size(), failing ? 2u : 0u);
         if (!failing) continue;
         EXPECT_EQ(fake.messages.shown[0].title, "  Common Dialog Error");

@@ -244,8 +244,8 @@ void FakeWindowing::close(Form& form) {
     form.visible = false;
 }
 
-void FakeWindowing::printWindowImage(Form& form, const std::string& printerName) {
-    printed.push_back(form.name() + " on " + printerName);
+void FakeWindowing::printWindowImage(Form& form, const std::string& printerName, int copies) {
+    printed.push_back(form.name() + " on " + printerName + " x" + std::to_string(copies));
 }
 
 FakePlatform::FakePlatform()

@@ -127,13 +127,13 @@ public:
     int screenWidthTwips() const override { return screenWidthPixels * 15; }
     int screenHeightTwips() const override { return screenHeightPixels * 15; }
     void enterWhatsThisMode() override { ++whatsThis; }
-    void printWindowImage(Form& form, const std::string& printerName) override;
+    void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
     std::map<std::string, std::deque<std::function<void(Form&)>>> modalUsers;  // by window name
     std::vector<std::string> log;  // "show frmMain", "modal frmTip", "close frmAssignment", ...
     int screenWidthPixels = 1280, screenHeightPixels = 1024;
     int yields = 0, whatsThis = 0;
-    std::vector<std::string> printed;
+    std::vector<std::string> printed;  // "frmMain on PDF x2"
 };
 
 // All fakes together, on a fresh temporary drive folder that is removed afterwards. The

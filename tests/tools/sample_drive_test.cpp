@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 #include <sstream>
 #include <tuple>
 
+#include "export/calendar_export.h"
+#include "export/list_export.h"
 #include "probe_session.h"
 #include "record_store/color_vocabulary.h"
 #include "sample_content.h"
@@ -96,6 +99,14 @@ TEST(SampleDrive, TheProgramFindsWhatTheSummarySays) {
     EXPECT_LT(d.made.liveNotes, r.notes);
     EXPECT_LT(d.made.liveTasks, r.tasks);
     EXPECT_LT(d.made.liveEvents, r.events);
+    // The export templates lie beside the program, where the exports read them.
+    std::vector<std::string> templates;
+    for (const Mode mode : {Mode::Homework, Mode::StudySessions, Mode::Tasks, Mode::Reminders, Mode::Events})
+        templates.push_back(ListExportFormOf(mode)->templateFile);
+    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks})
+        templates.push_back(CalendarSheetFormOf(sheet).templateFile);
+    for (const std::string& name : templates)
+        EXPECT_TRUE(std::filesystem::is_regular_file(d.fake.drive + "/exec/" + name)) << name;
 }
 
 TEST(SampleDrive, HomeworkAndEventsLieAroundTodayInRulesTheEditorsAccept) {

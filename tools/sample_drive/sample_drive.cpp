@@ -184,13 +184,16 @@ void prepareFolders(const std::string& drive) {
         if (fs::exists(data / name))
             throw std::runtime_error("sample drive: " + drive + " already holds planner data (" +
                                      (data / name).string() + "); choose an empty folder");
-    fs::create_directories(fs::path(drive) / "exec");
+    const fs::path exec = fs::path(drive) / "exec";
+    fs::create_directories(exec);
     fs::create_directories(fs::path(drive) / "Documents");
-    // The help book goes with the program, where ./run puts it too.
-    const fs::path book = fs::path(QH_SOURCE_DIR) / "help";
-    if (fs::is_directory(book))
-        fs::copy(book, fs::path(drive) / "exec" / "help",
-                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    // The help book and the export templates go with the program, where ./run puts them too.
+    const fs::path source(QH_SOURCE_DIR);
+    const auto copyTree = [](const fs::path& from, const fs::path& to) {
+        if (fs::is_directory(from)) fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    };
+    copyTree(source / "help", exec / "help");
+    copyTree(source / "templates", exec);
 }
 
 DriveSummary summarize(const DrivePlan& plan, const RecordStore& store) {

@@ -1,5 +1,7 @@
 #include "platform/qt/qt_platform.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -148,11 +150,13 @@ FileDialogAnswer QtDialogs::fileDialog(const FileDialogRequest& request) {
 
 PrinterAnswer QtDialogs::printerDialog() {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setCopyCount(1);
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
     PrinterAnswer answer;
     if (dialog.exec() != QDialog::Accepted) return answer;
     answer.chosen = true;
     answer.printerName = str(printer->printerName());
+    answer.copies = std::max(1, printer->copyCount());
     choice_.printer = std::move(printer);
     return answer;
 }
@@ -224,7 +228,7 @@ int QtWindowing::screenHeightTwips() const {
 
 void QtWindowing::enterWhatsThisMode() { QWhatsThis::enterWhatsThisMode(); }
 
-void QtWindowing::printWindowImage(Form& form, const std::string& printerName) {
+void QtWindowing::printWindowImage(Form& form, const std::string& printerName, int copies) {
     FormWindow* window = renderer_.windowOf(form);
     if (!window) throw FileFailure("The window " + form.name() + " is not shown");
     renderer_.syncAll();
@@ -236,14 +240,20 @@ void QtWindowing::printWindowImage(Form& form, const std::string& printerName) {
         own->setPrinterName(qs(printerName));
         printer = own.get();
     }
+    // The copies are drawn here, one page each, so that a printer that would repeat the job
+    // itself (and a PDF file, which cannot) gives exactly the copies asked for.
+    printer->setCopyCount(1);
     QPainter painter;
     if (!painter.begin(printer)) throw FileFailure("Cannot print on " + printerName);
     // The window's image, as large as the page allows without changing its shape.
     const QRect page = painter.viewport();
     const QSize size = image.size().scaled(page.size(), Qt::KeepAspectRatio);
-    painter.setViewport(page.x(), page.y(), size.width(), size.height());
-    painter.setWindow(image.rect());
-    painter.drawPixmap(0, 0, image);
+    for (int copy = 0; copy < std::max(1, copies); ++copy) {
+        if (copy > 0 && !printer->newPage()) throw FileFailure("Printing failed on " + printerName);
+        painter.setViewport(page.x(), page.y(), size.width(), size.height());
+        painter.setWindow(image.rect());
+        painter.drawPixmap(0, 0, image);
+    }
     if (!painter.end()) throw FileFailure("Printing failed on " + printerName);
 }
 

@@ -93,7 +93,7 @@ public:
     int screenWidthTwips() const override;
     int screenHeightTwips() const override;
     void enterWhatsThisMode() override;
-    void printWindowImage(Form& form, const std::string& printerName) override;
+    void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
 private:
     FormRenderer& renderer_;

@@ -1,0 +1,88 @@
+// The File menu's export and print commands of the main window.
+#include "common/failure.h"
+#include "export/calendar_export.h"
+#include "export/export_page.h"
+#include "export/list_export.h"
+#include "shell/common_dialog.h"
+#include "shell/main_window.h"
+
+namespace qh {
+namespace {
+
+// Asks where to save a page. Returns the chosen path, or empty on Cancel.
+std::string askPagePath(MainWindow& window, const std::string& defaultName, const std::string& title) {
+    std::int32_t flags = kAskBeforeReplace;
+    std::string path = joinPath(window.store.DocumentDirectory, defaultName);
+    std::string fileTitle;
+    if (!CD_ShowOpen_Save(window.platform, flags, path, fileTitle, "", title, kExportFilter, "html", false))
+        return {};
+    return path;
+}
+
+}  // namespace
+
+void MainWindow::bindFileMenu() {
+    on("MenuExportList", FormEvent::Click, [this](const EventArgs&) { ExportList(); });
+    on("MenuExportCalendar", FormEvent::Click, [this](const EventArgs&) { ExportCalendar(); });
+    on("MenuPrintScreen", FormEvent::Click, [this](const EventArgs&) { PrintScreen(); });
+}
+
+Mode MainWindow::ExportMode() const {
+    // The export tries the mode entries in its own order; only one is ever checked.
+    const std::pair<const char*, Mode> entries[] = {{"MenuHomework", Mode::Homework},
+                                                    {"MenuTasks", Mode::Tasks},
+                                                    {"MenuEvents", Mode::Events},
+                                                    {"MenuStudySessions", Mode::StudySessions},
+                                                    {"MenuReminders", Mode::Reminders}};
+    for (const auto& [menu, mode] : entries)
+        if (c(menu).checked) return mode;
+    return Mode::None;
+}
+
+void MainWindow::ExportList() {
+    const Mode mode = ExportMode();
+    const ListExportForm* form = ListExportFormOf(mode);
+    if (!form) return;
+    const std::string path = askPagePath(*this, form->defaultName, form->dialogTitle);
+    if (path.empty()) return;
+    const bool written = WriteExportPage(platform, TemplatePath(platform, form->templateFile), path,
+                                         [&](std::string_view templateText) {
+                                             return FillListTemplate(
+                                                 templateText, *form, ListExportCells(mode, store, state, platform.locale),
+                                                 CreationNote(platform.locale, platform.clock.today()));
+                                         });
+    if (written) platform.processes.openWithDefaultHandler(path);
+}
+
+void MainWindow::ExportCalendar() {
+    const CalendarSheet sheet = CalendarSheetOf(ExportMode());
+    const CalendarSheetForm& form = CalendarSheetFormOf(sheet);
+    const std::string monthName = platform.locale.monthName(monthOf(state.ClickedDate));
+    const std::string path = askPagePath(*this, CalendarDefaultName(sheet, monthName), form.dialogTitle);
+    if (path.empty()) return;
+
+    CalendarFrame frame;
+    frame.title = monthName + " " + std::to_string(yearOf(state.ClickedDate)) + form.titleEnding;
+    frame.creationNote = CreationNote(platform.locale, platform.clock.today());
+    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = c("LabelCalDay(" + std::to_string(d) + ")").caption;
+    std::copy_n(state.CalendarDates.begin(), 42, frame.dates.begin());
+    const bool written =
+        WriteExportPage(platform, TemplatePath(platform, form.templateFile), path, [&](std::string_view templateText) {
+            return FillCalendarTemplate(templateText, sheet, FillCalendar(sheet, store, frame));
+        });
+    if (written) platform.processes.openWithDefaultHandler(path);
+}
+
+void MainWindow::PrintScreen() {
+    std::string printer;
+    int copies = 1;
+    if (!CD_ShowPrinter(platform, printer, copies)) return;
+    try {
+        platform.windowing.printWindowImage(*this, printer, copies);
+    } catch (const FileFailure& failure) {
+        platform.messages.show(std::string("The window could not be printed.\n\n") + failure.what(), "Print Screen",
+                               MessageButtons::OK, MessageIcon::Exclamation);
+    }
+}
+
+}  // namespace qh

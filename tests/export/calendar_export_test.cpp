@@ -1,0 +1,112 @@
+#include "export/calendar_export.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <numeric>
+
+#include "export_fixture.h"
+
+namespace qh::testing {
+namespace {
+
+// A template whose k-th marker line names k and carries every class a line may have
+// swapped, so that the page shows for each line its entry's text and the swaps made.
+std::string markerTemplate() {
+    std::string text = "<html>\n<body>\n";
+    for (int k = 0; k < kCalendarMarkers; ++k)
+        text += "<td class=\"xredbg xgreenbg xwhite1 xwhite2 xwhite3 xwhite4\">" + std::to_string(k) + ": ~</td>\n";
+    return text + "<p>a marker line too many: ~</p>\n</body>\n</html>\n";
+}
+
+struct SheetCase {
+    const char* name;
+    Mode mode;
+    const char* defaultName;
+};
+
+class CalendarExport : public ::testing::TestWithParam<SheetCase> {
+protected:
+    ListWindow view{GetParam().mode};
+    std::string page = view.fake.root + "/sheet.html";
+
+    void SetUp() override {
+        AddFixedPlanner(view.store);
+        view.store.DocumentDirectory = view.fake.documents;
+        view.filters("All", "Day");
+        view.window.ApplyStartDayOfWeek();
+        view.window.BuildCalendar();
+        const CalendarSheetForm& form = CalendarSheetFormOf(CalendarSheetOf(GetParam().mode));
+        view.fake.writeBytes(view.fake.exec + "/" + form.templateFile, markerTemplate());
+    }
+};
+
+TEST_P(CalendarExport, FillsTheMarkerLinesInTheSheetsOrderAndOpensThePage) {
+    view.fake.dialogs.fileAnswers.push_back({true, 0, page, ""});
+    view.window.click("MenuExportCalendar");
+    const FileDialogRequest& asked = view.fake.dialogs.fileRequests.at(0);
+    EXPECT_EQ(asked.startPath, view.fake.documents + "/" + GetParam().defaultName);
+    EXPECT_EQ(asked.title, CalendarSheetFormOf(CalendarSheetOf(GetParam().mode)).dialogTitle);
+    EXPECT_EQ(view.fake.processes.opened, std::vector<std::string>{page});
+    EXPECT_EQ(DiffWithReference(std::string("calendar_") + GetParam().name + ".html", view.fake.bytesOf(page)), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Sheets, CalendarExport,
+                         ::testing::Values(SheetCase{"homework", Mode::Homework, "November Homework Calendar.html"},
+                                           SheetCase{"tasks", Mode::Tasks, "November Task Calendar.html"},
+                                           SheetCase{"events", Mode::Events, "November Event Calendar.html"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// Every entry but the spare last one is taken by exactly one marker line.
+TEST(CalendarSheets, EachOrderTakesEveryEntryOnce) {
+    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks}) {
+        std::vector<int> order = CalendarOrder(sheet);
+        ASSERT_EQ(order.size(), std::size_t(kCalendarMarkers));
+        std::sort(order.begin(), order.end());
+        std::vector<int> all(kCalendarMarkers);
+        std::iota(all.begin(), all.end(), 0);
+        EXPECT_EQ(order, all);
+    }
+}
+
+// A month of five weeks still has 42 cells; those outside the month are grey in every
+// slot and in the study line, never in the day number.
+TEST(CalendarSheets, AFiveWeekMonthFillsFortyTwoCellsAndShadesTheOthers) {
+    RecordStore store;
+    CalendarFrame frame;
+    const Date first = dateFromYmd(2026, 1, 26);  // February 2026 from Monday the 26th
+    for (int c = 0; c < 42; ++c) frame.dates[std::size_t(c)] = first + c;
+    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Events}) {
+        const CalendarFill fill = FillCalendar(sheet, store, frame);
+        const int perDay = sheet == CalendarSheet::Homework ? 5 : 6;
+        const int slots = sheet == CalendarSheet::Homework ? 93 : 51;
+        for (int c = 0; c < 42; ++c) {
+            const bool outside = monthOf(first + c) != 2;
+            SCOPED_TRACE(c);
+            EXPECT_EQ(fill.texts[std::size_t(9 + c)], std::to_string(dayOf(first + c)));
+            EXPECT_FALSE(fill.gray[std::size_t(9 + c)]);
+            for (int j = 0; j < perDay; ++j) EXPECT_EQ(fill.gray[std::size_t(slots + perDay * c + j)], outside);
+            if (sheet == CalendarSheet::Homework) {
+                EXPECT_EQ(fill.gray[std::size_t(51 + c)], outside);
+            }
+        }
+        EXPECT_EQ(fill.texts[9 + 41], "8");  // 8 March
+    }
+}
+
+TEST(CalendarSheets, DefaultNamesOfTaskAndEventSheetsHoldNoCharacterAFileNameCannot) {
+    const std::string odd = "Mo*n|t\\h:<y>?/\"";
+    EXPECT_EQ(CalendarDefaultName(CalendarSheet::Homework, "May"), "May Homework Calendar.html");
+    EXPECT_EQ(CalendarDefaultName(CalendarSheet::Tasks, odd), "Mo n t h  y   ' Task Calendar.html");
+    EXPECT_EQ(CalendarDefaultName(CalendarSheet::Events, odd), "Mo n t h  y   ' Event Calendar.html");
+}
+
+TEST(CalendarSheets, TimesShowTheLastDigitOfTheHours) {
+    const std::pair<long long, const char*> cases[] = {{0, "0:00"}, {65, "1:05"}, {600, "0:00"}, {750, "2:30"},
+                                                       {599, "9:59"}};
+    for (const auto& [minutes, text] : cases) EXPECT_EQ(SheetTime(minutes), text) << minutes;
+}
+
+}  // namespace
+}  // namespace qh::testing

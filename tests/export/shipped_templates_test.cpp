@@ -1,0 +1,123 @@
+// The templates installed beside the program: each keeps the rules its export relies on,
+// and a full month sheet prints on one landscape page.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include "export/calendar_export.h"
+#include "export/list_export.h"
+#include "export/page_text.h"
+#include "export_fixture.h"
+
+namespace qh::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string shipped(const std::string& name) {
+    std::ifstream in(std::string(QH_SOURCE_DIR) + "/templates/" + name, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+int linesHolding(const std::string& text, std::string_view marker) {
+    int count = 0;
+    for (const std::string_view line : TemplateLines(text)) count += ContainsIgnoringCase(line, marker);
+    return count;
+}
+
+TEST(ShippedTemplates, ListTemplatesHaveOneNoteLineOneRowPlaceAndTheRowStyle) {
+    for (const Mode mode : {Mode::Homework, Mode::StudySessions, Mode::Tasks, Mode::Reminders, Mode::Events}) {
+        const ListExportForm& form = *ListExportFormOf(mode);
+        const std::string text = shipped(form.templateFile);
+        SCOPED_TRACE(form.templateFile);
+        ASSERT_FALSE(text.empty());
+        EXPECT_EQ(linesHolding(text, "~"), 1);
+        EXPECT_EQ(linesHolding(text, "INSERT"), 1);
+        // The row place is a comment, harmless where it stays.
+        EXPECT_TRUE(std::regex_search(text, std::regex("<!--[^\n]*INSERT[^\n]*-->", std::regex::icase)));
+        const std::string rowClass = std::regex_replace(std::string(form.otherCell), std::regex(".*class=(xl\\d+).*"), "$1");
+        EXPECT_NE(text.find("td." + rowClass), std::string::npos) << rowClass;
+        EXPECT_NE(text.find("@media print"), std::string::npos);
+    }
+}
+
+TEST(ShippedTemplates, CalendarTemplatesHaveAMarkerLinePerEntryAndTheSwappedClasses) {
+    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks}) {
+        const std::string text = shipped(CalendarSheetFormOf(sheet).templateFile);
+        SCOPED_TRACE(CalendarSheetFormOf(sheet).templateFile);
+        EXPECT_EQ(linesHolding(text, "~"), kCalendarMarkers);
+        EXPECT_EQ(linesHolding(text, "INSERT"), 0);
+        std::vector<std::string> classes = {"xredbg", "xblackbg", "xwhite1", "xgray1", "xwhite2", "xgray2",
+                                            "xwhite3", "xgray3"};
+        if (sheet == CalendarSheet::Homework)
+            classes.insert(classes.end(), {"xgreenbg", "xwhitebg", "xwhite4", "xgray4"});
+        for (const std::string& name : classes) EXPECT_NE(text.find("." + name), std::string::npos) << name;
+        EXPECT_NE(text.find("size: landscape"), std::string::npos);
+    }
+}
+
+// Runs a command; its standard output, or nothing when it could not run.
+std::string run(const std::string& command) {
+    std::string out;
+    if (FILE* pipe = ::popen(command.c_str(), "r")) {
+        char buffer[4096];
+        for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) out.append(buffer, n);
+        ::pclose(pipe);
+    }
+    return out;
+}
+
+// A month in which every day is as full as a sheet allows, with long texts.
+RecordStore fullMonth() {
+    RecordStore s;
+    addClass(s, 1, "Advanced Placement Chemistry");
+    for (int day = 1; day <= 30; ++day) {
+        const std::string date = "2026/11/" + std::string(day < 10 ? "0" : "") + std::to_string(day);
+        for (int i = 0; i < 6; ++i) {
+            addAssignment(s, {.date = date, .description = "A long description that will not fit the cell",
+                              .done = i == 4, .estimate = "02 : 15"});
+            addTask(s, {.description = "A long task description that will not fit", .date = date, .done = i == 5});
+        }
+        addSession(s, day * 6, "00 : 45", date);
+    }
+    return s;
+}
+
+TEST(ShippedTemplates, AFullMonthSheetPrintsOnOneLandscapePage) {
+    if (run("command -v chromium").empty() || run("command -v pdfinfo").empty())
+        GTEST_SKIP() << "chromium and pdfinfo are needed to print a sheet";
+    const RecordStore store = fullMonth();
+    CalendarFrame frame;
+    frame.title = "November 2026 Homework Calendar";
+    frame.creationNote = "Created on Saturday, November 21, 2026";
+    const char* days[] = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = days[d];
+    for (int c = 0; c < 42; ++c) frame.dates[std::size_t(c)] = dateFromYmd(2026, 10, 26) + c;
+
+    const fs::path folder = fs::temp_directory_path() / ("quillhollow-sheet-" + std::to_string(::getpid()));
+    fs::create_directories(folder);
+    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks}) {
+        const std::string name = sheet == CalendarSheet::Homework ? "homework" : "tasks";
+        const fs::path html = folder / (name + ".html"), pdf = folder / (name + ".pdf");
+        std::ofstream(html, std::ios::binary)
+            << FillCalendarTemplate(shipped(CalendarSheetFormOf(sheet).templateFile), sheet,
+                                    FillCalendar(sheet, store, frame));
+        run("chromium --headless --no-sandbox --disable-gpu --no-pdf-header-footer --print-to-pdf='" + pdf.string() +
+            "' 'file://" + html.string() + "' 2>/dev/null");
+        const std::string info = run("pdfinfo '" + pdf.string() + "'");
+        std::smatch pages;
+        ASSERT_TRUE(std::regex_search(info, pages, std::regex("Pages:\\s+(\\d+)"))) << name << ": " << info;
+        EXPECT_EQ(pages[1], "1") << name;
+    }
+    fs::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace qh::testing
