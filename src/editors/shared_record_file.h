@@ -11,8 +11,10 @@
 // - EditMode "Edit": fill the kind's struct from the controls exactly as they stand on
 //   screen, unsaved changes included (list selections as their texts, checks as bools, the
 //   dates the form keeps: the assignment's due date, tempTaskDate, StoreEventDate and
-//   StoreEndDate), and call ShareOut. Nothing else changes: no message after a write, the
-//   form, ChangeFlag and the record store stay as they are. This mode never reads.
+//   StoreEndDate), and call ShareOut with DocumentDirectory, sharedFileBytes(struct) and
+//   the name of sharedAssignmentFileName or sharedFileName. Nothing else changes: no
+//   message after a write, the form, ChangeFlag and the record store stay as they are.
+//   This mode never reads.
 // - Any other EditMode (a new record): call the kind's ShareIn. On nothing (cancel, or a
 //   refused file, whose message ShareIn has shown) leave the form as it is. Otherwise put
 //   every field into its control, each through the control's own handler (so ChangeFlag
@@ -24,12 +26,13 @@
 //     "Long Date" also when the box stays off.
 //   - Event: name, StoreEventDate (shown as "Long Date"), type, time; then switch on the
 //     recurrence radio, which runs ShowRecurrencePanel and so sets that panel's defaults
-//     first; only then set the rule fields of the struct (they overwrite the defaults),
-//     RadioEndOn or RadioEndNone by `endOn`, StoreEndDate and TextboxEndDate; when the end
-//     is off TextboxEndDate shows endDateProposal() instead, CheckboxEndDate off, grey;
-//     last the notes. Rule fields the recurrence does not use come back as a new form
-//     holds them (both "ThisDate" radios on, weekday boxes off), so setting them is
-//     harmless.
+//     first; only then set the rule: for "Month" and "Year" that recurrence's ThisDate
+//     radio (off: its User radio) and both pairs of combos, which the reader fills alike;
+//     for "Day" the weekday boxes; for "None" nothing. Then RadioEndOn or RadioEndNone by
+//     `endOn`, StoreEndDate and TextboxEndDate; when the end is off TextboxEndDate shows
+//     endDateProposal() instead, CheckboxEndDate off, the date grey. Last the notes.
+//     Fields of the struct a recurrence doesn't use hold a new form's values (both
+//     ThisDate radios on, weekday boxes off, empty combos) and are not to be set.
 #include <array>
 #include <optional>
 #include <string>
