@@ -15,18 +15,24 @@ namespace {
 
 std::string fileOf(int kind) {
     switch (SharedKind(kind)) {
-        case SharedKind::Assignment: return sharedFileBytes(test::filledAssignment());
-        case SharedKind::Task: return sharedFileBytes(test::filledTask(), test::kSharedToday);
-        case SharedKind::Event: break;
+        case SharedKind::Assignment:
+            return sharedFileBytes(test::filledAssignment());
+        case SharedKind::Task:
+            return sharedFileBytes(test::filledTask(), test::kSharedToday);
+        case SharedKind::Event:
+            break;
     }
     return sharedFileBytes(test::filledEvent());
 }
 
 bool readsAs(int kind, std::string_view bytes) {
     switch (SharedKind(kind)) {
-        case SharedKind::Assignment: return readSharedAssignment(bytes).has_value();
-        case SharedKind::Task: return readSharedTask(bytes).has_value();
-        case SharedKind::Event: break;
+        case SharedKind::Assignment:
+            return readSharedAssignment(bytes).has_value();
+        case SharedKind::Task:
+            return readSharedTask(bytes).has_value();
+        case SharedKind::Event:
+            break;
     }
     return readSharedEvent(bytes).has_value();
 }
@@ -50,8 +56,8 @@ void ReadFromFile(benchmark::State& state) {
     PosixFileSystem files;
     const auto kind = SharedKind(state.range(0));
     const std::string path = fake.documents + "/large.txt";
-    fake.writeBytes(path, fileOf(int(kind)).substr(0, std::size_t(sharedKindTexts(kind).lineLength)) +
-                              std::string(8 << 20, 'x'));
+    fake.writeBytes(
+        path, fileOf(int(kind)).substr(0, std::size_t(sharedKindTexts(kind).lineLength)) + std::string(8 << 20, 'x'));
     for (auto _ : state) {
         const auto head = readSharedFileHead(files, path, kind);
         if (!head || readsAs(int(kind), *head)) state.SkipWithError("a file without a line end was read");

@@ -4,6 +4,7 @@
 // kind's length that reads as the same record.
 #include <string_view>
 
+#include "editors/recurrence_panel_defaults.h"
 #include "editors/shared_record_file.h"
 #include "memory_drive.h"
 
@@ -37,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // An undated task is written with "today": here the date it was read with.
     check(bytes, SharedKind::Task, &readSharedTask, [](const SharedTask& t) { return sharedFileBytes(t, t.date); });
     check(bytes, SharedKind::Event, &readSharedEvent, [](const SharedEvent& e) {
-        require(endDateProposal(e.recurrence, e.firstDate) >= e.firstDate, "the proposal never comes before");
+        require(ProposedEndDate(e.recurrence, e.firstDate) >= e.firstDate, "a read event has an end date to propose");
         return sharedFileBytes(e);
     });
     return 0;

@@ -54,8 +54,8 @@ std::optional<std::string> writeSharedFile(FileSystem& files, const std::string&
     }
 }
 
-bool ShareOut(Platform& platform, const std::string& documentDirectory, SharedKind kind,
-              const std::string& defaultName, const std::string& fileBytes) {
+bool ShareOut(Platform& platform, const std::string& documentDirectory, SharedKind kind, const std::string& defaultName,
+              const std::string& fileBytes) {
     const auto path = chooseFile(platform, documentDirectory, kind, false, defaultName);
     if (!path) return false;
     if (const auto failure = writeSharedFile(platform.files, *path, fileBytes)) {

@@ -23,8 +23,8 @@ std::optional<std::string> writeSharedFile(FileSystem& files, const std::string&
 // The writing half: the save dialog in `documentDirectory` offering `defaultName`, then
 // the file. No message follows a write; a failed write shows its message. Returns true
 // when the file was written, false on cancel or failure.
-bool ShareOut(Platform& platform, const std::string& documentDirectory, SharedKind kind,
-              const std::string& defaultName, const std::string& fileBytes);
+bool ShareOut(Platform& platform, const std::string& documentDirectory, SharedKind kind, const std::string& defaultName,
+              const std::string& fileBytes);
 
 // The reading half: the open dialog in `documentDirectory`, then the file's first line.
 // Nothing on cancel, and nothing after showing the kind's "This is not ... file." when the

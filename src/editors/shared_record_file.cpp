@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "common/text.h"
+#include "editors/recurrence_panel_defaults.h"
 #include "platform/locale.h"
 #include "record_store/codepage.h"
 
@@ -25,9 +26,9 @@ constexpr Field kDescription{5, 60}, kDeadline{65, 5}, kDate{70, 15}, kType{85, 
     kNotes{105, 845};
 }
 namespace event {
-constexpr Field kName{6, 60}, kFirstDate{66, 15}, kType{81, 10}, kTime{91, 10}, kRecurrence{101, 5},
-    kThisDate{106, 5}, kRepeatNumber{111, 10}, kRepeatDay{121, 10}, kWeekdays{131, 10}, kEndOn{141, 5},
-    kEndDate{146, 15}, kNotes{161, 795};
+constexpr Field kName{6, 60}, kFirstDate{66, 15}, kType{81, 10}, kTime{91, 10}, kRecurrence{101, 5}, kThisDate{106, 5},
+    kRepeatNumber{111, 10}, kRepeatDay{121, 10}, kWeekdays{131, 10}, kEndOn{141, 5}, kEndDate{146, 15},
+    kNotes{161, 795};
 }
 
 constexpr char kCarriageReturn = '\r';
@@ -118,6 +119,18 @@ std::string safeFileName(std::string name) {
 
 constexpr std::size_t kNameCharacters = 40;
 
+// Whether the end date the editor proposes for the rule (ShowRecurrencePanel on the
+// recurrence radio, the grey proposal when the end is off) is a date: a first date late
+// in 9999 would carry it past the last date there is.
+bool proposalInCalendar(std::string_view recurrence, Date first) {
+    try {
+        ProposedEndDate(recurrence, first);
+        return true;
+    } catch (const UntrappedFailure&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 const SharedKindTexts& sharedKindTexts(SharedKind kind) {
@@ -195,7 +208,7 @@ std::optional<SharedTask> readSharedTask(std::string_view fileBytes) {
     // The deadline box takes the field as a truth value: True or False in any case.
     const std::string deadline = lowerAscii(trimRight(line->raw(kDeadline)));
     if (!date || (deadline != "true" && deadline != "false")) return std::nullopt;
-    return SharedTask{line->text(kDescription), deadline == "true",     *date,
+    return SharedTask{line->text(kDescription), deadline == "true",    *date,
                       line->text(kType),        line->text(kPriority), line->text(kNotes)};
 }
 
@@ -207,7 +220,7 @@ std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes) {
     const auto end = line->date(kEndDate);
     const std::string recurrence = line->text(kRecurrence);
     const bool known = recurrence == "None" || recurrence == "Day" || recurrence == "Month" || recurrence == "Year";
-    if (!first || !end || !known) return std::nullopt;
+    if (!first || !end || !known || !proposalInCalendar(recurrence, *first)) return std::nullopt;
 
     SharedEvent e;
     e.name = line->text(kName);
@@ -232,27 +245,12 @@ std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes) {
 }
 
 std::string sharedAssignmentFileName(std::string_view description, Date dueDate, const Locale& locale) {
-    const std::string month = leftChars(locale.monthName(monthOf(dueDate)), 3);
-    return safeFileName(leftChars(trim(description), kNameCharacters) + ", " + month + " " +
-                        std::to_string(dayOf(dueDate)) + ".txt");
+    return safeFileName(leftChars(trim(description), kNameCharacters) + ", " + locale.shortMonthName(monthOf(dueDate)) +
+                        " " + std::to_string(dayOf(dueDate)) + ".txt");
 }
 
 std::string sharedFileName(std::string_view name) {
     return safeFileName(leftChars(trim(name), kNameCharacters) + ".txt");
-}
-
-Date endDateProposal(std::string_view recurrence, Date firstDate) {
-    // A proposal past the last date there is (a file may hold any first date) gives way
-    // to the first date itself.
-    try {
-        Date proposal = firstDate;
-        if (recurrence == "Day") proposal = firstDate + 14;
-        if (recurrence == "Month") proposal = addMonths(firstDate, 6);
-        if (recurrence == "Year") proposal = addYears(firstDate, 5);
-        return yearOf(proposal) <= 9999 ? proposal : firstDate;
-    } catch (const UntrappedFailure&) {
-        return firstDate;
-    }
 }
 
 }  // namespace qh

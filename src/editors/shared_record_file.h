@@ -30,7 +30,8 @@
 //     radio (off: its User radio) and both pairs of combos, which the reader fills alike;
 //     for "Day" the weekday boxes; for "None" nothing. Then RadioEndOn or RadioEndNone by
 //     `endOn`, StoreEndDate and TextboxEndDate; when the end is off TextboxEndDate shows
-//     endDateProposal() instead, CheckboxEndDate off, the date grey. Last the notes.
+//     ProposedEndDate (recurrence_panel_defaults.h) instead, CheckboxEndDate off, the
+//     date grey. Last the notes.
 //     Fields of the struct a recurrence doesn't use hold a new form's values (both
 //     ThisDate radios on, weekday boxes off, empty combos) and are not to be set.
 #include <array>
@@ -82,21 +83,21 @@ struct SharedTask {
 };
 
 struct SharedEvent {
-    std::string name;                  // TextBoxEvent
-    Date firstDate = 0;                // StoreEventDate
-    std::string type;                  // ComboType
-    std::string time;                  // ComboTime
-    std::string recurrence = "None";   // Recurrence: "None", "Day", "Month" or "Year"
-    bool monthlyThisDate = true;       // RadioMonthlyThisDate (off: RadioMonthlyUser)
-    std::string monthlyNumber;         // ComboMonthlyNumber
-    std::string monthlyDay;            // ComboMonthlyDay
-    bool yearlyThisDate = true;        // RadioYearlyThisDate (off: RadioYearlyUser)
-    std::string yearlyNumber;          // ComboYearlyNumber
-    std::string yearlyDay;             // ComboYearlyDay
-    std::array<bool, 7> weekdays{};    // CheckBoxMonday .. CheckBoxSunday
-    bool endOn = false;                // RadioEndOn (off: RadioEndNone)
-    Date endDate = 0;                  // StoreEndDate
-    std::string notes;                 // TextBoxNotes
+    std::string name;                 // TextBoxEvent
+    Date firstDate = 0;               // StoreEventDate
+    std::string type;                 // ComboType
+    std::string time;                 // ComboTime
+    std::string recurrence = "None";  // Recurrence: "None", "Day", "Month" or "Year"
+    bool monthlyThisDate = true;      // RadioMonthlyThisDate (off: RadioMonthlyUser)
+    std::string monthlyNumber;        // ComboMonthlyNumber
+    std::string monthlyDay;           // ComboMonthlyDay
+    bool yearlyThisDate = true;       // RadioYearlyThisDate (off: RadioYearlyUser)
+    std::string yearlyNumber;         // ComboYearlyNumber
+    std::string yearlyDay;            // ComboYearlyDay
+    std::array<bool, 7> weekdays{};   // CheckBoxMonday .. CheckBoxSunday
+    bool endOn = false;               // RadioEndOn (off: RadioEndNone)
+    Date endDate = 0;                 // StoreEndDate
+    std::string notes;                // TextBoxNotes
     bool operator==(const SharedEvent&) const = default;
 };
 
@@ -110,7 +111,8 @@ std::string sharedFileBytes(const SharedEvent& event);
 // The fields of a file's first line (up to its first CR), or nothing when it is not a
 // file of the kind: a line of another length or with another marker, a NUL byte in it, a
 // date field that is not a date, a deadline other than True or False, a recurrence other
-// than the four. The whole line is checked before anything is returned, so a caller
+// than the four, an event so late in 9999 that its proposed end date would leave the
+// calendar. The whole line is checked before anything is returned, so a caller
 // applies all of it or none.
 std::optional<SharedAssignment> readSharedAssignment(std::string_view fileBytes);
 std::optional<SharedTask> readSharedTask(std::string_view fileBytes);
@@ -121,9 +123,5 @@ std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes);
 // * | \ : < > ? / made a blank and the double quote a "'".
 std::string sharedAssignmentFileName(std::string_view description, Date dueDate, const Locale& locale);
 std::string sharedFileName(std::string_view name);
-
-// The end date TextboxEndDate shows while the end is off: the first date plus 14 days for
-// "Day", 6 months for "Month", 5 years for "Year", and the first date itself otherwise.
-Date endDateProposal(std::string_view recurrence, Date firstDate);
 
 }  // namespace qh

@@ -1,10 +1,11 @@
 // The dialog and file halves of sharing: what the dialogs are asked, what reaches the
 // drive, and the files that give the kind's message.
+#include "editors/shared_file_transfer.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "editors/shared_file_transfer.h"
 #include "editors/shared_records.h"
 #include "support/fake_platform.h"
 
@@ -96,7 +97,7 @@ TEST_F(Sharing, UnreadableAndDamagedFilesGiveTheKindsMessage) {
     fake.writeBytes(folder + "/failing.txt", event);
     fake.files.failPath("failing.txt");
     for (const std::string& path : {huge, folder + "/empty.txt", folder + "/short.txt", folder + "/failing.txt",
-                                   folder + "/missing.txt", folder, std::string("/dev/zero")}) {
+                                    folder + "/missing.txt", folder, std::string("/dev/zero")}) {
         SCOPED_TRACE(path);
         fake.messages.shown.clear();
         choose(path);

@@ -32,8 +32,10 @@ std::string readable(const std::string& bytes) {
     for (std::size_t at = 0; at < bytes.size(); at += 40) {
         out << at + 1 << ":";
         for (unsigned char c : bytes.substr(at, 40)) {
-            if (c >= 0x20 && c < 0x7F) out << c;
-            else out << "<" << std::hex << int(c) << std::dec << ">";
+            if (c >= 0x20 && c < 0x7F)
+                out << c;
+            else
+                out << "<" << std::hex << int(c) << std::dec << ">";
         }
         out << "\n";
     }
@@ -57,12 +59,11 @@ TEST_P(SharedFileWrite, MatchesItsReferenceByteForByte) {
     EXPECT_TRUE(written == expected);  // byte for byte; the line above shows where not
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, SharedFileWrite,
-    testing::Values(WriteCase{"assignment", [] { return sharedFileBytes(filledAssignment()); }},
-                    WriteCase{"task", [] { return sharedFileBytes(filledTask(), kSharedToday); }},
-                    WriteCase{"event", [] { return sharedFileBytes(filledEvent()); }}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Kinds, SharedFileWrite,
+                         testing::Values(WriteCase{"assignment", [] { return sharedFileBytes(filledAssignment()); }},
+                                         WriteCase{"task", [] { return sharedFileBytes(filledTask(), kSharedToday); }},
+                                         WriteCase{"event", [] { return sharedFileBytes(filledEvent()); }}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SharedFileRoundTrip, GivesBackEveryFieldWithTheNotesLineBreaks) {
     SharedAssignment assignment = filledAssignment();
@@ -139,18 +140,24 @@ struct Refusal {
 
 std::string validFile(SharedKind kind) {
     switch (kind) {
-        case SharedKind::Assignment: return sharedFileBytes(filledAssignment());
-        case SharedKind::Task: return sharedFileBytes(filledTask(), kSharedToday);
-        case SharedKind::Event: break;
+        case SharedKind::Assignment:
+            return sharedFileBytes(filledAssignment());
+        case SharedKind::Task:
+            return sharedFileBytes(filledTask(), kSharedToday);
+        case SharedKind::Event:
+            break;
     }
     return sharedFileBytes(filledEvent());
 }
 
 bool reads(SharedKind kind, const std::string& bytes) {
     switch (kind) {
-        case SharedKind::Assignment: return readSharedAssignment(bytes).has_value();
-        case SharedKind::Task: return readSharedTask(bytes).has_value();
-        case SharedKind::Event: break;
+        case SharedKind::Assignment:
+            return readSharedAssignment(bytes).has_value();
+        case SharedKind::Task:
+            return readSharedTask(bytes).has_value();
+        case SharedKind::Event:
+            break;
     }
     return readSharedEvent(bytes).has_value();
 }
@@ -175,24 +182,25 @@ constexpr auto E = SharedKind::Event;
 
 INSTANTIATE_TEST_SUITE_P(
     Damaged, SharedFileRefusal,
-    testing::Values(
-        Refusal{"EventMarkerOnATaskLengthLine", T, [](std::string b) { return replaced(b, 1, "EVEN"); }},
-        Refusal{"TaskMarkerOnAnEventLengthLine", E, [](std::string b) { return replaced(b, 1, "TASK "); }},
-        Refusal{"LowerCaseMarker", A, [](std::string b) { return replaced(b, 1, "assignment"); }},
-        Refusal{"OneByteShort", E, [](std::string b) { return b.erase(954, 1); }},
-        Refusal{"OneByteLong", T, [](std::string b) { return b.insert(900, "x"); }},
-        Refusal{"AnotherKindsFile", A, [](std::string) { return validFile(T); }},
-        Refusal{"Empty", T, [](std::string) { return std::string(); }},
-        Refusal{"OnlyALineEnd", E, [](std::string) { return std::string("\r\n"); }},
-        Refusal{"CarriageReturnInsideTheLine", A, [](std::string b) { return replaced(b, 500, "\r"); }},
-        Refusal{"NulInTheNotes", E, [](std::string b) { return replaced(b, 200, std::string(1, '\0')); }},
-        Refusal{"DueDateMonth13", A, [](std::string b) { return replaced(b, 86, "2026/13/01"); }},
-        Refusal{"DueDateBlank", A, [](std::string b) { return replaced(b, 86, std::string(15, ' ')); }},
-        Refusal{"TaskDateWords", T, [](std::string b) { return replaced(b, 70, "tomorrow  "); }},
-        Refusal{"DeadlineNeitherTrueNorFalse", T, [](std::string b) { return replaced(b, 65, "Yes  "); }},
-        Refusal{"EventFirstDate30February", E, [](std::string b) { return replaced(b, 66, "2027/02/30"); }},
-        Refusal{"EventEndDateBlank", E, [](std::string b) { return replaced(b, 146, std::string(15, ' ')); }},
-        Refusal{"UnknownRecurrence", E, [](std::string b) { return replaced(b, 101, "Week "); }}),
+    testing::Values(Refusal{"EventMarkerOnATaskLengthLine", T, [](std::string b) { return replaced(b, 1, "EVEN"); }},
+                    Refusal{"TaskMarkerOnAnEventLengthLine", E, [](std::string b) { return replaced(b, 1, "TASK "); }},
+                    Refusal{"LowerCaseMarker", A, [](std::string b) { return replaced(b, 1, "assignment"); }},
+                    Refusal{"OneByteShort", E, [](std::string b) { return b.erase(954, 1); }},
+                    Refusal{"OneByteLong", T, [](std::string b) { return b.insert(900, "x"); }},
+                    Refusal{"AnotherKindsFile", A, [](std::string) { return validFile(T); }},
+                    Refusal{"Empty", T, [](std::string) { return std::string(); }},
+                    Refusal{"OnlyALineEnd", E, [](std::string) { return std::string("\r\n"); }},
+                    Refusal{"CarriageReturnInsideTheLine", A, [](std::string b) { return replaced(b, 500, "\r"); }},
+                    Refusal{"NulInTheNotes", E, [](std::string b) { return replaced(b, 200, std::string(1, '\0')); }},
+                    Refusal{"DueDateMonth13", A, [](std::string b) { return replaced(b, 86, "2026/13/01"); }},
+                    Refusal{"DueDateBlank", A, [](std::string b) { return replaced(b, 86, std::string(15, ' ')); }},
+                    Refusal{"TaskDateWords", T, [](std::string b) { return replaced(b, 70, "tomorrow  "); }},
+                    Refusal{"DeadlineNeitherTrueNorFalse", T, [](std::string b) { return replaced(b, 65, "Yes  "); }},
+                    Refusal{"EventFirstDate30February", E, [](std::string b) { return replaced(b, 66, "2027/02/30"); }},
+                    Refusal{"EventEndDateBlank", E,
+                            [](std::string b) { return replaced(b, 146, std::string(15, ' ')); }},
+                    Refusal{"UnknownRecurrence", E, [](std::string b) { return replaced(b, 101, "Week "); }},
+                    Refusal{"MonthlyFromLateIn9999", E, [](std::string b) { return replaced(b, 66, "9999/08/01"); }}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SharedFileRead, TakesTheFirstLineAndToleratesWhatTheWriterLeavesOpen) {
@@ -240,16 +248,6 @@ TEST(SharedFileName, AssignmentNamesEndWithTheDueDate) {
               "Essay  'Hamlet', Dec 3.txt");
     EXPECT_EQ(sharedAssignmentFileName(std::string(70, 'q'), dateFromYmd(2027, 9, 30), locale),
               std::string(40, 'q') + ", Sep 30.txt");
-}
-
-TEST(EndDateProposal, FollowsTheRecurrenceAndStaysInTheCalendar) {
-    const Date first = dateFromYmd(2026, 8, 31);
-    EXPECT_EQ(endDateProposal("Day", first), dateFromYmd(2026, 9, 14));
-    EXPECT_EQ(endDateProposal("Month", first), dateFromYmd(2027, 2, 28));
-    EXPECT_EQ(endDateProposal("Year", dateFromYmd(2028, 2, 29)), dateFromYmd(2033, 2, 28));
-    EXPECT_EQ(endDateProposal("None", first), first);
-    const Date last = dateFromYmd(9999, 12, 25);
-    for (const char* recurrence : {"Day", "Month", "Year"}) EXPECT_EQ(endDateProposal(recurrence, last), last);
 }
 
 }  // namespace

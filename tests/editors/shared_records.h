@@ -19,7 +19,7 @@ inline SharedAssignment filledAssignment() {
 
 // No deadline: the file carries "today" (2026/11/21) in place of the picked date.
 inline SharedTask filledTask() {
-    return {"Call grandma: ask about \"the trip\"", false, dateFromYmd(2027, 1, 2), "Family", "High",
+    return {"Call grandma: ask about \"the trip\"",         false, dateFromYmd(2027, 1, 2), "Family", "High",
             "Before Sunday.\r\nNumber is in the blue book."};
 }
 
