@@ -13,42 +13,18 @@
 namespace qh {
 namespace {
 
-std::string fileOf(int kind) {
-    switch (SharedKind(kind)) {
-        case SharedKind::Assignment:
-            return sharedFileBytes(test::filledAssignment());
-        case SharedKind::Task:
-            return sharedFileBytes(test::filledTask(), test::kSharedToday);
-        case SharedKind::Event:
-            break;
-    }
-    return sharedFileBytes(test::filledEvent());
-}
-
-bool readsAs(int kind, std::string_view bytes) {
-    switch (SharedKind(kind)) {
-        case SharedKind::Assignment:
-            return readSharedAssignment(bytes).has_value();
-        case SharedKind::Task:
-            return readSharedTask(bytes).has_value();
-        case SharedKind::Event:
-            break;
-    }
-    return readSharedEvent(bytes).has_value();
-}
-
 void Kinds(benchmark::internal::Benchmark* b) {
     b->ArgName("kind")->Arg(0)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
 }
 
 void Write(benchmark::State& state) {
-    for (auto _ : state) benchmark::DoNotOptimize(fileOf(int(state.range(0))));
+    for (auto _ : state) benchmark::DoNotOptimize(test::filledFile(SharedKind(state.range(0))));
 }
 
 void Read(benchmark::State& state) {
-    const std::string bytes = fileOf(int(state.range(0)));
+    const std::string bytes = test::filledFile(SharedKind(state.range(0)));
     for (auto _ : state)
-        if (!readsAs(int(state.range(0)), bytes)) state.SkipWithError("refused");
+        if (!test::readsAs(SharedKind(state.range(0)), bytes)) state.SkipWithError("refused");
 }
 
 void ReadFromFile(benchmark::State& state) {
@@ -56,11 +32,11 @@ void ReadFromFile(benchmark::State& state) {
     PosixFileSystem files;
     const auto kind = SharedKind(state.range(0));
     const std::string path = fake.documents + "/large.txt";
-    fake.writeBytes(
-        path, fileOf(int(kind)).substr(0, std::size_t(sharedKindTexts(kind).lineLength)) + std::string(8 << 20, 'x'));
+    fake.writeBytes(path, test::filledFile(kind).substr(0, std::size_t(sharedKindTexts(kind).lineLength)) +
+                              std::string(8 << 20, 'x'));
     for (auto _ : state) {
         const auto head = readSharedFileHead(files, path, kind);
-        if (!head || readsAs(int(kind), *head)) state.SkipWithError("a file without a line end was read");
+        if (!head || test::readsAs(kind, *head)) state.SkipWithError("a file without a line end was read");
     }
 }
 
@@ -69,7 +45,8 @@ void WriteToFile(benchmark::State& state) {
     PosixFileSystem files;
     const std::string path = fake.documents + "/shared.txt";
     for (auto _ : state)
-        if (writeSharedFile(files, path, fileOf(int(state.range(0))))) state.SkipWithError("not written");
+        if (writeSharedFile(files, path, test::filledFile(SharedKind(state.range(0)))))
+            state.SkipWithError("not written");
 }
 
 BENCHMARK(Write)->Apply(Kinds);

@@ -14,8 +14,10 @@ namespace {
 
 using test::filledAssignment;
 using test::filledEvent;
+using test::filledFile;
 using test::filledTask;
 using test::kSharedToday;
+using test::readsAs;
 
 std::string referenceBytes(const std::string& name) {
     std::ifstream in(std::string(QH_SOURCE_DIR) + "/tests/editors/shared_files/" + name, std::ios::binary);
@@ -138,30 +140,6 @@ struct Refusal {
     std::function<std::string(std::string)> damage;  // from the valid file's bytes
 };
 
-std::string validFile(SharedKind kind) {
-    switch (kind) {
-        case SharedKind::Assignment:
-            return sharedFileBytes(filledAssignment());
-        case SharedKind::Task:
-            return sharedFileBytes(filledTask(), kSharedToday);
-        case SharedKind::Event:
-            break;
-    }
-    return sharedFileBytes(filledEvent());
-}
-
-bool reads(SharedKind kind, const std::string& bytes) {
-    switch (kind) {
-        case SharedKind::Assignment:
-            return readSharedAssignment(bytes).has_value();
-        case SharedKind::Task:
-            return readSharedTask(bytes).has_value();
-        case SharedKind::Event:
-            break;
-    }
-    return readSharedEvent(bytes).has_value();
-}
-
 std::string replaced(std::string bytes, std::size_t start, std::string_view with) {
     return bytes.replace(start - 1, with.size(), with);
 }
@@ -172,8 +150,8 @@ class SharedFileRefusal : public testing::TestWithParam<Refusal> {};
 
 TEST_P(SharedFileRefusal, IsNotAFileOfTheKind) {
     const SharedKind kind = GetParam().kind;
-    ASSERT_TRUE(reads(kind, validFile(kind)));
-    EXPECT_FALSE(reads(kind, GetParam().damage(validFile(kind))));
+    ASSERT_TRUE(readsAs(kind, filledFile(kind)));
+    EXPECT_FALSE(readsAs(kind, GetParam().damage(filledFile(kind))));
 }
 
 constexpr auto A = SharedKind::Assignment;
@@ -187,7 +165,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{"LowerCaseMarker", A, [](std::string b) { return replaced(b, 1, "assignment"); }},
                     Refusal{"OneByteShort", E, [](std::string b) { return b.erase(954, 1); }},
                     Refusal{"OneByteLong", T, [](std::string b) { return b.insert(900, "x"); }},
-                    Refusal{"AnotherKindsFile", A, [](std::string) { return validFile(T); }},
+                    Refusal{"AnotherKindsFile", A, [](std::string) { return filledFile(T); }},
                     Refusal{"Empty", T, [](std::string) { return std::string(); }},
                     Refusal{"OnlyALineEnd", E, [](std::string) { return std::string("\r\n"); }},
                     Refusal{"CarriageReturnInsideTheLine", A, [](std::string b) { return replaced(b, 500, "\r"); }},

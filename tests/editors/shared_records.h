@@ -45,4 +45,29 @@ inline SharedEvent filledEvent() {
 
 inline const Date kSharedToday = dateFromYmd(2026, 11, 21);
 
+// The file of the filled record of a kind, and whether bytes read as a file of a kind.
+inline std::string filledFile(SharedKind kind) {
+    switch (kind) {
+        case SharedKind::Assignment:
+            return sharedFileBytes(filledAssignment());
+        case SharedKind::Task:
+            return sharedFileBytes(filledTask(), kSharedToday);
+        case SharedKind::Event:
+            break;
+    }
+    return sharedFileBytes(filledEvent());
+}
+
+inline bool readsAs(SharedKind kind, std::string_view bytes) {
+    switch (kind) {
+        case SharedKind::Assignment:
+            return readSharedAssignment(bytes).has_value();
+        case SharedKind::Task:
+            return readSharedTask(bytes).has_value();
+        case SharedKind::Event:
+            break;
+    }
+    return readSharedEvent(bytes).has_value();
+}
+
 }  // namespace qh::test
