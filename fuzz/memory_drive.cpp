@@ -48,6 +48,10 @@ std::string MemoryFileSystem::readAll(const std::string& path) {
     return found->second;
 }
 
+std::string MemoryFileSystem::readHead(const std::string& path, std::size_t maxBytes) {
+    return readAll(path).substr(0, maxBytes);
+}
+
 void MemoryFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
     if (!folders.count(folderOf(path))) throw FileFailure("No folder for " + path);
     files[path] = bytes;

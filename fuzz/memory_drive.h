@@ -19,6 +19,7 @@ public:
     std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
     std::string readAll(const std::string& path) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
+    std::string readHead(const std::string& path, std::size_t maxBytes) override;
     bool exists(const std::string& path) override;
     bool isDirectory(const std::string& path) override;
     void makeDirectory(const std::string& path) override;

@@ -36,6 +36,10 @@ public:
     // one, the folder synced; a failure anywhere leaves the old file whole.
     virtual std::string readAll(const std::string& path) = 0;
     virtual void writeWhole(const std::string& path, const std::string& bytes) = 0;
+    // The first `maxBytes` bytes of a file (fewer when it is shorter), for files of which
+    // only a head matters however large they are. Fails, like readAll, when the file cannot
+    // be opened or read, and also when it is not a plain file (a folder, a device, a pipe).
+    virtual std::string readHead(const std::string& path, std::size_t maxBytes) = 0;
 
     virtual bool exists(const std::string& path) = 0;
     virtual bool isDirectory(const std::string& path) = 0;

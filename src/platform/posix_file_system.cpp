@@ -49,6 +49,22 @@ void writeAll(int fd, const char* data, std::size_t size, const std::string& pat
     }
 }
 
+// Reads from the descriptor until its end or until `limit` bytes are in.
+std::string readUpTo(int fd, std::size_t limit, const std::string& path) {
+    std::string bytes;
+    char buffer[65536];
+    while (bytes.size() < limit) {
+        const ssize_t n = ::read(fd, buffer, std::min(sizeof buffer, limit - bytes.size()));
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            fail("Cannot read", path);
+        }
+        if (n == 0) break;
+        bytes.append(buffer, std::size_t(n));
+    }
+    return bytes;
+}
+
 std::string folderOf(const std::string& path) {
     const auto slash = path.find_last_of('/');
     if (slash == std::string::npos) return ".";
@@ -137,18 +153,17 @@ std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path
 std::string PosixFileSystem::readAll(const std::string& path) {
     Descriptor fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (fd.get() < 0) fail("Cannot open", path);
-    std::string bytes;
-    char buffer[65536];
-    for (;;) {
-        const ssize_t n = ::read(fd.get(), buffer, sizeof buffer);
-        if (n < 0) {
-            if (errno == EINTR) continue;
-            fail("Cannot read", path);
-        }
-        if (n == 0) break;
-        bytes.append(buffer, std::size_t(n));
-    }
-    return bytes;
+    return readUpTo(fd.get(), std::string::npos, path);
+}
+
+std::string PosixFileSystem::readHead(const std::string& path, std::size_t maxBytes) {
+    // Not blocking: opening a pipe with no writer would otherwise wait for one.
+    Descriptor fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (fd.get() < 0) fail("Cannot open", path);
+    struct stat info {};
+    if (::fstat(fd.get(), &info) != 0) fail("Cannot stat", path);
+    if (!S_ISREG(info.st_mode)) throw FileFailure("Not a plain file: " + path);
+    return readUpTo(fd.get(), maxBytes, path);
 }
 
 void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) {

@@ -159,6 +159,11 @@ std::string FakeFileSystem::readAll(const std::string& path) {
     return PosixFileSystem::readAll(path);
 }
 
+std::string FakeFileSystem::readHead(const std::string& path, std::size_t maxBytes) {
+    countRead(path);
+    return PosixFileSystem::readHead(path, maxBytes);
+}
+
 void FakeFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
     const long long cut = countWrite(path, "whole");
     if (cut >= 0) {

@@ -60,6 +60,7 @@ class FakeFileSystem : public PosixFileSystem {
 public:
     std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
     std::string readAll(const std::string& path) override;
+    std::string readHead(const std::string& path, std::size_t maxBytes) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
     void makeDirectory(const std::string& path) override;
     void createEmpty(const std::string& path) override;
