@@ -9,7 +9,7 @@
 //   month_navigator.cpp  BuildCalendar, the arrows, Today/Tomorrow, the start day
 //   term_panel.cpp       SelectTerm, PaintStatusBar
 //   stopwatch.cpp        the study stopwatch
-//   window_layout.cpp    the minimum size and the resize handler
+//   window_layout.cpp    the resize handler
 //   list_view/*          the grid layouts, list builders and hit testing
 //   calendar_days/*      which days are marked
 #include <memory>
