@@ -62,8 +62,7 @@ double loadSeconds(SampleDrive& d, std::size_t& rows) {
     RecordStore store;
     RecordFiles files(store, d.platform);
     const double started = processSeconds();
-    SetStorageLocations(store, d.platform);
-    bool loaded = files.LoadTermsAndClasses();
+    bool loaded = SetStorageLocations(store, d.platform) && files.LoadTermsAndClasses();
     store.CurrentTermID = int16OrZero(store.TermIDs(store.TermIDs.count()));
     loaded = loaded && files.LoadAssignments() && files.LoadTasks() && files.LoadEvents();
     const double seconds = processSeconds() - started;

@@ -49,6 +49,7 @@ public:
         host_ = fs::path(folder_.path().toStdString()) / "host";
         runtime_ = fs::path(folder_.path().toStdString()) / "runtime";
         for (const fs::path& dir : {drive_ / "exec", dataDirectory(), host_, runtime_}) fs::create_directories(dir);
+        fs::permissions(runtime_, fs::perms::owner_all, fs::perm_options::replace);
         WindowPlacement window{0, 1500, 1200, 9600, 7215};
         PreferenceValues chosen{"", "Saturday", "No", 3};
         writeFile(preferences(), PreferencesText(window, chosen) + "Left behind by an older copy\r\n");
