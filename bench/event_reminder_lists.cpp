@@ -17,6 +17,7 @@
 #include <random>
 #include <string>
 
+#include "list_view/list_fixture.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
 #include "recurrence/event_records.h"
@@ -66,16 +67,14 @@ void fill(RecordStore& s) {
         const int row = test::addEvent(s, f);
         s.EventTimes(row) = kTimes[uniform(0, 5)];
     }
-    for (int k = 1; k <= 12; ++k) test::addClass(s, std::to_string(k), "Class " + std::to_string(k), "Black", "Gold");
+    for (int k = 1; k <= 12; ++k) testing::addClass(s, k, "Class " + std::to_string(k), "Black", "Gold");
     for (int i = 0; i < 1000; ++i)
-        test::addTask(s, {.date = dateText(dateIn(2026, 2027)),
-                          .done = uniform(0, 1) ? "True" : "False",
-                          .reminder = reminder()});
+        testing::addTask(s, {.date = dateText(dateIn(2026, 2027)), .done = uniform(0, 1) == 1, .reminder = reminder()});
     for (int i = 0; i < 800; ++i)
-        test::addAssignment(s, {.date = dateText(dateIn(2026, 2026)),
-                                .classLink = std::to_string(uniform(1, 12)),
-                                .done = uniform(0, 1) ? "True" : "False",
-                                .reminder = std::to_string(uniform(1, 30)) + " Days"});
+        testing::addAssignment(s, {.classLink = uniform(1, 12),
+                                   .date = dateText(dateIn(2026, 2026)),
+                                   .done = uniform(0, 1) == 1,
+                                   .reminder = std::to_string(uniform(1, 30)) + " Days"});
 }
 
 // A main window over the filled store, laid out once per view.

@@ -16,6 +16,7 @@
 #include "common/text.h"
 #include "grades/gpa.h"
 #include "grades/study_time.h"
+#include "list_view/list_fixture.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
@@ -41,47 +42,30 @@ void fill(RecordStore& s, const Size& size) {
     const Date start = dateFromYmd(2026, 8, 24);
     s.CurrentTermID = 1;
     s.CurrentTermName = "Fall 2026";
-    for (int k = 1; k <= 12; ++k) {
-        s.ClassIDs.append(std::to_string(k));
-        s.ClassTermLinks.append("1");
-        s.ClassNames.append("Class number " + std::to_string(k));
-        s.ClassForeColors.append("Black");
-        s.ClassBackColors.append(kClassColors[k % 6]);
-        s.ClassNotes.append("");
-    }
-    for (int i = 1; i <= size.assignments; ++i) {
-        s.AssignmentRecordNos.append(std::to_string(i));
-        s.AssignmentIDs.append(std::to_string(i));
-        s.AssignmentClassLinks.append(std::to_string(uniform(1, 12)));
-        s.AssignmentDates.append(dateText(start + uniform(0, 120)));
-        s.AssignmentTypes.append(kTypes[uniform(0, 5)]);
-        s.AssignmentDifficulties.append(uniform(0, 1) ? "Medium" : "Hard");
-        s.AssignmentEstTimes.append(twoDigits(uniform(0, 5)) + " : " + twoDigits(uniform(0, 11) * 5));
-        s.AssignmentDescriptions.append("Assignment description number " + std::to_string(uniform(1, 99999)));
-        s.AssignmentDones.append(uniform(0, 2) ? "True" : "False");
-        s.AssignmentGrades.append(kGrades[uniform(0, 7)]);
-        s.AssignmentWeights.append(std::to_string(uniform(0, 20)));
-        s.AssignmentReminders.append("None");
-    }
+    for (int k = 1; k <= 12; ++k) testing::addClass(s, k, "Class number " + std::to_string(k), "Black", kClassColors[k % 6]);
+    for (int i = 1; i <= size.assignments; ++i)
+        testing::addAssignment(
+            s, {.classLink = uniform(1, 12),
+                .date = dateText(start + uniform(0, 120)),
+                .description = "Assignment description number " + std::to_string(uniform(1, 99999)),
+                .done = uniform(0, 2) != 0,
+                .estimate = twoDigits(uniform(0, 5)) + " : " + twoDigits(uniform(0, 11) * 5),
+                .grade = kGrades[uniform(0, 7)],
+                .weight = std::to_string(uniform(0, 20)),
+                .type = kTypes[uniform(0, 5)],
+                .difficulty = uniform(0, 1) ? "Medium" : "Hard"});
     for (int n = 1; n <= size.sessions; ++n) {
-        s.StudySessionRecordNos.append(std::to_string(n));
-        s.StudySessionLinkIDs.append(std::to_string(uniform(1, size.assignments)));
-        s.StudySessionLengths.append(twoDigits(uniform(0, 2)) + " : " + twoDigits(uniform(0, 11) * 5));
-        s.StudySessionDates.append(dateText(start + uniform(0, 120)));
+        const int link = uniform(1, size.assignments);
+        const std::string length = twoDigits(uniform(0, 2)) + " : " + twoDigits(uniform(0, 11) * 5);
+        testing::addSession(s, link, length, dateText(start + uniform(0, 120)));
     }
-    for (int t = 1; t <= size.tasks; ++t) {
-        s.TaskRecordNos.append(std::to_string(t));
-        s.TaskIDs.append(std::to_string(t));
-        s.TaskDescriptions.append("Task to do number " + std::to_string(uniform(1, 99999)));
-        const bool dated = uniform(0, 3) != 0;
-        s.TaskDateExists.append(dated ? "True" : "False");
-        s.TaskDates.append(dateText(start + uniform(0, 120)));
-        s.TaskTypes.append(kTaskTypes[uniform(0, 7)]);
-        s.TaskPriorities.append(uniform(0, 1) ? "High" : "None");
-        s.TaskDones.append(uniform(0, 1) ? "True" : "False");
-        s.TaskNotes.append("");
-        s.TaskReminders.append("None");
-    }
+    for (int t = 1; t <= size.tasks; ++t)
+        testing::addTask(s, {.description = "Task to do number " + std::to_string(uniform(1, 99999)),
+                             .dated = uniform(0, 3) != 0,
+                             .date = dateText(start + uniform(0, 120)),
+                             .type = kTaskTypes[uniform(0, 7)],
+                             .priority = uniform(0, 1) ? "High" : "None",
+                             .done = uniform(0, 1) != 0});
 }
 
 // A main window over a filled store, in one mode, laid out once.

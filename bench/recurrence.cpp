@@ -11,6 +11,7 @@
 #include <random>
 #include <string>
 
+#include "list_view/list_fixture.h"
 #include "recurrence/event_records.h"
 #include "recurrence/expansion.h"
 #include "recurrence/occurrence.h"
@@ -71,17 +72,16 @@ RecordStore& plannerStore() {
             f.date = dateText(first);
             test::addEvent(s, f);
         }
-        for (int i = 0; i < 20; ++i)
-            test::addClass(s, std::to_string(i + 1), "Class " + std::to_string(i + 1), "Black", "White");
+        for (int i = 0; i < 20; ++i) testing::addClass(s, i + 1, "Class " + std::to_string(i + 1));
         for (int i = 0; i < 5000; ++i)
-            test::addTask(s, {.date = dateText(dateIn(2024, 2028)),
-                              .done = uniform(0, 3) == 0 ? "False" : "True",
-                              .reminder = std::to_string(uniform(1, 30)) + " Days"});
+            testing::addTask(s, {.date = dateText(dateIn(2024, 2028)),
+                                 .done = uniform(0, 3) != 0,
+                                 .reminder = std::to_string(uniform(1, 30)) + " Days"});
         for (int i = 0; i < 1000; ++i)
-            test::addAssignment(s, {.date = dateText(dateIn(2026, 2026)),
-                                    .classLink = std::to_string(uniform(1, 20)),
-                                    .done = uniform(0, 1) ? "False" : "True",
-                                    .reminder = std::to_string(uniform(1, 30)) + " Days"});
+            testing::addAssignment(s, {.classLink = uniform(1, 20),
+                                       .date = dateText(dateIn(2026, 2026)),
+                                       .done = uniform(0, 1) == 0,
+                                       .reminder = std::to_string(uniform(1, 30)) + " Days"});
         return s;
     }();
     return store;

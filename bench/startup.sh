@@ -3,11 +3,11 @@
 # maximal sample drive, on one Xvfb display. The program ends right after its first paint when
 # QUILLHOLLOW_QUIT_AFTER_FIRST_PAINT is set, so each run's wall time is that span (plus
 # the exit). Goals: under 200 ms on the realistic drive, under 500 ms on the maximal one.
-# Usage: bench/startup.sh [BUILD_DIR]   (default build-bench; needs quillhollow and sample_drive)
+# Usage: bench/startup.sh [BUILD_DIR]   (default build-bench, the Release build of bench/run)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build-bench}
-cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo > /dev/null
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build "$build" --target quillhollow sample_drive > /dev/null
 work=$(mktemp -d)
 display=:$(( 90 + RANDOM % 9 ))

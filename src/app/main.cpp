@@ -1,12 +1,17 @@
 // Quillhollow: wires the Qt platform to the planner and runs it. Takes no options.
 #include <exception>
 
+#include <QThread>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 
 #include "platform/qt/application.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/qt/termination_signals.h"
 #include "shell/help_topics.h"
+#include "shell/main_window.h"
 #include "shell/module1.h"
 
 int main() {
@@ -22,9 +27,24 @@ int main() {
     qt.renderer().openHelpLink = [&qt](const std::string& address) {
         qt.platform().processes.openWithDefaultHandler(address);
     };
+    // From here on a termination signal waits for the main window: one that comes during
+    // the load is handled as soon as the load is done.
+    qh::TerminationSignals terminations;
     try {
         qh::Module1 module(qt.platform());
         if (!module.Main()) return 0;
+        terminations.listen([&] {
+            qh::MainWindow& main = *module.mainWindow();
+            if (!main.visible) return;  // already closing
+            qt.platform().windowing.close(main);
+            // Closed from inside a modal window's loop: the routine that opened it must
+            // not go on as if the window had been answered. The unload has run; the run
+            // ends here.
+            if (QThread::currentThread()->loopLevel() > 1) {
+                std::fflush(nullptr);
+                std::_Exit(EXIT_SUCCESS);
+            }
+        });
         // The start-up benchmark (bench/startup.sh) times a run that ends as soon as the
         // main window has been painted once.
         if (qEnvironmentVariableIsSet("QUILLHOLLOW_QUIT_AFTER_FIRST_PAINT"))

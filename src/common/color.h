@@ -17,7 +17,7 @@ constexpr int blueOf(Color c) { return int((c >> 16) & 0xFF); }
 
 // "&HE5E5FF" (any number of hex digits after "&H") to its value; anything else is the
 // untrapped "Type mismatch".
-Color colorFromText(std::string_view text);
+[[nodiscard]] Color colorFromText(std::string_view text);
 // The value as "&H" and six upper-case hex digits.
 std::string colorText(Color color);
 

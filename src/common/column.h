@@ -28,7 +28,6 @@ public:
     void removeAt(int i) { values_.erase(values_.begin() + static_cast<std::ptrdiff_t>(checked(i))); }
     void clear() { values_.clear(); }
     void reserve(int n) { values_.reserve(static_cast<std::size_t>(n)); }
-    void swapRows(int i, int j) { std::swap(values_[checked(i)], values_[checked(j)]); }
 
     // The value of row i, or `fallback` when the column runs short: for readers that must
     // show an empty cell rather than fail where a linked row is missing.

@@ -25,8 +25,6 @@ long long Moment::secondsSince(const Moment& earlier) const {
     return (static_cast<long long>(date) - earlier.date) * 86400LL + (seconds - earlier.seconds);
 }
 
-bool isLeapYear(int y) { return year{y}.is_leap(); }
-
 int daysInMonth(int y, int m) {
     return static_cast<int>(unsigned(year_month_day_last{year{y} / month{unsigned(m)} / last}.day()));
 }

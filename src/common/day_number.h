@@ -45,7 +45,6 @@ int dayOf(Date date);
 int weekdayOf(Date date);
 
 int daysInMonth(int year, int month);
-bool isLeapYear(int year);
 
 // Adds months (or years) to the date as it stands, keeping the day and clamping it to the
 // last day of the target month: 31 January plus one month is the last day of February.
@@ -57,7 +56,7 @@ std::string dateText(Date date);
 
 // Reads a date written year first with "/" between the parts ("2026/11/21", "2026/1/5").
 // Nothing for any other text or an impossible date.
-std::optional<Date> parseDateText(std::string_view text);
+[[nodiscard]] std::optional<Date> parseDateText(std::string_view text);
 
 // Like parseDateText, but a text that is no date is the untrapped "Type mismatch".
 Date dateFromText(std::string_view text);

@@ -22,7 +22,7 @@ Int16 toInt16(long long value);
 // Reads a decimal text the way the record readers do: leading and trailing blanks are
 // ignored, an optional sign, digits. Returns nothing for anything else (empty, letters,
 // fractions) and for values outside 16 bits.
-std::optional<Int16> parseInt16(std::string_view text);
+[[nodiscard]] std::optional<Int16> parseInt16(std::string_view text);
 
 // Like parseInt16 but any text gives a number: what does not read as one gives 0,
 // which is what a numeric comparison of a link field in the record files expects.

@@ -19,6 +19,7 @@
 
 #include "common/color.h"
 #include "common/day_number.h"
+#include "common/twips.h"
 #include "shell/main_window_state.h"
 
 namespace qh {
@@ -26,7 +27,6 @@ namespace qh {
 class Canvas;
 class MainWindow;
 
-inline constexpr int kTwipsPerPixel = 15;
 inline constexpr int kScrollBarWidth = 255;  // twips; the strip at the grid's right edge
 inline constexpr int kGridTop = 2650;        // twips from the top of the window's client area
 inline constexpr int kStatusBarHeight = 300;
@@ -64,10 +64,6 @@ struct GridRows {
 
     int headerHeight() const { return headerTwips / kTwipsPerPixel; }  // pixels
     int gridBottom() const { return bottomTwips / kTwipsPerPixel; }    // pixels
-    // The lower border of visible row k (k >= 0; k = 0 is the header strip's lower edge).
-    // Row k covers the y values above the border of row k - 1, up to and including its
-    // own border.
-    int rowBorder(int k) const { return headerTwips + k * pitchTwips; }
 };
 GridRows MeasureGridRows(int canvasHeight, int headerTwips, int rowPitchPixels);
 

@@ -17,11 +17,11 @@ public:
     // Reads record n into `bytes` (exactly the record length). Returns false, leaving
     // `bytes` unspecified, when the record lies past the end: a trailing part record
     // counts as the end.
-    virtual bool read(std::int32_t recordNumber, std::string& bytes) = 0;
+    [[nodiscard]] virtual bool read(std::int32_t recordNumber, std::string& bytes) = 0;
     // Writes record n (bytes of exactly the record length) with one write, then syncs it.
     virtual void write(std::int32_t recordNumber, const std::string& bytes) = 0;
     // Number of whole records in the file.
-    virtual std::int32_t recordCount() = 0;
+    [[nodiscard]] virtual std::int32_t recordCount() = 0;
 };
 
 class FileSystem {
@@ -29,26 +29,26 @@ public:
     virtual ~FileSystem() = default;
 
     // Opens a record file, creating it empty when it is missing.
-    virtual std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) = 0;
+    [[nodiscard]] virtual std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) = 0;
 
     // Whole files. readAll fails when the file cannot be opened. writeWhole replaces the
     // file atomically: a temporary file in the same folder, synced, renamed over the old
     // one, the folder synced; a failure anywhere leaves the old file whole.
-    virtual std::string readAll(const std::string& path) = 0;
+    [[nodiscard]] virtual std::string readAll(const std::string& path) = 0;
     virtual void writeWhole(const std::string& path, const std::string& bytes) = 0;
     // The first `maxBytes` bytes of a file (fewer when it is shorter), for files of which
     // only a head matters however large they are. Fails, like readAll, when the file cannot
     // be opened or read, and also when it is not a plain file (a folder, a device, a pipe).
     virtual std::string readHead(const std::string& path, std::size_t maxBytes) = 0;
 
-    virtual bool exists(const std::string& path) = 0;
-    virtual bool isDirectory(const std::string& path) = 0;
+    [[nodiscard]] virtual bool exists(const std::string& path) = 0;
+    [[nodiscard]] virtual bool isDirectory(const std::string& path) = 0;
     virtual void makeDirectory(const std::string& path) = 0;  // one level, no parents
     virtual void createEmpty(const std::string& path) = 0;    // an empty file, replacing one
     virtual void remove(const std::string& path) = 0;
     virtual void copy(const std::string& from, const std::string& to) = 0;
     virtual void rename(const std::string& from, const std::string& to) = 0;
-    virtual std::vector<std::string> listDirectory(const std::string& path) = 0;
+    [[nodiscard]] virtual std::vector<std::string> listDirectory(const std::string& path) = 0;
 };
 
 // Joins a folder and a name with the separator of this platform.

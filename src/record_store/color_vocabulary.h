@@ -19,7 +19,7 @@ class ColorValueList {
 public:
     Color operator()(int row) const;
     Color operator()(std::string_view name) const;
-    bool contains(std::string_view name) const;
+    [[nodiscard]] bool contains(std::string_view name) const;
     int count() const { return static_cast<int>(values_.size()); }
     void add(std::string_view name, Color value);  // a duplicate key is an untrapped failure
 

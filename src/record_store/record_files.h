@@ -42,7 +42,7 @@ public:
     // afresh as "yyyy/MM/dd". Sets TermsChanged and ClassesChanged. A Terms.txt that has
     // gone missing since the load fails the save with an empty file name in the message,
     // which clears no change flag.
-    bool SaveTermsAndClasses();
+    [[nodiscard]] bool SaveTermsAndClasses();
 
     // Fills the assignment, note and study session columns for CurrentTermID (the caller
     // empties them first): live assignments of live classes of the active term, every
@@ -51,24 +51,24 @@ public:
     bool LoadAssignments();
 
     // Writes AssignmentRecord; sets AssignmentsChanged.
-    bool SaveAssignment(Int16 RecordNumber);
+    [[nodiscard]] bool SaveAssignment(Int16 RecordNumber);
     // Writes NoteRecord; sets NotesChanged.
-    bool SaveNote(Int16 RecordNumber);
+    [[nodiscard]] bool SaveNote(Int16 RecordNumber);
     // Writes row `Row` of the four EditStudySession columns; sets StudySessionsChanged.
-    bool SaveStudySession(Int16 RecordNumber, int Row);
+    [[nodiscard]] bool SaveStudySession(Int16 RecordNumber, int Row);
     // Reads record RecordNumber of Notes.txt into NoteRecord (all fields empty when the
     // record lies past the end of the file).
-    bool ReadNote(Int16 RecordNumber);
+    [[nodiscard]] bool ReadNote(Int16 RecordNumber);
 
     // All live tasks, in file order; TaskRecordNos leads back to the file.
     bool LoadTasks();
     // Writes TaskRecord (its Date a date text); sets TasksChanged.
-    bool SaveTask(Int16 RecordNumber);
+    [[nodiscard]] bool SaveTask(Int16 RecordNumber);
 
     // All live events, in file order.
     bool LoadEvents();
     // Writes EventRecord (Date and EndDate date texts); sets EventsChanged.
-    bool SaveEvent(Int16 RecordNumber);
+    [[nodiscard]] bool SaveEvent(Int16 RecordNumber);
 
 private:
     RecordStore& store_;
@@ -76,7 +76,7 @@ private:
 
     using Values = std::vector<std::string>;
 
-    bool enterDataDirectory();
+    [[nodiscard]] bool enterDataDirectory();
     void reportFileError(const std::string& fileName, const char* action);
     // Opens the file, resets `next` to 1 and hands each whole record to `take`, advancing
     // `next` past it. Throws on any failure; the caller reports it. `rowsFor` are columns
@@ -86,7 +86,7 @@ private:
     void readRecords(const RecordLayout& layout, Int16& next, std::span<TextColumn* const> rowsFor,
                      const std::function<void(const RecordView&)>& take);
     // The whole of a one-record save: directory step, counter rules, write, flag.
-    bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
+    [[nodiscard]] bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
                  const std::function<Values()>& values);
 };
 

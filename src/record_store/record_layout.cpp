@@ -108,12 +108,6 @@ int RecordLayout::valueCount() const {
     return n;
 }
 
-int RecordLayout::offsetOf(int fieldIndex) const {
-    int offset = 0;
-    for (int i = 0; i < fieldIndex; ++i) offset += fields[std::size_t(i)].width;
-    return offset;
-}
-
 std::string buildRecord(const RecordLayout& layout, std::span<const std::string> values) {
     if (int(values.size()) != layout.valueCount())
         throw std::invalid_argument("wrong number of values for " + std::string(layout.fileName));

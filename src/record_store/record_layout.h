@@ -35,8 +35,6 @@ struct RecordLayout {
 
     // Number of fields that carry a value (all but the reserved ones).
     int valueCount() const;
-    // Byte offset of the n-th field of the table (0-based, reserved ones counted).
-    int offsetOf(int fieldIndex) const;
 };
 
 extern const RecordLayout kTermsLayout;          // Terms.txt, 100
@@ -57,7 +55,7 @@ std::string buildRecord(const RecordLayout& layout, std::span<const std::string>
 // Reads the non-reserved fields of one record (exactly layout.length bytes) in table
 // order: UTF-8, trailing spaces removed, every "." and then every "-" of a date field
 // replaced by "/" (a date field that holds no date is otherwise kept as it stands).
-std::vector<std::string> parseRecord(const RecordLayout& layout, std::string_view bytes);
+[[nodiscard]] std::vector<std::string> parseRecord(const RecordLayout& layout, std::string_view bytes);
 
 // One record of a file, its values parsed only when they are asked for: a load reads the
 // one or two fields that decide whether it takes the record, and the others only for the
@@ -73,7 +71,7 @@ public:
     // Whether the n-th value, which is no date, is `ascii` (a text of ASCII characters
     // only), without building the value: the code page reads ASCII bytes as themselves
     // and every other byte as characters outside ASCII, so the bytes alone decide.
-    bool valueIs(std::size_t n, std::string_view ascii) const;
+    [[nodiscard]] bool valueIs(std::size_t n, std::string_view ascii) const;
     // Appends values 0, 1, ... to the columns, one to each, as many as there are columns.
     void appendTo(std::span<TextColumn* const> columns) const;
 

@@ -17,7 +17,7 @@ namespace qh {
 // a failing make passed over), then enters the data directory. When that last step
 // fails it shows "Error creating Quillhollow Data Directory" and returns false: the
 // caller then ends the run at once without saving anything.
-bool SetStorageLocations(RecordStore& store, Platform& platform);
+[[nodiscard]] bool SetStorageLocations(RecordStore& store, Platform& platform);
 
 // Checks that `directory` exists as a directory; throws FileFailure when it does not.
 // This is the directory step every file routine begins with.

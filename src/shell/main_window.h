@@ -10,7 +10,7 @@
 //   term_panel.cpp       SelectTerm, PaintStatusBar
 //   stopwatch.cpp        the study stopwatch
 //   file_menu.cpp        the list and calendar exports, Print Screen
-//   window_layout.cpp    the minimum size and the resize handler
+//   window_layout.cpp    the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
 //   list_view/*          the grid layouts, list builders and hit testing
 //   calendar_days/*      which days are marked

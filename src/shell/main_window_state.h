@@ -59,7 +59,6 @@ struct MainWindowState {
     Int16 CalendarCellHeight = 225;
     Int16 ButtonRepeatInterval = 300;
     std::int32_t ProcessID = 0;
-    std::int32_t MinWindowWidth = 0, MinWindowHeight = 0;  // pixels
     Int16 FirstModeSetup = kFalse;
     std::string StatusBarText;
     std::string ShowTipsAtStartup = "Yes";

@@ -60,8 +60,6 @@ void MainWindow::Form_Load() {
     left = (platform.windowing.screenWidthTwips() - width) / 2;
     top = (platform.windowing.screenHeightTwips() - height) / 2;
 
-    state.MinWindowWidth = width / 15;
-    state.MinWindowHeight = height / 15;
     minWidth = width;
     minHeight = height;
 

@@ -1,6 +1,7 @@
 #pragma once
 // A record store on a fresh fake drive with its storage locations set, and record bytes
 // made from the record tables.
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,9 @@ struct StoreOnDrive {
     RecordStore store;
     RecordFiles files{store, fake.platform};
 
-    StoreOnDrive() { SetStorageLocations(store, fake.platform); }
+    StoreOnDrive() {
+        if (!SetStorageLocations(store, fake.platform)) throw std::runtime_error("the fake drive has no data folder");
+    }
 
     std::string path(const std::string& name) const { return fake.dataDirectory() + "/" + name; }
     std::string bytesOf(const std::string& name) const { return fake.bytesOf(path(name)); }

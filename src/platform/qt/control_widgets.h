@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "common/twips.h"
 #include "platform/control.h"
 #include "platform/form.h"
 
@@ -75,8 +76,7 @@ protected:
     bool hitButton(const QPoint& point) const override { return rect().contains(point); }
 };
 
-// Twips for a position in pixels, and back (15 to the pixel).
-constexpr int kTwipsPerPixel = 15;
+// Pixels for a position in twips, and the arguments of a mouse event in twips.
 int toPixels(int twips);
 EventArgs mouseArgs(const QMouseEvent* event);
 

@@ -6,12 +6,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/twips.h"
 #include "platform/qt/pictures.h"
 
 namespace qh {
 namespace {
-
-constexpr int kTwipsPerPixel = 15;
 
 // Twips to the pixel that holds them (rounding down, as the old screen did).
 int px(int twips) { return int(std::floor(double(twips) / kTwipsPerPixel)); }
