@@ -32,6 +32,7 @@ struct PrinterAnswer {
     bool chosen = false;
     int errorCode = 0;
     std::string printerName;
+    int copies = 1;
 };
 
 // The toolkit's file and print dialogs. The layer above (shell/common_dialog) turns their

@@ -30,6 +30,26 @@ std::string restOf(std::istringstream& words) {
     return rest;
 }
 
+// A text typed into a box: "\n" stands for one line break, which a box holds as CR LF.
+std::string typedText(const std::string& text) {
+    std::string typed;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size() && text[i + 1] == 'n') {
+            typed += "\r\n";
+            ++i;
+        } else {
+            typed += text[i];
+        }
+    }
+    return typed;
+}
+
+// Thrown through the windows' code when the script ends or fails while a modal window is
+// open: nothing of the planner catches it, so the run stops where it stands.
+struct ScriptStop {
+    bool failed;
+};
+
 }  // namespace
 
 ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
@@ -39,6 +59,10 @@ ProbeSession::ProbeSession(const std::string& drive, const std::string& host, st
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
                            {"U3_HOST_EXEC_PATH", host}};
+    const OutsideActionSink print = [this](const std::string& line) { out_ << line << "\n"; };
+    messages_.onOutsideAction = dialogs_.onOutsideAction = processes_.onOutsideAction = windowing_.onOutsideAction =
+        print;
+    windowing_.modalLoop = [this](Form& form) { runInsideModal(form); };
 }
 
 ProbeSession::~ProbeSession() = default;
@@ -47,19 +71,48 @@ void ProbeSession::start() {
     window_ = std::make_unique<MainWindow>(store_, platform_);
     window_->Form_Load();
     windowing_.show(*window_);
-    reportMessages();
 }
 
-void ProbeSession::reportMessages() {
-    PrintMessages(messages_.shown, messagesReported_, out_);
-    messagesReported_ = messages_.shown.size();
+Form& ProbeSession::frontWindow() {
+    if (!windowing_.modalStack.empty()) return *windowing_.modalStack.back();
+    if (!started()) start();
+    return *window_;
+}
+
+bool ProbeSession::nextLine(std::string& line) {
+    while (script_ && std::getline(*script_, line)) {
+        ++lineNumber_;
+        if (!line.empty() && line[0] != '#') return true;
+    }
+    return false;
+}
+
+void ProbeSession::runInsideModal(Form& form) {
+    std::string line;
+    while (form.visible) {
+        if (!nextLine(line)) throw ScriptStop{false};
+        if (!action(line)) {
+            failedNumber_ = lineNumber_;
+            failedLine_ = line;
+            throw ScriptStop{true};
+        }
+    }
 }
 
 bool ProbeSession::run(std::istream& script) {
+    script_ = &script;
+    lineNumber_ = 0;
     std::string line;
-    while (std::getline(script, line)) {
-        if (line.empty() || line[0] == '#') continue;
-        if (!action(line)) return false;
+    try {
+        while (nextLine(line)) {
+            if (!action(line)) {
+                failedNumber_ = lineNumber_;
+                failedLine_ = line;
+                return false;
+            }
+        }
+    } catch (const ScriptStop& stop) {
+        return !stop.failed;
     }
     return true;
 }
@@ -96,16 +149,33 @@ bool ProbeSession::action(const std::string& line) {
         dialogs_.fileAnswers.push_back(answer);
         return true;
     }
+    if (verb == "printer") {
+        const std::string answer = restOf(words);
+        PrinterAnswer printer;
+        if (answer != "cancel") {
+            printer.chosen = true;
+            printer.printerName = "Probe Printer";
+            printer.copies = std::atoi(answer.c_str());
+            if (printer.copies < 1) return false;
+        }
+        dialogs_.printerAnswers.push_back(printer);
+        return true;
+    }
     if (verb == "start") {
         if (!started()) start();
         return true;
     }
     if (!started()) start();
     MainWindow& w = *window_;
-
     if (verb == "print") {
         PrintWindowState(w, out_);
-    } else if (verb == "mode") {
+        for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
+        return true;
+    }
+    if (windowAction(verb, words)) return true;
+    if (!windowing_.modalStack.empty()) return false;  // the main window's verbs wait for it
+
+    if (verb == "mode") {
         const char* menu = menuOfMode(restOf(words));
         if (!menu) return false;
         w.click(menu);
@@ -174,12 +244,66 @@ bool ProbeSession::action(const std::string& line) {
         w.setOuterSize(width, height);
         w.Form_Resize();
     } else if (verb == "exit") {
-        windowing_.close(w);
+        windowing_.close(w, UnloadMode::Code);
         out_ << "Closed\n";
     } else {
         return false;
     }
-    reportMessages();
+    return true;
+}
+
+bool ProbeSession::pickDate(Form&, const std::string&, const std::string&) { return false; }
+
+bool ProbeSession::windowAction(const std::string& verb, std::istringstream& words) {
+    Form& form = frontWindow();
+    if (verb == "click") {
+        const std::string name = restOf(words);
+        if (!form.has(name)) return false;
+        form.click(name);
+    } else if (verb == "set") {
+        std::string name;
+        words >> name;
+        if (!form.has(name) || form.c(name).kind != ControlKind::TextBox) return false;
+        std::string text;
+        std::getline(words, text);
+        if (!text.empty() && text[0] == ' ') text.erase(0, 1);
+        if (form.c(name).canTakeFocus() && form.c(name).enabled && form.c(name).visible) form.focusTo(name);
+        form.type(name, typedText(text));
+    } else if (verb == "choose") {
+        std::string name;
+        words >> name;
+        const std::string entry = restOf(words);
+        if (!form.has(name)) return false;
+        const Control& list = form.c(name);
+        if (list.kind != ControlKind::ComboBox && list.kind != ControlKind::ListBox) return false;
+        int index = -1;
+        if (entry.size() > 1 && entry[0] == '#') {
+            index = std::atoi(entry.c_str() + 1);
+        } else {
+            for (std::size_t i = 0; i < list.items.size(); ++i)
+                if (list.items[i] == entry) index = int(i);
+        }
+        if (index < 0 || index >= int(list.items.size()) || !list.enabled || !list.visible) return false;
+        form.select(name, index);
+    } else if (verb == "check") {
+        std::string name, state;
+        words >> name >> state;
+        if (!form.has(name) || (state != "on" && state != "off")) return false;
+        if (form.c(name).checked != (state == "on")) form.click(name);
+    } else if (verb == "pick") {
+        std::string name, date;
+        words >> name >> date;
+        return pickDate(form, name, date);
+    } else if (verb == "close") {
+        if (&form == window_.get()) {
+            windowing_.close(form, UnloadMode::CloseBox);
+            out_ << "Closed\n";
+        } else {
+            windowing_.close(form, UnloadMode::CloseBox);
+        }
+    } else {
+        return false;
+    }
     return true;
 }
 
