@@ -23,6 +23,9 @@ public:
     virtual void close(Form& form, UnloadMode mode) = 0;
     // Lets the toolkit paint what changed and handle pending input once.
     virtual void processEvents() = 0;
+    // Paints what changed now, taking no input: no gesture can reach a model in the middle
+    // of its work.
+    virtual void paintPending() = 0;
     virtual int screenWidthTwips() const = 0;
     virtual int screenHeightTwips() const = 0;
     // The next control clicked shows its context help.

@@ -141,6 +141,7 @@ public:
     void showModal(Form& form, Form* owner) override;
     void close(Form& form, UnloadMode mode) override;
     void processEvents() override { ++yields; }
+    void paintPending() override { ++paints; }
     int screenWidthTwips() const override { return screenWidthPixels * 15; }
     int screenHeightTwips() const override { return screenHeightPixels * 15; }
     void enterWhatsThisMode() override { ++whatsThis; }
@@ -153,7 +154,7 @@ public:
     OutsideActionSink onOutsideAction;
     std::vector<std::string> log;  // "show frmMain", "modal frmTip", "close frmAssignment", ...
     int screenWidthPixels = 1280, screenHeightPixels = 1024;
-    int yields = 0, whatsThis = 0;
+    int yields = 0, paints = 0, whatsThis = 0;
     std::vector<std::string> printed;
 };
 

@@ -89,6 +89,7 @@ public:
     void showModal(Form& form, Form* owner) override { renderer_.showModal(form, owner); }
     void close(Form& form, UnloadMode mode) override { renderer_.close(form, mode); }
     void processEvents() override;
+    void paintPending() override;
     int screenWidthTwips() const override;
     int screenHeightTwips() const override;
     void enterWhatsThisMode() override;
