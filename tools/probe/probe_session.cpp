@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "calendar/date_picker.h"
 #include "state_printer.h"
 
 namespace qh {
@@ -252,10 +253,39 @@ bool ProbeSession::action(const std::string& line) {
     return true;
 }
 
-bool ProbeSession::pickDate(Form&, const std::string&, const std::string&) { return false; }
+bool ProbeSession::pickDate(Form& form, const std::string& field, const std::string& text) {
+    auto* owner = dynamic_cast<HasDatePicker*>(&form);
+    const std::optional<Date> date = parseDateText(text.size() == 10 ? text.substr(0, 4) + "/" + text.substr(5, 2) +
+                                                                            "/" + text.substr(8, 2)
+                                                                      : std::string());
+    if (!owner || !date || !form.has(field)) return false;
+    DatePicker& picker = owner->datePicker();
+    form.click(field);
+    if (!picker.visible()) return false;
+    const Ymd target = ymdOf(*date);
+    // The month arrows, one press and release a month, as a person steps there.
+    for (int guard = 0; guard < 24000; ++guard) {
+        const int months = (target.year - picker.cells().year) * 12 + (target.month - picker.cells().month);
+        if (months == 0) break;
+        const std::string arrow = months > 0 ? "LabelCalMonthUp" : "LabelCalMonthDown";
+        form.press(arrow);
+        form.release(arrow);
+    }
+    const int cell = CellForDate(picker.cells().firstCell, *date);
+    if (cell < 0) return false;
+    form.click("LabelCalDate(" + std::to_string(cell) + ")");
+    return true;
+}
 
 bool ProbeSession::windowAction(const std::string& verb, std::istringstream& words) {
     Form& form = frontWindow();
+    // A person's next action comes later than the window's short timers (the picker's
+    // 100 ms guard): those that run have fired by then.
+    for (const std::string& key : form.order()) {
+        const Control& control = form.c(key);
+        if (control.kind == ControlKind::Timer && control.enabled && control.interval > 0 && control.interval <= 100)
+            form.tick(key);
+    }
     if (verb == "click") {
         const std::string name = restOf(words);
         if (!form.has(name)) return false;
@@ -294,6 +324,13 @@ bool ProbeSession::windowAction(const std::string& verb, std::istringstream& wor
         std::string name, date;
         words >> name >> date;
         return pickDate(form, name, date);
+    } else if (verb == "press") {
+        std::string name;
+        EventArgs at;
+        words >> name >> at.x >> at.y;
+        if (!form.has(name) || !words) return false;
+        form.press(name, at);
+        form.release(name, at);
     } else if (verb == "close") {
         if (&form == window_.get()) {
             windowing_.close(form, UnloadMode::CloseBox);
