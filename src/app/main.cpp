@@ -36,7 +36,7 @@ int main() {
         terminations.listen([&] {
             qh::MainWindow& main = *module.mainWindow();
             if (!main.visible) return;  // already closing
-            qt.platform().windowing.close(main);
+            qt.platform().windowing.close(main, qh::UnloadMode::ProgramEnd);
             // Closed from inside a modal window's loop: the routine that opened it must
             // not go on as if the window had been answered. The unload has run; the run
             // ends here.

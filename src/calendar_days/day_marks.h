@@ -6,7 +6,7 @@
 
 #include "common/day_number.h"
 #include "record_store/columns.h"
-#include "shell/main_window_state.h"
+#include "calendar/month_cells.h"
 
 namespace qh {
 

@@ -64,6 +64,8 @@ struct Control {
     int left = 0, top = 0, width = 0, height = 0;
     int z = 0;  // stacking order among siblings: higher lies on top
 
+    bool tabStop = true;  // Tab visits it (when it can take the focus at all)
+
     int helpContextId = 0;
     int interval = 0;  // timer period in ms; the timer runs while `enabled`
 
@@ -80,6 +82,14 @@ struct Control {
     std::string selectedText() const {
         return listIndex >= 0 && listIndex < int(items.size()) ? items[std::size_t(listIndex)] : std::string();
     }
+    // Combo and list box lines. addItem inserts at `at` (-1 for the end) and removeItem
+    // takes a line away; the selection stays on the line it was on, or none when that line
+    // goes. An index out of range is the windowing layer's error (UntrappedFailure).
+    void addItem(const std::string& item, int at = -1);
+    void removeItem(int at);
+    void clearItems();
+    // Whether a window's focus may rest on this kind of control.
+    bool canTakeFocus() const;
     bool operator==(const Control&) const = default;
 };
 

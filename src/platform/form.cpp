@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "platform/canvas.h"
+#include "platform/control_ref.h"
 
 namespace qh {
 
@@ -72,6 +73,7 @@ Control& Form::c(const std::string& key) { return find(key); }
 const Control& Form::c(const std::string& key) const { return const_cast<Form*>(this)->find(key); }
 
 void Form::on(const std::string& key, FormEvent event, Handler handler) {
+    find(key);  // a handler on a control the window doesn't have is a wiring fault
     handlers_[{key, event}] = std::move(handler);
 }
 
@@ -85,18 +87,24 @@ void Form::fire(const std::string& key, FormEvent event, const EventArgs& args) 
     handler(args);
 }
 
+void Form::uncheckOtherRadios(const Control& control) {
+    // Radio buttons of one container (frame, picture box or the window) are one choice.
+    for (auto& [k, other] : controls_)
+        if (other.get() != &control && other->kind == ControlKind::RadioButton && other->container == control.container)
+            other->checked = false;
+}
+
 void Form::click(const std::string& key) {
     Control& control = find(key);
     if (!control.enabled || !control.visible) {
         if (control.kind != ControlKind::Menu || !control.enabled) return;
     }
+    if (control.kind != ControlKind::Menu) Form_MouseDown(key);
+    if (control.canTakeFocus()) focusTo(key);
     switch (control.kind) {
         case ControlKind::CheckBox: control.checked = !control.checked; break;
         case ControlKind::RadioButton:
-            // Radio buttons of one container are one choice, as on any window.
-            for (auto& [k, other] : controls_)
-                if (other->kind == ControlKind::RadioButton && other->container == control.container)
-                    other->checked = false;
+            uncheckOtherRadios(control);
             control.checked = true;
             break;
         default: break;
@@ -116,6 +124,8 @@ void Form::select(const std::string& key, int listIndex) {
     Control& control = find(key);
     if (listIndex < -1 || listIndex >= int(control.items.size()))
         throw UntrappedFailure("Invalid property value");
+    Form_MouseDown(key);
+    if (control.canTakeFocus()) focusTo(key);
     control.listIndex = listIndex;
     control.text = control.selectedText();
     fire(key, FormEvent::Click);
@@ -131,6 +141,7 @@ void Form::select(const std::string& key, const std::string& entry) {
 void Form::setChecked(const std::string& key, bool checked) {
     Control& control = find(key);
     if (control.checked == checked) return;
+    if (checked && control.kind == ControlKind::RadioButton) uncheckOtherRadios(control);
     control.checked = checked;
     fire(key, FormEvent::Click);
 }
@@ -143,11 +154,125 @@ void Form::scrollTo(const std::string& key, int value) {
     fire(key, FormEvent::Change);
 }
 
-void Form::press(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseDown, args); }
+void Form::press(const std::string& key, const EventArgs& args) {
+    Form_MouseDown(key);
+    fire(key, FormEvent::MouseDown, args);
+}
 void Form::release(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseUp, args); }
 
 void Form::tick(const std::string& timerKey) {
     if (find(timerKey).enabled) fire(timerKey, FormEvent::Timer);
+}
+
+void Form::pressKey(int keyCode, int character, int shift) {
+    const std::string target = focusedControl;
+    EventArgs args;
+    args.shift = shift;
+    args.keyCode = keyCode;
+    if (!target.empty()) fire(target, FormEvent::KeyDown, args);
+    if (character != 0 && !target.empty()) {
+        args.keyCode = character;
+        fire(target, FormEvent::KeyPress, args);
+    }
+    const bool multiLineFocused = has(target) && c(target).kind == ControlKind::TextBox && c(target).multiLine;
+    if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused) click(defaultButton);
+    if (keyCode == kKeyEscape && !cancelButton.empty()) click(cancelButton);
+    if (keyCode == kKeyTab) {
+        // From a control that is no tab stop (a read-only box clicked into), Tab goes on
+        // from its place on the window.
+        const std::vector<std::string> order = tabOrder(focusedControl);
+        if (order.empty()) return;
+        auto at = std::find(order.begin(), order.end(), focusedControl);
+        const bool back = (shift & 1) != 0;
+        std::size_t next = 0;
+        if (at != order.end()) {
+            const std::size_t i = std::size_t(at - order.begin());
+            next = back ? (i + order.size() - 1) % order.size() : (i + 1) % order.size();
+        } else if (back) {
+            next = order.size() - 1;
+        }
+        focusTo(order[next]);
+    }
+}
+
+void Form::focusTo(const std::string& key) {
+    if (key == focusedControl) return;
+    if (!key.empty()) find(key);
+    const std::string old = focusedControl;
+    focusedControl = key;
+    if (has(old)) fire(old, FormEvent::LostFocus);
+    if (!key.empty() && focusedControl == key) fire(key, FormEvent::GotFocus);
+}
+
+void Form::SetFocus(const std::string& key) {
+    const Control& control = find(key);
+    if (!control.enabled || !control.visible)
+        throw UntrappedFailure("Invalid procedure call: " + key + " can't take the focus");
+    ++focusRequests_;
+    focusTo(key);
+}
+
+bool Form::isInside(const std::string& key, const std::string& containerKey) const {
+    std::string at = key;
+    for (int depth = 0; depth < 64 && has(at); ++depth) {
+        if (at == containerKey) return true;
+        const Control& control = c(at);
+        if (control.kind == ControlKind::Menu) return false;
+        at = control.container;
+    }
+    return false;
+}
+
+std::vector<std::string> Form::tabOrder(const std::string& alsoKey) const {
+    struct Stop {
+        int top, left;
+        std::size_t added;
+        std::string key;
+    };
+    std::vector<Stop> stops;
+    for (std::size_t i = 0; i < order_.size(); ++i) {
+        const Control& control = c(order_[i]);
+        const bool stop = control.canTakeFocus() && control.tabStop &&
+                          !(control.kind == ControlKind::TextBox && control.locked);
+        if (!stop && order_[i] != alsoKey) continue;
+        int top = control.top, left = control.left;
+        for (std::string at = control.container; has(at); at = c(at).container) {
+            top += c(at).top;
+            left += c(at).left;
+        }
+        stops.push_back({top, left, i, order_[i]});
+    }
+    std::stable_sort(stops.begin(), stops.end(), [](const Stop& a, const Stop& b) {
+        return a.top != b.top ? a.top < b.top : a.left < b.left;
+    });
+    std::vector<std::string> keys;
+    for (const Stop& stop : stops) keys.push_back(stop.key);
+    return keys;
+}
+
+void Form::showing() {
+    visible = true;
+    Form_Activate();
+}
+
+bool Form::requestClose(UnloadMode mode) {
+    const bool agreed = Form_QueryUnload(mode);
+    if (!agreed && mode != UnloadMode::ProgramEnd) return false;
+    Form_Unload();
+    visible = false;
+    return true;
+}
+
+void Form::bindControls() {
+    std::string missing;
+    for (ControlBinding* ref : refs_) {
+        try {
+            ref->resolve(*this);
+        } catch (const UntrappedFailure& failure) {
+            missing += std::string(missing.empty() ? "" : "; ") + failure.what();
+        }
+    }
+    if (!missing.empty()) throw UntrappedFailure(missing);
 }
 
 void Form::bringToFront(const std::string& key) { find(key).z = nextZ_++; }

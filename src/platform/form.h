@@ -14,13 +14,23 @@ namespace qh {
 
 class CanvasFactory;
 
-enum class FormEvent { Click, DblClick, Change, MouseDown, MouseUp, Timer, GotFocus, Scroll };
+enum class FormEvent { Click, DblClick, Change, MouseDown, MouseUp, Timer, GotFocus, LostFocus, KeyDown, KeyPress, Scroll };
 
 struct EventArgs {
     int button = 1;  // 1 left, 2 right
-    int shift = 0;
+    int shift = 0;   // 1 shift, 2 control, 4 alt
     int x = 0, y = 0;  // twips inside the control
+    int keyCode = 0;   // KeyDown: the key's code (13 Enter, 27 Escape, 'A' for a or A); KeyPress: the character
 };
+
+// Where a request to close a window comes from. A window may refuse a close by its close
+// box or by code; the program's end always passes.
+enum class UnloadMode { CloseBox = 0, Code = 1, ProgramEnd = 2 };
+
+// Key codes the kit itself acts on.
+constexpr int kKeyReturn = 13;
+constexpr int kKeyEscape = 27;
+constexpr int kKeyTab = 9;
 
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -44,7 +54,11 @@ public:
     bool visible = false;
     bool fixedSize = false;  // a dialog that can't be resized
     int minWidth = 0, minHeight = 0;  // outer size the user can't drag the window below; 0 for none
+    // The control that holds the keyboard focus, empty for none. Models move it with
+    // SetFocus, never by assigning it.
     std::string focusedControl;
+    // The buttons Enter and Escape click, empty for none.
+    std::string defaultButton, cancelButton;
 
     // Sets the outer size and derives the client area as the renderer will give it.
     void setOuterSize(int widthTwips, int heightTwips);
@@ -70,43 +84,88 @@ public:
     const std::vector<std::string>& order() const { return order_; }
 
     // Handlers. fire() runs the handler of a control's event; an event without a handler
-    // does nothing, as in any window.
+    // does nothing, as in any window. Hanging a handler on a control the window doesn't
+    // have fails at once (UntrappedFailure), so a misspelt name fails when the window is
+    // built, not at a click.
     void on(const std::string& key, FormEvent event, Handler handler);
     void fire(const std::string& key, FormEvent event, const EventArgs& args = {});
     bool handles(const std::string& key, FormEvent event) const;
 
     // The user's gestures, as the renderer forwards them and tests drive them. Each changes
     // the control as the toolkit would, then fires the event.
+    // A click: a focusable control takes the focus first (the control that had it gets
+    // LostFocus), as a mouse press does. A click on a disabled or hidden control does nothing.
     void click(const std::string& key);
     void type(const std::string& key, const std::string& text);
     void select(const std::string& key, int listIndex);
     void select(const std::string& key, const std::string& entry);
+    // Sets a check box or radio button from code or by a gesture; a change fires Click, as
+    // the windowing layer does. A radio button set on clears the others of its container.
     void setChecked(const std::string& key, bool checked);
     void scrollTo(const std::string& key, int value);
     void press(const std::string& key, const EventArgs& args = {});
     void release(const std::string& key, const EventArgs& args = {});
     void tick(const std::string& timerKey);
+    // A key pressed while the window has the focus: KeyDown on the focused control, then
+    // KeyPress for a character; Enter clicks the default button (unless a multi-line box
+    // has the focus) and Escape the cancel button.
+    void pressKey(int keyCode, int character = 0, int shift = 0);
+
+    // The focus. focusTo is the gesture (a click, Tab, the toolkit's own focus change): it
+    // fires LostFocus on the control that had the focus and GotFocus on the new one, and
+    // does nothing when the control already has it. SetFocus is the model's request: the
+    // same, and the renderer moves the real focus there; a disabled or hidden control
+    // can't take it (UntrappedFailure, as the windowing layer's error).
+    void focusTo(const std::string& key);
+    void SetFocus(const std::string& key);
+    // Counts the SetFocus requests, so the renderer sees one it has not applied yet.
+    unsigned focusRequests() const { return focusRequests_; }
+    // The controls the Tab key visits, in order: those that can take the focus, are tab
+    // stops and are not read-only boxes, by their place on the window (top, then left).
+    // `alsoKey` joins the order at its place though it is no stop.
+    std::vector<std::string> tabOrder(const std::string& alsoKey = "") const;
+    // The controls a press inside `containerKey` may fall on: true when `key` lies in it,
+    // at any depth.
+    bool isInside(const std::string& key, const std::string& containerKey) const;
 
     // Z-order within the container.
     void bringToFront(const std::string& key);
     void sendToBack(const std::string& key);
 
-    // Window events. queryUnload answers whether a close by the close box may go on.
+    // Window events. Form_Activate runs at every showing, modal or not, after the caller
+    // set the window's public fields. Form_QueryUnload answers whether a close may go on;
+    // its answer is not asked for at the program's end. Form_MouseDown runs before the
+    // handlers of any press or click on the window, with the key of the control pressed.
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
-    virtual bool Form_QueryUnload() { return true; }
+    virtual bool Form_QueryUnload(UnloadMode) { return true; }
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
+    virtual void Form_MouseDown(const std::string& /*controlKey*/) {}
 
     void hide() { visible = false; }
+
+    // The lifecycle every windowing layer runs. showing(): the window becomes visible and
+    // Form_Activate runs. requestClose(): asks the model (always passes at the program's
+    // end); if it agrees, Form_Unload runs and the window is no longer visible. Returns
+    // whether the window closed; a model that refuses may have hidden itself.
+    void showing();
+    bool requestClose(UnloadMode mode);
 
     // Makes canvases for drawable picture boxes; set before adding them.
     void setCanvasFactory(CanvasFactory* factory) { canvasFactory_ = factory; }
     // Resizes a control and, if it is drawable, its canvas.
     void move(const std::string& key, int left, int top, int width, int height);
 
+    // Typed control references resolve here; a name the window doesn't have fails.
+    void bindControls();
+
 private:
+    friend class ControlBinding;
     Control& find(const std::string& key);
+    void uncheckOtherRadios(const Control& control);
+    std::vector<class ControlBinding*> refs_;
+    unsigned focusRequests_ = 0;
     std::string name_;
     std::map<std::string, std::unique_ptr<Control>> controls_;
     std::vector<std::string> order_;

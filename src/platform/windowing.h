@@ -1,11 +1,13 @@
 #pragma once
 #include <string>
 
+#include "platform/form.h"
+
 namespace qh {
 
-class Form;
-
 // What the window models need of the toolkit beyond their own controls.
+// Both calls that show a window run Form::showing() (visible, then Form_Activate), every
+// time.
 class Windowing {
 public:
     virtual ~Windowing() = default;
@@ -14,11 +16,16 @@ public:
     // Shows the window modally, owned by `owner` (may be null), and returns when the model
     // has hidden it (form.visible false).
     virtual void showModal(Form& form, Form* owner) = 0;
-    // Closes a window as its close box would: asks the model (Form_QueryUnload), and if it
-    // agrees runs Form_Unload and takes the window off the screen for good.
-    virtual void close(Form& form) = 0;
+    // A request to close a window (Form::requestClose with its source): the close box, code
+    // (File > Exit) or the program's end. If the model agrees, Form_Unload has run and the
+    // window is off the screen for good; a model that refuses keeps its window, shown or
+    // hidden as it left it.
+    virtual void close(Form& form, UnloadMode mode) = 0;
     // Lets the toolkit paint what changed and handle pending input once.
     virtual void processEvents() = 0;
+    // Paints what changed now, taking no input: no gesture can reach a model in the middle
+    // of its work.
+    virtual void paintPending() = 0;
     virtual int screenWidthTwips() const = 0;
     virtual int screenHeightTwips() const = 0;
     // The next control clicked shows its context help.

@@ -49,7 +49,8 @@ void FrmAbout::Form_Load() {
         HelpBookAddress(environment_, kProductSitePage);
 }
 
-bool FrmAbout::Form_QueryUnload() {
+bool FrmAbout::Form_QueryUnload(UnloadMode mode) {
+    if (mode != UnloadMode::CloseBox) return true;
     hide();
     return false;
 }

@@ -13,7 +13,7 @@ class FrmAbout : public Form {
 public:
     FrmAbout(const Environment& environment, Processes& processes);
     void Form_Load() override;
-    bool Form_QueryUnload() override;
+    bool Form_QueryUnload(UnloadMode mode) override;
 
     // "major.minor.revision" of the program, as the build names it.
     static std::string VersionNumbers();

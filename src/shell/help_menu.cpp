@@ -54,7 +54,6 @@ void MainWindow::StartTipsIfWanted() {
     FrmTip& tip = tipWindow();
     tip.tempShowTipsAtStartup = state.ShowTipsAtStartup;
     tip.tempCurrentTip = state.CurrentTip;
-    tip.Form_Activate();
     platform.windowing.showModal(tip, this);
     state.ShowTipsAtStartup = tip.tempShowTipsAtStartup;
     state.CurrentTip = tip.tempCurrentTip;

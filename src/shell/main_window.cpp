@@ -1,6 +1,8 @@
 #include "shell/main_window.h"
 
 #include "calendar_days/day_marks.h"
+#include "editors/editor_windows.h"
+#include "editors/record_actions.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"
@@ -14,7 +16,9 @@ MainWindow::MainWindow(RecordStore& recordStore, Platform& thePlatform)
       store(recordStore),
       platform(thePlatform),
       files(std::make_unique<RecordFiles>(recordStore, thePlatform)),
-      colors(std::make_unique<ColorVocabulary>()) {
+      colors(std::make_unique<ColorVocabulary>()),
+      editors(std::make_unique<EditorWindows>(thePlatform, *this)),
+      actions(std::make_unique<RecordActions>(recordStore, *files, thePlatform, *this, *editors)) {
     setCanvasFactory(&platform.canvases);
     buildMenus();
     buildControls();
@@ -23,6 +27,14 @@ MainWindow::MainWindow(RecordStore& recordStore, Platform& thePlatform)
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::NewAssignment() { actions->NewAssignment(); }
+void MainWindow::EditAssignment(int row) { actions->EditAssignment(row); }
+void MainWindow::NewTask() { actions->NewTask(); }
+void MainWindow::EditTask(int row) { actions->EditTask(row); }
+void MainWindow::NewEvent() { actions->NewEvent(); }
+void MainWindow::EditEvent(int row) { actions->EditEvent(row); }
+void MainWindow::EditClassSchedule() { actions->EditClassSchedule(); }
 
 Color MainWindow::colorValue(const std::string& nameOrHexText) const {
     if (nameOrHexText.size() > 1 && nameOrHexText[0] == '&') return colorFromText(nameOrHexText);
@@ -56,7 +68,7 @@ void MainWindow::bindHandlers() {
         on(key, FormEvent::Click, [action](const EventArgs&) { action(); });
     };
 
-    onClick("MenuExit", [this] { platform.windowing.close(*this); });
+    onClick("MenuExit", [this] { platform.windowing.close(*this, UnloadMode::Code); });
 
     // Mode switches: a click on the current mode does nothing.
     const std::pair<const char*, const char*> switches[] = {
@@ -127,6 +139,8 @@ void MainWindow::bindHandlers() {
     onClick("MenuNewTask", [this] { NewTask(); });
     onClick("ButtonNewEvent", [this] { NewEvent(); });
     onClick("MenuNewEvent", [this] { NewEvent(); });
+    onClick("ButtonSelectTerm", [this] { EditClassSchedule(); });
+    onClick("MenuClassSchedule", [this] { EditClassSchedule(); });
     onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
     bindHelpHandlers();
     bindFileMenu();

@@ -19,6 +19,7 @@
 #include <string>
 
 #include "calendar_days/day_marks.h"
+#include "editors/editor_host.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "record_store/columns.h"
@@ -30,8 +31,10 @@ class RecordFiles;
 class FrmTip;
 class FrmAbout;
 struct ColorVocabulary;
+class EditorWindows;
+class RecordActions;
 
-class MainWindow : public Form {
+class MainWindow : public Form, public EditorHost {
 public:
     MainWindow(RecordStore& store, Platform& platform);
     ~MainWindow() override;
@@ -41,10 +44,13 @@ public:
     MainWindowState state;
     std::unique_ptr<RecordFiles> files;
     std::unique_ptr<ColorVocabulary> colors;
+    // The five editor windows (loaded hidden during Form_Load) and the actions that open them.
+    std::unique_ptr<EditorWindows> editors;
+    std::unique_ptr<RecordActions> actions;
 
     // Window events.
     void Form_Load() override;
-    bool Form_QueryUnload() override { return true; }
+    bool Form_QueryUnload(UnloadMode) override { return true; }
     void Form_Unload() override;
     void Form_Resize() override;
     // True when the load ended the run (the data directory could not be entered).
@@ -98,13 +104,22 @@ public:
     // A click on visible row k of the grid (press and release agreed).
     void GridRowClicked(int k);
 
-    // Record actions; the editors arrive later and these then open them.
+    // Record actions, handed on to the editors' record actions.
     void NewAssignment();
     void EditAssignment(int row);
     void NewTask();
     void EditTask(int row);
     void NewEvent();
     void EditEvent(int row);
+    void EditClassSchedule();
+
+    // What the editors ask of the main window.
+    Form& ownerWindow() override { return *this; }
+    Date clickedDate() const override { return state.ClickedDate; }
+    std::string startDayOfWeek() const override { return state.StartDayOfWeek; }
+    void refresh(const std::string& reason) override { Refresh(reason); }
+    void selectTerm(const std::string& termName) override { SelectTerm(termName); }
+    void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();

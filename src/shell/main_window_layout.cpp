@@ -1,10 +1,9 @@
 // The controls and menus of the main window at their load places (twips, client area).
+#include "calendar/calendar_binder.h"
 #include "shell/main_window.h"
 
 namespace qh {
 namespace {
-
-constexpr const char* kDayHeaderLetters = "MTWTFSS";
 
 Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
                int height, const std::string& caption, int index = -1) {
@@ -91,48 +90,7 @@ void MainWindow::buildControls() {
     add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330).picture = "CalDayRightUp";
 
     // The month calendar.
-    Control& calendar = add(ControlKind::PictureBox, "picCalendar", "", 6760, 30, 2640, 2520);
-    calendar.backColor = kWhite;
-    calendar.border = true;
-    add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270).picture = "CalMonthLeftUp";
-    add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270).backColor = 0x7F4F2F;
-    Control& month = label(*this, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
-    month.alignment = Alignment::Center;
-    month.foreColor = kWhite;
-    month.fontName = "Verdana";
-    month.bold = true;
-    add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270).picture = "CalMonthRightUp";
-    Control& dayBackground = label(*this, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
-    dayBackground.opaque = true;
-    dayBackground.backColor = 0xEEE6DD;
-    for (int i = 0; i < 7; ++i) {
-        Control& header = label(*this, "LabelCalDay", "picCalendar", 150 + 330 * i, 300, 300, 225,
-                                std::string(1, kDayHeaderLetters[i]), i);
-        header.alignment = Alignment::Center;
-        header.fontName = "Verdana";
-        header.bold = true;
-    }
-    Control& tile = label(*this, "LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
-    tile.alignment = Alignment::Center;
-    tile.border = true;
-    tile.visible = false;
-    for (int i = 0; i < 42; ++i) {
-        Control& cell = label(*this, "LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7),
-                              state.CalendarCellWidth, state.CalendarCellHeight, std::to_string(i + 1), i);
-        cell.opaque = true;
-        cell.backColor = kWhite;
-        cell.fontName = "Verdana";
-        cell.fontSize = 8.25;
-        cell.alignment = Alignment::Center;
-        cell.tag = std::to_string(i);
-    }
-    sendToBack("LabelCalTileBorder");
-    add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240).picture = "TodayUp";
-    Control& today = label(*this, "LabelToday", "picToday", 0, 15, 750, 240, "Today");
-    today.alignment = Alignment::Center;
-    add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240).picture = "TomorrowUp";
-    Control& tomorrow = label(*this, "LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow");
-    tomorrow.alignment = Alignment::Center;
+    AddMonthCalendarControls(*this, "", 6760, 30, state.CalendarCellWidth, state.CalendarCellHeight);
     Control& lock = add(ControlKind::PictureBox, "picLock", "picCalendar", 2355, 2130, 240, 270);
     lock.picture = "Lock";
     lock.visible = false;

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "calendar/month_cells.h"
 #include "common/column.h"
 #include "common/day_number.h"
 #include "common/int16.h"
@@ -13,24 +14,6 @@
 namespace qh {
 
 enum class Mode { None, Homework, StudySessions, Tasks, Events, Reminders };
-
-// The fixed colours of the main window, as texts "&HBBGGRR".
-struct MainWindowColors {
-    std::string CurrentMonthFore = "&H000000";
-    std::string OtherMonthFore = "&HA9A9A9";
-    std::string SelectedFore = "&HFFFFFF";
-    std::string MarkedBack = "&HF0E8E2";  // rewritten by each marking of the month
-    std::string PlainBack = "&HFFFFFF";
-    std::string SelectedBack = "&H000000";
-    std::string TintBlue = "&HF0E8E2";
-    std::string TintGreen = "&HE2F7E1";
-    std::string TintPink = "&HE5E5FF";
-    std::string TintTan = "&HD7EBFA";
-    std::string SelectedBlue = "&HA88A76";
-    std::string SelectedGreen = "&H00A600";
-    std::string SelectedPink = "&H374EC1";
-    std::string SelectedTan = "&H20A5DA";
-};
 
 // Remembered ComboList and ComboDateRange texts of one mode, for the length of a run.
 struct ViewChoice {

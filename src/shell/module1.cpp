@@ -25,7 +25,7 @@ bool Module1::Main() {
 
     main_ = std::make_unique<MainWindow>(store_, platform_);
     main_->Form_Load();
-    platform_.windowing.close(splash);
+    platform_.windowing.close(splash, UnloadMode::Code);
     if (main_->loadEndedRun()) return false;
     platform_.windowing.show(*main_);
     return true;

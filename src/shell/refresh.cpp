@@ -55,7 +55,12 @@ void MainWindow::RefreshDisplay() {
                     break;
                 case 'M': state.DisplayedMonth = 13; break;
                 case 'Y': state.ClickedDate = platform.clock.today(); break;
-                case 'C': BuildCalendar(); break;
+                case 'C':
+                    BuildCalendar();
+                    // The calendar shows before a long list is built; no click gets in
+                    // between, the refresh is one piece of work.
+                    platform.windowing.paintPending();
+                    break;
                 case 'P': LayoutGrid(mode); break;
                 case 'L': BuildList(mode); break;
                 case 'G': UpdateGradeList(); break;

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "common/failure.h"
+#include "editors/editor_windows.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
@@ -99,6 +100,8 @@ void MainWindow::Form_Load() {
     state.SortColumn = 7;
     state.PressedRow = 0;
 
+    editors->LoadAll();
+
     state.FirstModeSetup = kTrue;
     SetDefaultViewChoices();
 
@@ -135,6 +138,7 @@ void MainWindow::Form_Unload() {
         if (written) RotateBackups(store, platform);
     } catch (const std::exception&) {
     }
+    editors->CloseAll();
 }
 
 }  // namespace qh

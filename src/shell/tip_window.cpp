@@ -94,7 +94,8 @@ void FrmTip::Form_Activate() {
     ShowNextTip();
 }
 
-bool FrmTip::Form_QueryUnload() {
+bool FrmTip::Form_QueryUnload(UnloadMode mode) {
+    if (mode != UnloadMode::CloseBox) return true;
     hide();
     return false;
 }

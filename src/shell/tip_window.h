@@ -26,7 +26,7 @@ public:
     // Every showing: the video line, the box ticked afresh, the focus on Close, the next tip.
     void Form_Activate() override;
     // The close box hides the window as Close does; it stays loaded.
-    bool Form_QueryUnload() override;
+    bool Form_QueryUnload(UnloadMode mode) override;
 
     // Puts tip tempCurrentTip into LabelTip and moves on, after the last one to the first.
     void ShowNextTip();

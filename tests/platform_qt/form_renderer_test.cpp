@@ -101,7 +101,7 @@ public:
         on("VSGridScroll", FormEvent::Change,
            [this](const EventArgs&) { log += "change " + std::to_string(c("VSGridScroll").value) + ";"; });
     }
-    bool Form_QueryUnload() override {
+    bool Form_QueryUnload(UnloadMode) override {
         log += "query;";
         return allowClose;
     }

@@ -82,7 +82,7 @@ TEST(MainWindowUnload, DeletesTheProcessFileAndWritesThePreferencesSilently) {
         window.click("MenuStartSat");
         window.click("MenuEvents");
         if (failing) main.fake.files.failPath("Preferences.ini");
-        main.fake.windowing.close(window);
+        main.fake.windowing.close(window, UnloadMode::CloseBox);
         EXPECT_FALSE(window.visible);
         EXPECT_FALSE(fs::exists(main.fake.host + "/4242.PID"));
         EXPECT_TRUE(main.fake.messages.shown.empty());

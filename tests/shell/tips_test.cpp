@@ -82,7 +82,7 @@ TEST(TipOfTheDay, EveryShowingTicksTheBoxAfreshAndCloseOnlyHides) {
         if (showing == 0) {
             tip.click("ButtonClose");
         } else {
-            EXPECT_FALSE(tip.Form_QueryUnload());  // the close box
+            EXPECT_FALSE(tip.requestClose(UnloadMode::CloseBox));
         }
         EXPECT_FALSE(tip.visible);
     }

@@ -49,5 +49,35 @@ TEST(Probe, RefusesALineItDoesNotUnderstand) {
     EXPECT_TRUE(session.action("cell 41"));
 }
 
+// A modal window takes the script's lines while it is open; `print` lists it after the
+// main window, one control a line, and the caller goes on when it hides.
+TEST(Probe, DrivesAModalWindowFromTheScriptAndPrintsItsControls) {
+    FakePlatform fake;
+    const std::string data = fake.dataDirectory();
+    fake.writeBytes(data + "/Terms.txt", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/18") +
+                                             termRecord(2, "Say \"Hi\"", "2027/01/10", "2027/03/20"));
+    std::ostringstream out;
+    ProbeSession session(fake.drive, fake.host, out);
+    std::istringstream in(
+        "click ButtonSelectTerm\nprint\nchoose ComboTermList #1\nclick ButtonActive\nprint\n"
+        "click MenuClassSchedule\nclose\nprint\nclick ButtonSelectTerm\nclick NoSuchButton\n");
+    EXPECT_FALSE(session.run(in));
+    EXPECT_EQ(session.failedLineNumber(), 10);
+    const std::string text = out.str();
+    const std::string window =
+        "Window frmSelectCourseSchedule \"Quillhollow - Select a Term\" 4770 x 3300\n"
+        "  ButtonActive \"Make This Term Active\"\n"
+        "  ButtonCancel \"Cancel\"\n"
+        "  ButtonEdit \"Edit This Term's Class Schedule\"\n"
+        "  ButtonNew \"New Term\"\n"
+        "  CheckBoxBasedOnTerm \"Start with This Term's Classes\"\n"
+        "  ComboTermList \"Say \"\"Hi\"\"\" entries=2\n"
+        "  Label1 \"Term Name\"\n";
+    EXPECT_NE(text.find(window), std::string::npos) << text;
+    // Made active: the term panel shows it; the close box left the second showing alone.
+    EXPECT_NE(text.find("Term: \"Fall 2026\""), std::string::npos) << text;
+    EXPECT_EQ(text.find("Window", text.find("Window") + 1), std::string::npos) << text;
+}
+
 }  // namespace
 }  // namespace qh

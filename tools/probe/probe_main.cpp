@@ -14,15 +14,10 @@ int main(int argc, char** argv) {
     try {
         std::filesystem::create_directories(host);
         qh::ProbeSession session(argv[1], host, std::cout);
-        std::string line;
-        int number = 0;
-        while (std::getline(std::cin, line)) {
-            ++number;
-            if (line.empty() || line[0] == '#') continue;
-            if (!session.action(line)) {
-                std::cerr << "probe: line " << number << " not understood: " << line << "\n";
-                return 2;
-            }
+        if (!session.run(std::cin)) {
+            std::cerr << "probe: line " << session.failedLineNumber() << " not understood: " << session.failedLine()
+                      << "\n";
+            return 2;
         }
     } catch (const std::exception& failure) {
         std::cerr << "probe: the planner stopped: " << failure.what() << "\n";

@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "calendar/date_picker.h"
 #include "state_printer.h"
 
 namespace qh {
@@ -30,6 +31,26 @@ std::string restOf(std::istringstream& words) {
     return rest;
 }
 
+// A text typed into a box: "\n" stands for one line break, which a box holds as CR LF.
+std::string typedText(const std::string& text) {
+    std::string typed;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size() && text[i + 1] == 'n') {
+            typed += "\r\n";
+            ++i;
+        } else {
+            typed += text[i];
+        }
+    }
+    return typed;
+}
+
+// Thrown through the windows' code when the script ends or fails while a modal window is
+// open: nothing of the planner catches it, so the run stops where it stands.
+struct ScriptStop {
+    bool failed;
+};
+
 }  // namespace
 
 ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
@@ -39,6 +60,10 @@ ProbeSession::ProbeSession(const std::string& drive, const std::string& host, st
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
                            {"U3_HOST_EXEC_PATH", host}};
+    const OutsideActionSink print = [this](const std::string& line) { out_ << line << "\n"; };
+    messages_.onOutsideAction = dialogs_.onOutsideAction = processes_.onOutsideAction = windowing_.onOutsideAction =
+        print;
+    windowing_.modalLoop = [this](Form& form) { runInsideModal(form); };
 }
 
 ProbeSession::~ProbeSession() = default;
@@ -47,19 +72,48 @@ void ProbeSession::start() {
     window_ = std::make_unique<MainWindow>(store_, platform_);
     window_->Form_Load();
     windowing_.show(*window_);
-    reportMessages();
 }
 
-void ProbeSession::reportMessages() {
-    PrintMessages(messages_.shown, messagesReported_, out_);
-    messagesReported_ = messages_.shown.size();
+Form& ProbeSession::frontWindow() {
+    if (!windowing_.modalStack.empty()) return *windowing_.modalStack.back();
+    if (!started()) start();
+    return *window_;
+}
+
+bool ProbeSession::nextLine(std::string& line) {
+    while (script_ && std::getline(*script_, line)) {
+        ++lineNumber_;
+        if (!line.empty() && line[0] != '#') return true;
+    }
+    return false;
+}
+
+void ProbeSession::runInsideModal(Form& form) {
+    std::string line;
+    while (form.visible) {
+        if (!nextLine(line)) throw ScriptStop{false};
+        if (!action(line)) {
+            failedNumber_ = lineNumber_;
+            failedLine_ = line;
+            throw ScriptStop{true};
+        }
+    }
 }
 
 bool ProbeSession::run(std::istream& script) {
+    script_ = &script;
+    lineNumber_ = 0;
     std::string line;
-    while (std::getline(script, line)) {
-        if (line.empty() || line[0] == '#') continue;
-        if (!action(line)) return false;
+    try {
+        while (nextLine(line)) {
+            if (!action(line)) {
+                failedNumber_ = lineNumber_;
+                failedLine_ = line;
+                return false;
+            }
+        }
+    } catch (const ScriptStop& stop) {
+        return !stop.failed;
     }
     return true;
 }
@@ -96,16 +150,33 @@ bool ProbeSession::action(const std::string& line) {
         dialogs_.fileAnswers.push_back(answer);
         return true;
     }
+    if (verb == "printer") {
+        const std::string answer = restOf(words);
+        PrinterAnswer printer;
+        if (answer != "cancel") {
+            printer.chosen = true;
+            printer.printerName = "Probe Printer";
+            printer.copies = std::atoi(answer.c_str());
+            if (printer.copies < 1) return false;
+        }
+        dialogs_.printerAnswers.push_back(printer);
+        return true;
+    }
     if (verb == "start") {
         if (!started()) start();
         return true;
     }
     if (!started()) start();
     MainWindow& w = *window_;
-
     if (verb == "print") {
         PrintWindowState(w, out_);
-    } else if (verb == "mode") {
+        for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
+        return true;
+    }
+    if (windowAction(verb, words)) return true;
+    if (!windowing_.modalStack.empty()) return false;  // the main window's verbs wait for it
+
+    if (verb == "mode") {
         const char* menu = menuOfMode(restOf(words));
         if (!menu) return false;
         w.click(menu);
@@ -174,12 +245,102 @@ bool ProbeSession::action(const std::string& line) {
         w.setOuterSize(width, height);
         w.Form_Resize();
     } else if (verb == "exit") {
-        windowing_.close(w);
+        windowing_.close(w, UnloadMode::Code);
         out_ << "Closed\n";
     } else {
         return false;
     }
-    reportMessages();
+    return true;
+}
+
+bool ProbeSession::pickDate(Form& form, const std::string& field, const std::string& text) {
+    auto* owner = dynamic_cast<HasDatePicker*>(&form);
+    const std::optional<Date> date = parseDateText(text.size() == 10 ? text.substr(0, 4) + "/" + text.substr(5, 2) +
+                                                                            "/" + text.substr(8, 2)
+                                                                      : std::string());
+    if (!owner || !date || !form.has(field)) return false;
+    DatePicker& picker = owner->datePicker();
+    form.click(field);
+    if (!picker.visible()) return false;
+    const Ymd target = ymdOf(*date);
+    // The month arrows, one press and release a month, as a person steps there.
+    for (int guard = 0; guard < 24000; ++guard) {
+        const int months = (target.year - picker.cells().year) * 12 + (target.month - picker.cells().month);
+        if (months == 0) break;
+        const std::string arrow = months > 0 ? "LabelCalMonthUp" : "LabelCalMonthDown";
+        form.press(arrow);
+        form.release(arrow);
+    }
+    const int cell = CellForDate(picker.cells().firstCell, *date);
+    if (cell < 0) return false;
+    form.click("LabelCalDate(" + std::to_string(cell) + ")");
+    return true;
+}
+
+bool ProbeSession::windowAction(const std::string& verb, std::istringstream& words) {
+    Form& form = frontWindow();
+    // A person's next action comes later than the window's short timers (the picker's
+    // 100 ms guard): those that run have fired by then.
+    for (const std::string& key : form.order()) {
+        const Control& control = form.c(key);
+        if (control.kind == ControlKind::Timer && control.enabled && control.interval > 0 && control.interval <= 100)
+            form.tick(key);
+    }
+    if (verb == "click") {
+        const std::string name = restOf(words);
+        if (!form.has(name)) return false;
+        form.click(name);
+    } else if (verb == "set") {
+        std::string name;
+        words >> name;
+        if (!form.has(name) || form.c(name).kind != ControlKind::TextBox) return false;
+        std::string text;
+        std::getline(words, text);
+        if (!text.empty() && text[0] == ' ') text.erase(0, 1);
+        if (form.c(name).canTakeFocus() && form.c(name).enabled && form.c(name).visible) form.focusTo(name);
+        form.type(name, typedText(text));
+    } else if (verb == "choose") {
+        std::string name;
+        words >> name;
+        const std::string entry = restOf(words);
+        if (!form.has(name)) return false;
+        const Control& list = form.c(name);
+        if (list.kind != ControlKind::ComboBox && list.kind != ControlKind::ListBox) return false;
+        int index = -1;
+        if (entry.size() > 1 && entry[0] == '#') {
+            index = std::atoi(entry.c_str() + 1);
+        } else {
+            for (std::size_t i = 0; i < list.items.size(); ++i)
+                if (list.items[i] == entry) index = int(i);
+        }
+        if (index < 0 || index >= int(list.items.size()) || !list.enabled || !list.visible) return false;
+        form.select(name, index);
+    } else if (verb == "check") {
+        std::string name, state;
+        words >> name >> state;
+        if (!form.has(name) || (state != "on" && state != "off")) return false;
+        if (form.c(name).checked != (state == "on")) form.click(name);
+    } else if (verb == "pick") {
+        std::string name, date;
+        words >> name >> date;
+        return pickDate(form, name, date);
+    } else if (verb == "press") {
+        std::string name;
+        EventArgs at;
+        words >> name >> at.x >> at.y;
+        if (!form.has(name) || !words) return false;
+        form.press(name, at);
+        form.release(name, at);
+    } else if (verb == "close") {
+        if (&form == window_.get()) {
+            windowing_.close(form, UnloadMode::CloseBox);
+            out_ << "Closed\n";
+        } else {
+            windowing_.close(form, UnloadMode::CloseBox);
+        }
+    } else {
+        return false;
+    }
     return true;
 }
 

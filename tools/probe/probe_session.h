@@ -3,6 +3,7 @@
 // comes from the script, message boxes and dialogs are answered from it, and what the
 // window shows is printed on request.
 #include <istream>
+#include <sstream>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -10,7 +11,7 @@
 #include "platform/posix_file_system.h"
 #include "record_store/columns.h"
 #include "shell/main_window.h"
-#include "support/fake_platform.h"
+#include "platform/fake/fake_platform.h"
 
 namespace qh {
 
@@ -21,17 +22,28 @@ public:
     ProbeSession(const std::string& drive, const std::string& host, std::ostream& out);
     ~ProbeSession();
 
-    // Runs every line of the script; returns false after a line it could not understand.
+    // Runs every line of the script; returns false after a line it could not understand
+    // (failedLine() then says which). While a modal window is open the lines act on it:
+    // the script goes on inside the window's modal showing, as the toolkit's event loop
+    // would, and the code that opened the window goes on when it hides.
     bool run(std::istream& script);
     // Runs one action line.
     bool action(const std::string& line);
+    // The number and text of the line that failed.
+    int failedLineNumber() const { return failedNumber_; }
+    const std::string& failedLine() const { return failedLine_; }
 
     MainWindow* window() { return window_.get(); }
+    // The window the actions go to: the modal window on top, else the main window.
+    Form& frontWindow();
 
 private:
     bool started() const { return window_ != nullptr; }
     void start();
-    void reportMessages();
+    bool nextLine(std::string& line);
+    void runInsideModal(Form& form);
+    bool windowAction(const std::string& verb, std::istringstream& words);
+    bool pickDate(Form& form, const std::string& field, const std::string& date);
 
     std::ostream& out_;
     FakeEnvironment environment_;
@@ -46,7 +58,10 @@ private:
     Platform platform_;
     RecordStore store_;
     std::unique_ptr<MainWindow> window_;
-    std::size_t messagesReported_ = 0;
+    std::istream* script_ = nullptr;
+    int lineNumber_ = 0;
+    int failedNumber_ = 0;
+    std::string failedLine_;
 };
 
 }  // namespace qh

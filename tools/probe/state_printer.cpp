@@ -1,8 +1,12 @@
 #include "state_printer.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <iomanip>
 
-#include "support/recording_canvas.h"
+#include "record_store/color_vocabulary.h"
+
+#include "platform/fake/recording_canvas.h"
 
 namespace qh {
 namespace {
@@ -137,9 +141,45 @@ void PrintWindowState(const MainWindow& window, std::ostream& out) {
     printGrid(window, out);
 }
 
-void PrintMessages(const std::vector<ShownMessage>& shown, std::size_t from, std::ostream& out) {
-    for (std::size_t i = from; i < shown.size(); ++i)
-        out << "Message: " << quoted(shown[i].title) << " " << quoted(shown[i].text) << "\n";
+namespace {
+
+std::string colorWord(Color color) {
+    const ColorVocabulary& colors = standardColors();
+    for (int row = 1; row <= colors.ColorNames.count(); ++row)
+        if (colors.ColorValues(row) == color) return colors.ColorNames(row);
+    char hex[8];
+    std::snprintf(hex, sizeof hex, "#%02X%02X%02X", redOf(color), greenOf(color), blueOf(color));
+    return hex;
+}
+
+}  // namespace
+
+void PrintFormControls(const Form& window, std::ostream& out) {
+    out << "Window " << window.name() << " " << quotedText(window.caption) << " " << window.width << " x "
+        << window.height << "\n";
+    std::vector<const Control*> controls;
+    for (const std::string& key : window.order()) {
+        const Control& control = window.c(key);
+        if (control.kind != ControlKind::Timer && control.kind != ControlKind::Menu) controls.push_back(&control);
+    }
+    std::sort(controls.begin(), controls.end(), [](const Control* a, const Control* b) {
+        return a->name != b->name ? a->name < b->name : a->index < b->index;
+    });
+    for (const Control* control : controls) {
+        const bool textual = control->kind == ControlKind::TextBox || control->kind == ControlKind::ComboBox ||
+                             control->kind == ControlKind::ListBox;
+        out << "  " << control->key() << " " << quotedText(textual ? control->text : control->caption);
+        if (control->checked) out << " checked";
+        if (!control->enabled) out << " disabled";
+        if (!control->visible) out << " hidden";
+        if (control->kind == ControlKind::ComboBox || control->kind == ControlKind::ListBox)
+            out << " entries=" << control->items.size();
+        const bool plain =
+            control->foreColor == kBlack && (control->backColor == kWhite || control->backColor == kButtonFace);
+        if (!plain)
+            out << " fore=" << colorWord(control->foreColor) << " back=" << colorWord(control->backColor);
+        out << "\n";
+    }
 }
 
 }  // namespace qh

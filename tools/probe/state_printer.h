@@ -3,12 +3,16 @@
 #include <ostream>
 
 #include "shell/main_window.h"
-#include "support/fake_platform.h"
+#include "platform/fake/fake_platform.h"
 
 namespace qh {
 
 void PrintWindowState(const MainWindow& window, std::ostream& out);
-// Message boxes shown since `from`, one a line.
-void PrintMessages(const std::vector<ShownMessage>& shown, std::size_t from, std::ostream& out);
+// A window other than the main one: a header line `Window NAME "caption" WIDTH x HEIGHT`,
+// then one line a control (timers and menus aside), sorted by name and index: the key, its
+// text or caption in quotes, then those of `checked`, `disabled`, `hidden`, `entries=N`
+// that apply and, unless it is black on white or on the window's face colour, `fore=` and `back=` with the
+// colour's name in the vocabulary, else #RRGGBB.
+void PrintFormControls(const Form& window, std::ostream& out);
 
 }  // namespace qh

@@ -8,7 +8,7 @@
 #include "record_store/storage_locations.h"
 #include "sample_content.h"
 #include "shell/preferences.h"
-#include "support/fake_platform.h"
+#include "platform/fake/fake_platform.h"
 #include "unsynced_file_system.h"
 
 namespace qh::sample {

@@ -30,7 +30,7 @@ FormWindow& FormRenderer::windowFor(Form& form) {
 
 void FormRenderer::show(Form& form) {
     FormWindow& window = windowFor(form);
-    form.visible = true;
+    form.showing();
     syncAll();
     if (QGuiApplication::platformName() != QStringLiteral("offscreen")) window.raise();
 }
@@ -46,7 +46,7 @@ void FormRenderer::showModal(Form& form, Form* owner) {
                 window->windowHandle()->setTransientParent(ownerWindow->windowHandle());
         }
     }
-    form.visible = true;
+    form.showing();
     syncAll();
     QEventLoop loop;
     modal_.push_back({&form, &loop});
@@ -56,10 +56,12 @@ void FormRenderer::showModal(Form& form, Form* owner) {
     if ((window = windowOf(form)) && !window->isVisible()) window->setWindowModality(Qt::NonModal);
 }
 
-bool FormRenderer::close(Form& form) {
-    if (!form.Form_QueryUnload()) return false;
-    form.Form_Unload();
-    form.visible = false;
+bool FormRenderer::close(Form& form, UnloadMode mode) {
+    if (!form.requestClose(mode)) {
+        // The model kept its window; it may have hidden it (an editor's own cancel).
+        syncAll();
+        return false;
+    }
     auto it = windows_.find(&form);
     if (it != windows_.end()) {
         FormWindow* window = it->second;

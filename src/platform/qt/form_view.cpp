@@ -4,10 +4,12 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -105,6 +107,7 @@ FormWindow::FormWindow(FormRenderer& renderer, Form& form)
     QPalette palette = client_->palette();
     palette.setColor(QPalette::Window, qtColor(kButtonFace));
     client_->setPalette(palette);
+    client_->installEventFilter(this);
 }
 
 FormWindow::~FormWindow() {
@@ -289,18 +292,103 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
     view.widget = widget;
 }
 
+// The key codes of the windowing layer the models speak: letters as capitals, digits,
+// Enter 13, Escape 27, Tab 9, the arrows 37 to 40, F1 to F12 from 112.
+static int keyCodeOf(const QKeyEvent& event) {
+    const int key = event.key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) return kKeyReturn;
+    if (key == Qt::Key_Escape) return kKeyEscape;
+    if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return kKeyTab;
+    if (key == Qt::Key_Backspace) return 8;
+    if (key == Qt::Key_Delete) return 46;
+    if (key >= Qt::Key_Left && key <= Qt::Key_Down) return 37 + (key - Qt::Key_Left);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return 112 + (key - Qt::Key_F1);
+    if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z) || key == Qt::Key_Space)
+        return key;
+    return 0;
+}
+
+bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
+    const int code = keyCodeOf(*event);
+    if (code == 0 || code == kKeyTab) return false;  // Qt walks the tab order set from the model
+    const QString text = event->text();
+    const int character = text.size() == 1 && text[0].unicode() < 256 ? text[0].unicode() : 0;
+    int shift = 0;
+    if (event->modifiers() & Qt::ShiftModifier) shift |= 1;
+    if (event->modifiers() & Qt::ControlModifier) shift |= 2;
+    if (event->modifiers() & Qt::AltModifier) shift |= 4;
+    const bool multiLine = form_.has(key) && form_.c(key).kind == ControlKind::TextBox && form_.c(key).multiLine;
+    const bool enter = code == kKeyReturn && !form_.defaultButton.empty() && !multiLine;
+    const bool escape = code == kKeyEscape && !form_.cancelButton.empty();
+    if (!enter && !escape && !form_.handles(key, FormEvent::KeyDown) && !form_.handles(key, FormEvent::KeyPress))
+        return false;
+    forward([this, key, code, character, shift] {
+        form_.focusTo(key);
+        form_.pressKey(code, character, shift);
+    });
+    return enter || escape;
+}
+
+void FormWindow::applyTabOrder() {
+    const std::vector<std::string> order = form_.tabOrder();
+    const std::set<std::string> stops(order.begin(), order.end());
+    for (auto& [key, view] : views_) {
+        if (!view.widget || !form_.has(key) || !form_.c(key).canTakeFocus()) continue;
+        view.widget->setFocusPolicy(stops.count(key) ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+    QWidget* previous = nullptr;
+    for (const std::string& key : order) {
+        QWidget* next = widget(key);
+        if (!next) continue;
+        if (previous) QWidget::setTabOrder(previous, next);
+        previous = next;
+    }
+}
+
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(watched);
     if (!widget || retired_) return QWidget::eventFilter(watched, event);
+    if (widget == client_) {
+        // A press on the window itself, beside every control.
+        if (event->type() == QEvent::MouseButtonPress && !renderer_.applying())
+            forward([this] { form_.Form_MouseDown(""); });
+        return QWidget::eventFilter(watched, event);
+    }
     const std::string key = str(widget->objectName());
     switch (event->type()) {
         case QEvent::FocusIn:
-            if (form_.has(key) && !renderer_.applying()) {
-                form_.focusedControl = key;
+            if (form_.has(key) && !renderer_.applying() && form_.focusedControl != key) {
                 applied_.focused = key;
-                if (form_.handles(key, FormEvent::GotFocus))
-                    forward([this, key] { form_.fire(key, FormEvent::GotFocus); });
+                forward([this, key] { form_.focusTo(key); });
             }
+            break;
+        case QEvent::FocusOut: {
+            // Focus that leaves for a widget of no control of this window (or for nothing)
+            // leaves the model's control too; moving to another control is its FocusIn.
+            const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) break;
+            QWidget* now = QApplication::focusWidget();
+            const bool toControl = now && now->window() == this && form_.has(str(now->objectName()));
+            if (form_.has(key) && !toControl && !renderer_.applying() && form_.focusedControl == key) {
+                applied_.focused.clear();
+                forward([this] { form_.focusTo(""); });
+            }
+            break;
+        }
+        case QEvent::MouseButtonPress:
+            // Presses on boxes reach the model as MouseDown through PaintedBox. A press on a
+            // text box is its Click (a date field opens its calendar on it); a press on any
+            // other control tells the window before the control acts.
+            if (form_.has(key) && !renderer_.applying()) {
+                const ControlKind kind = form_.c(key).kind;
+                if (kind == ControlKind::TextBox)
+                    forward([this, key] { form_.click(key); });
+                else if (kind != ControlKind::Label && kind != ControlKind::PictureBox)
+                    forward([this, key] { form_.Form_MouseDown(key); });
+            }
+            break;
+        case QEvent::KeyPress:
+            if (form_.has(key) && keyPressed(key, static_cast<QKeyEvent*>(event))) return true;
             break;
         case QEvent::QueryWhatsThis:
             event->setAccepted(form_.has(key) && form_.c(key).helpContextId != 0);
@@ -463,6 +551,7 @@ void FormWindow::sync() {
         }
         known_ = order.size();
         if (newMenu) rebuildMenus();
+        applyTabOrder();
     }
     std::set<std::string> restackIn;
     for (const std::string& key : order) {
@@ -552,8 +641,9 @@ void FormWindow::applyWindow() {
         hide();
     }
     applied_.visible = form_.visible;
-    if (applied_.focused != form_.focusedControl) {
+    if (applied_.focused != form_.focusedControl || applied_.focusRequests != form_.focusRequests()) {
         applied_.focused = form_.focusedControl;
+        applied_.focusRequests = form_.focusRequests();
         if (QWidget* target = widget(form_.focusedControl)) target->setFocus(Qt::OtherFocusReason);
     }
 }
@@ -608,7 +698,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     // The model decides; the window goes only through FormRenderer::close.
     event->ignore();
     if (retired_) return;
-    forward([this] { renderer_.close(form_); });
+    forward([this] { renderer_.close(form_, UnloadMode::CloseBox); });
 }
 
 }  // namespace qh

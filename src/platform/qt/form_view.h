@@ -32,6 +32,7 @@ class QMenuBar;
 class QMenu;
 class QAction;
 class QTimer;
+class QKeyEvent;
 
 namespace qh {
 
@@ -80,6 +81,7 @@ private:
         WindowState state = WindowState::Normal;
         bool visible = false, fixedSize = false, fixedFrame = false;
         std::string focused;
+        unsigned focusRequests = 0;
     };
 
     void createView(const std::string& key);
@@ -90,6 +92,8 @@ private:
     void applyMenu(View& view, const Control& control);
     void applyWindow();
     void restack(const std::string& containerKey);
+    void applyTabOrder();
+    bool keyPressed(const std::string& key, QKeyEvent* event);
     QWidget* containerWidget(const std::string& containerKey);
     int menuBarPixels() const;
     void layoutClient();
@@ -121,7 +125,7 @@ public:
     void showModal(Form& form, Form* owner);
     // Asks the model; if it agrees, runs its unload and takes the window off for good.
     // Returns whether the window closed.
-    bool close(Form& form);
+    bool close(Form& form, UnloadMode mode);
 
     // The window of a model, made on first use; null from windowOf when not made.
     FormWindow& windowFor(Form& form);

@@ -216,6 +216,11 @@ void QtWindowing::processEvents() {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
+void QtWindowing::paintPending() {
+    renderer_.syncAll();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 int QtWindowing::screenWidthTwips() const {
     QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->size().width() * 15 : 0;

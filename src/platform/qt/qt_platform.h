@@ -88,8 +88,9 @@ public:
     QtWindowing(FormRenderer& renderer, PrinterChoice& choice) : renderer_(renderer), choice_(choice) {}
     void show(Form& form) override { renderer_.show(form); }
     void showModal(Form& form, Form* owner) override { renderer_.showModal(form, owner); }
-    void close(Form& form) override { renderer_.close(form); }
+    void close(Form& form, UnloadMode mode) override { renderer_.close(form, mode); }
     void processEvents() override;
+    void paintPending() override;
     int screenWidthTwips() const override;
     int screenHeightTwips() const override;
     void enterWhatsThisMode() override;

@@ -1,4 +1,4 @@
-#include "support/recording_canvas.h"
+#include "platform/fake/recording_canvas.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "support/fake_platform.h"
+#include "platform/fake/fake_platform.h"
 
 #include <algorithm>
 #include <cctype>
@@ -120,6 +120,7 @@ void FakeLocale::appendSortKey(std::string_view text, std::string& key) const {
 MessageAnswer FakeMessageBoxes::show(const std::string& text, const std::string& title, MessageButtons buttons,
                                      MessageIcon icon) {
     shown.push_back({text, title, buttons, icon});
+    if (onOutsideAction) onOutsideAction("Message: " + quotedText(title) + " " + quotedText(text));
     if (!answers.empty()) {
         const MessageAnswer answer = answers.front();
         answers.pop_front();
@@ -202,12 +203,25 @@ void FakeFileSystem::rename(const std::string& from, const std::string& to) {
 
 std::int32_t FakeProcesses::startCommand(const std::string& commandLine) {
     started.push_back(commandLine);
+    if (onOutsideAction) onOutsideAction("Start " + quotedText(commandLine));
     if (startFails) throw FileFailure("Cannot start " + commandLine);
     return 5000 + std::int32_t(started.size());
 }
 
+void FakeProcesses::openWithDefaultHandler(const std::string& pathOrAddress) {
+    opened.push_back(pathOrAddress);
+    if (onOutsideAction) onOutsideAction("Open " + quotedText(pathOrAddress));
+}
+
 FileDialogAnswer FakeDialogs::fileDialog(const FileDialogRequest& request) {
     fileRequests.push_back(request);
+    if (onOutsideAction) {
+        std::string filter;
+        for (const FileFilter& entry : request.filters) filter += entry.name + "|" + entry.pattern + "|";
+        if (!filter.empty()) filter.pop_back();
+        onOutsideAction(std::string("Dialog ") + (request.open ? "open " : "save ") + quotedText(request.title) + " " +
+                        quotedText(request.startPath) + " " + quotedText(filter));
+    }
     if (fileAnswers.empty()) return {};
     FileDialogAnswer answer = fileAnswers.front();
     fileAnswers.pop_front();
@@ -216,6 +230,7 @@ FileDialogAnswer FakeDialogs::fileDialog(const FileDialogRequest& request) {
 
 PrinterAnswer FakeDialogs::printerDialog() {
     ++printerRequests;
+    if (onOutsideAction) onOutsideAction("Printer dialog");
     if (printerAnswers.empty()) return {};
     PrinterAnswer answer = printerAnswers.front();
     printerAnswers.pop_front();
@@ -224,33 +239,48 @@ PrinterAnswer FakeDialogs::printerDialog() {
 
 void FakeWindowing::show(Form& form) {
     log.push_back("show " + form.name());
-    form.visible = true;
+    form.showing();
 }
 
 void FakeWindowing::showModal(Form& form, Form*) {
     log.push_back("modal " + form.name());
-    form.visible = true;
+    modalStack.push_back(&form);
+    struct Pop {
+        std::vector<Form*>& stack;
+        ~Pop() { stack.pop_back(); }
+    } pop{modalStack};
+    form.showing();
     auto& users = modalUsers[form.name()];
     if (!users.empty()) {
         auto user = std::move(users.front());
         users.pop_front();
         user(form);
+    } else if (modalLoop && form.visible) {
+        modalLoop(form);
     }
     if (form.visible) form.hide();
 }
 
-void FakeWindowing::close(Form& form) {
-    if (!form.Form_QueryUnload()) {
+void FakeWindowing::close(Form& form, UnloadMode mode) {
+    if (!form.requestClose(mode)) {
         log.push_back("close refused " + form.name());
         return;
     }
     log.push_back("close " + form.name());
-    form.Form_Unload();
-    form.visible = false;
 }
 
 void FakeWindowing::printWindowImage(Form& form, const std::string& printerName, int copies) {
     printed.push_back(form.name() + " on " + printerName + " x" + std::to_string(copies));
+    if (onOutsideAction) onOutsideAction("Printed window image");
+}
+
+std::string quotedText(const std::string& text) {
+    std::string quoted = "\"";
+    for (char c : text) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + "\"";
 }
 
 FakePlatform::FakePlatform()

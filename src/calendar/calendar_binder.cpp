@@ -1,0 +1,125 @@
+#include "calendar/calendar_binder.h"
+
+namespace qh {
+namespace {
+
+constexpr const char* kDayHeaderLetters = "MTWTFSS";
+
+Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
+               int height, const std::string& caption, int index = -1) {
+    Control& control = form.add(ControlKind::Label, name, container, left, top, width, height, index);
+    control.caption = caption;
+    control.opaque = false;
+    return control;
+}
+
+}  // namespace
+
+void AddMonthCalendarControls(Form& form, const std::string& container, int left, int top, int cellWidth,
+                              int cellHeight) {
+    Control& calendar = form.add(ControlKind::PictureBox, "picCalendar", container, left, top, 2640, 2520);
+    calendar.backColor = kWhite;
+    calendar.border = true;
+    form.add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270).picture = "CalMonthLeftUp";
+    form.add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270).backColor = 0x7F4F2F;
+    Control& month = label(form, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
+    month.alignment = Alignment::Center;
+    month.foreColor = kWhite;
+    month.fontName = "Verdana";
+    month.bold = true;
+    form.add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270).picture = "CalMonthRightUp";
+    Control& dayBackground = label(form, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
+    dayBackground.opaque = true;
+    dayBackground.backColor = 0xEEE6DD;
+    for (int i = 0; i < 7; ++i) {
+        Control& header = label(form, "LabelCalDay", "picCalendar", 150 + 330 * i, 300, 300, 225,
+                                std::string(1, kDayHeaderLetters[i]), i);
+        header.alignment = Alignment::Center;
+        header.fontName = "Verdana";
+        header.bold = true;
+    }
+    Control& tile = label(form, "LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
+    tile.alignment = Alignment::Center;
+    tile.border = true;
+    tile.visible = false;
+    for (int i = 0; i < 42; ++i) {
+        Control& cell = label(form, "LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7), cellWidth,
+                              cellHeight, std::to_string(i + 1), i);
+        cell.opaque = true;
+        cell.backColor = kWhite;
+        cell.fontName = "Verdana";
+        cell.fontSize = 8.25;
+        cell.alignment = Alignment::Center;
+        cell.tag = std::to_string(i);
+    }
+    form.sendToBack("LabelCalTileBorder");
+    form.add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240).picture = "TodayUp";
+    label(form, "LabelToday", "picToday", 0, 15, 750, 240, "Today").alignment = Alignment::Center;
+    form.add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240).picture = "TomorrowUp";
+    label(form, "LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow").alignment = Alignment::Center;
+}
+
+void PaintMonthCells(Form& form, const MonthCells& cells, const std::string& monthCaption) {
+    form.c("LabelMonth").caption = monthCaption;
+    Control& frame = form.c("LabelCalTileBorder");
+    frame.visible = false;
+    for (int i = 0; i < 42; ++i) {
+        Control& cell = form.c("LabelCalDate", i);
+        const std::size_t k = std::size_t(i);
+        cell.foreColor = colorFromText(cells.CellForeColors[k]);
+        cell.bold = cells.CellBold[k];
+        cell.backColor = colorFromText(cells.CellBackColors[k]);
+        cell.caption = cells.CellCaptions[k];
+        if (cells.CellIsToday[k]) {
+            frame.left = cell.left - 15;
+            frame.top = cell.top - 15;
+            frame.visible = true;
+            form.sendToBack("LabelCalTileBorder");
+        }
+    }
+}
+
+const char* ApplyDayHeaders(Form& form, const std::string& startDayOfWeek) {
+    static const char* const order[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+    int first = 0;  // index into order of the first header
+    std::pair<int, int> offers{1, 6};
+    const char* menu = "MenuStartSun";
+    if (startDayOfWeek == "Monday") {
+        first = 1;
+        offers = {5, 6};
+        menu = "MenuStartMon";
+    } else if (startDayOfWeek == "Saturday") {
+        first = 6;
+        offers = {1, 2};
+        menu = "MenuStartSat";
+    }
+    for (int i = 0; i < 7; ++i) {
+        Control& header = form.c("LabelCalDay", i);
+        const std::string day = order[(first + i) % 7];
+        header.caption = day.substr(0, 1);
+        header.tag = day;
+        header.underline = i == offers.first || i == offers.second;
+    }
+    return menu;
+}
+
+void UpdateQuickDateButtons(Form& form, Date selected, Date today, std::optional<Color> tomorrowGreyOnToday) {
+    Control& labelToday = form.c("LabelToday");
+    Control& labelTomorrow = form.c("LabelTomorrow");
+    labelToday.foreColor = labelTomorrow.foreColor = 0x000000;
+    labelToday.bold = labelTomorrow.bold = false;
+    form.c("picToday").picture = "TodayUp";
+    form.c("picTomorrow").picture = "TomorrowUp";
+    if (selected == today) {
+        labelToday.foreColor = 0x0000C0;
+        labelToday.bold = true;
+        form.c("picToday").picture = "TodayDown";
+        if (tomorrowGreyOnToday) labelTomorrow.foreColor = *tomorrowGreyOnToday;
+    } else if (selected == today + 1) {
+        labelTomorrow.foreColor = 0x0000C0;
+        labelTomorrow.bold = true;
+        form.c("picTomorrow").picture = "TomorrowDown";
+    }
+}
+
+}  // namespace qh

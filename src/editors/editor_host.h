@@ -1,0 +1,31 @@
+#pragma once
+// What the editors need of the main window, and no more: the owner of their modal
+// showing, the date the calendar shows, the first day of the week for their pickers,
+// the one refresh, the active term and the highlight of a list row. The main window
+// implements it; the editors never include the shell.
+#include <string>
+
+#include "common/day_number.h"
+
+namespace qh {
+
+class Form;
+
+class EditorHost {
+public:
+    virtual ~EditorHost() = default;
+    // The window the editors are shown over.
+    virtual Form& ownerWindow() = 0;
+    // ClickedDate of the month calendar: the date a new record starts on.
+    virtual Date clickedDate() const = 0;
+    // "Sunday", "Monday" or "Saturday": the pickers' headers follow it at every showing.
+    virtual std::string startDayOfWeek() const = 0;
+    // Sets RefreshReason and runs RefreshDisplay.
+    virtual void refresh(const std::string& reason) = 0;
+    // Makes a term the active one (SelectTerm).
+    virtual void selectTerm(const std::string& termName) = 0;
+    // Shows or clears the pressed look of row `row` of the list (1-based).
+    virtual void highlightRow(int row, bool on) = 0;
+};
+
+}  // namespace qh
