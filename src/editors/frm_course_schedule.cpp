@@ -97,7 +97,7 @@ void FrmCourseSchedule::buildControls() {
     add(ControlKind::RadioButton, "OptionBackColor", "", 2460, 3420, 1200, 285).caption = "Background";
     add(ControlKind::RadioButton, "OptionForeColor", "", 2460, 3720, 1200, 285).caption = "Text";
     label("LabelNotes", 3720, 2520, 2640, "Notes");
-    Control& notes = add(ControlKind::TextBox, "TextBoxClassNotes", "", 3720, 2760, 2640, 2160);
+    Control& notes = add(ControlKind::TextBox, "TextBoxClassNotes", "", 3720, 2760, 2640, 2040);
     notes.multiLine = true;
     notes.border = true;
     for (const char* radio : {"OptionBackColor", "OptionForeColor"}) c(radio).backColor = kButtonFace;
@@ -123,8 +123,9 @@ void FrmCourseSchedule::bindHandlers() {
     onClick(ButtonCancel, &FrmCourseSchedule::ConfirmCancelSchedule);
     onClick(ButtonDelete, &FrmCourseSchedule::ButtonDelete_Click);
     on(ButtonAccentColor.key(), FormEvent::Click, [this](const EventArgs&) {
-        ButtonAccentColor->caption = ButtonAccentColor->caption == "W" ? "B" : "W";
-        TextBoxClassName->foreColor = ButtonAccentColor->caption == "W" ? kWhite : kBlack;
+        const bool white = ButtonAccentColor->caption != "W";
+        ButtonAccentColor->caption.assign(1, white ? 'W' : 'B');
+        TextBoxClassName->foreColor = white ? kWhite : kBlack;
     });
     on(picColorGrid.key(), FormEvent::MouseDown, [this](const EventArgs& args) { picColorGrid_MouseDown(args); });
     on(TextBoxTermName.key(), FormEvent::Change, [this](const EventArgs&) {
@@ -167,7 +168,8 @@ void FrmCourseSchedule::Form_Activate() {
         caption = "Quillhollow - New Term";
         const Date today = platform_.clock.today();
         const Ymd now = ymdOf(today);
-        tempTermName = std::string(seasonOf(now.month)) + " " + std::to_string(now.year);
+        tempTermName = seasonOf(now.month);
+        tempTermName.append(" ").append(std::to_string(now.year));
         TextBoxTermName->text = tempTermName;
         setTermStart(today);
         setTermEnd(today + kNewTermDays);

@@ -243,5 +243,21 @@ TEST(ClassSchedule, ColorGridCellsRoundTrip) {
     EXPECT_EQ(ColorGridCellAt(-1, 0), 0);
 }
 
+// The five editors are loaded hidden with the main window, in their order, and closed
+// last first when it unloads, whatever they would answer their close box.
+TEST(ClassSchedule, EditorsLiveFromTheLoadToTheUnload) {
+    Schedule schedule;
+    std::string names;
+    for (const Form* editor : schedule.window->editors->windows()) {
+        names += editor->name() + (editor->visible ? "+ " : " ");
+    }
+    EXPECT_EQ(names, "frmAssignment frmSelectCourseSchedule frmCourseSchedule FrmTask frmEvent ");
+    schedule.fake.windowing.log.clear();
+    schedule.fake.windowing.close(*schedule.window, UnloadMode::Code);
+    EXPECT_EQ(schedule.fake.windowing.log,
+              (std::vector<std::string>{"close frmEvent", "close FrmTask", "close frmCourseSchedule",
+                                        "close frmSelectCourseSchedule", "close frmAssignment", "close frmMain"}));
+}
+
 }  // namespace
 }  // namespace qh

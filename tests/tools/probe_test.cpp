@@ -79,5 +79,43 @@ TEST(Probe, DrivesAModalWindowFromTheScriptAndPrintsItsControls) {
     EXPECT_EQ(text.find("Window", text.find("Window") + 1), std::string::npos) << text;
 }
 
+// A new user on an empty drive makes a term with three classes from the probe: dates
+// picked with the pop-up calendar, colours from the grid; after a restart it is still the
+// active term, and the files hold exactly its records.
+TEST(Probe, MakesATermWithClassesEndToEnd) {
+    FakePlatform fake;
+    const char* script =
+        "clock 2026-11-21 09:00\n"
+        "click ButtonSelectTerm\nclick ButtonNew\nprint\n"
+        "pick TextboxTermStart 2027-01-11\npick TextboxTermEnd 2027-03-26\n"
+        "click ButtonAddClass\nset TextBoxClassName Algebra\npress picColorGrid 675 225\nclick ButtonOKClass\n"
+        "click ButtonAddClass\nset TextBoxClassName Biology\ncheck OptionForeColor on\npress picColorGrid 1875 225\n"
+        "check OptionBackColor on\npress picColorGrid 75 1275\nclick ButtonOKClass\n"
+        "click ButtonAddClass\nset TextBoxClassName  algebra \nclick ButtonOKClass\n"
+        "set TextBoxClassName History\nclick ButtonOKClass\nclick ButtonOK\nprint\nexit\n";
+    std::ostringstream out;
+    {
+        ProbeSession session(fake.drive, fake.host, out);
+        std::istringstream in(script);
+        ASSERT_TRUE(session.run(in)) << session.failedLine();
+    }
+    const std::string text = out.str();
+    for (const char* line : {"  TextBoxTermName \"Winter 2026\"\n", "  TextboxTermEnd \"Saturday, January 30, 2027\"\n",
+                             "Message: \"Quillhollow\" \"There is already a class with this name.\"\n",
+                             "Term: \"Winter 2026\" \"125 Days Left in Term\"\n",
+                             "ComboGPA: \"GPA\" of [GPA, Total , Algebra , Biology , History ]\n"})
+        EXPECT_NE(text.find(line), std::string::npos) << line << text;
+    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Terms.txt"), termRecord(1, "Winter 2026", "2027/01/11", "2027/03/26"));
+    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Classes.txt"),
+              classRecord(1, 1, "Algebra", "Black", "MistyRose") + classRecord(2, 1, "Biology", "SeaShell", "MediumBlue") +
+                  classRecord(3, 1, "History", "Black", "White"));
+
+    std::ostringstream again;
+    ProbeSession restarted(fake.drive, fake.host, again);
+    std::istringstream in("clock 2026-11-22 09:00\nprint\n");
+    ASSERT_TRUE(restarted.run(in));
+    EXPECT_NE(again.str().find("Term: \"Winter 2026\" \"124 Days Left in Term\""), std::string::npos) << again.str();
+}
+
 }  // namespace
 }  // namespace qh
