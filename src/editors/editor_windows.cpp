@@ -1,5 +1,6 @@
 #include "editors/editor_windows.h"
 
+#include "editors/frm_assignment.h"
 #include "editors/frm_course_schedule.h"
 #include "editors/frm_select_course_schedule.h"
 #include "editors/pending_editor_windows.h"

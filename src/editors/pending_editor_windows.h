@@ -9,11 +9,6 @@ namespace qh {
 
 class EditorHost;
 
-class FrmAssignment : public Form {
-public:
-    FrmAssignment(Platform&, EditorHost&) : Form("frmAssignment") { caption = "Quillhollow - New Assignment"; }
-};
-
 class FrmTask : public Form {
 public:
     FrmTask(Platform&, EditorHost&) : Form("FrmTask") { caption = "Quillhollow - New Task"; }

@@ -1,0 +1,275 @@
+// The assignment procedures: the editor filled from the columns of the active term, shown
+// modal, and its result written back to the columns and, record by record, to the files:
+// the note, the study sessions, then the assignment itself.
+#include <array>
+
+#include "common/text.h"
+#include "editors/editor_host.h"
+#include "editors/editor_windows.h"
+#include "editors/frm_assignment.h"
+#include "editors/record_actions.h"
+#include "record_store/codepage.h"
+#include "record_store/record_files.h"
+
+namespace qh {
+namespace {
+
+constexpr int kDescriptionWidth = 50, kNoteWidth = 1450;
+
+// A text as its field will hold it: cut to the field's width in code-page bytes, with the
+// characters the code page lacks replaced, as a load reads it back.
+std::string storedText(const std::string& text, int width) { return trimRight(fromCodePage(fieldBytes(text, width))); }
+
+struct CurrentClassList {
+    std::vector<std::string> names, ids;
+    Date termStart = 0, termEnd = 0;
+};
+
+// The live classes of the active term in the order of the class columns, and its dates.
+CurrentClassList BuildCurrentClassList(const RecordStore& s) {
+    CurrentClassList list;
+    for (int t = 1; t <= s.TermNames.count(); ++t) {
+        if (s.TermNames(t) != s.CurrentTermName) continue;
+        list.termStart = parseDateText(repairDateSeparators(s.TermStarts(t))).value_or(0);
+        list.termEnd = parseDateText(repairDateSeparators(s.TermEnds(t))).value_or(0);
+        const Int16 termID = int16OrZero(s.TermIDs(t));
+        for (int i = 1; i <= s.ClassIDs.count(); ++i) {
+            if (int16OrZero(s.ClassTermLinks(i)) != termID || s.ClassNames(i) == kDeletedRecord) continue;
+            list.names.push_back(s.ClassNames(i));
+            list.ids.push_back(s.ClassIDs(i));
+        }
+    }
+    return list;
+}
+
+void handClassList(FrmAssignment& window, const CurrentClassList& list, const RecordStore& s) {
+    window.tempClassNameArray = list.names;
+    window.tempAssignmentClassLinkArray = list.ids;
+    window.tempTermStartDate = list.termStart;
+    window.tempTermEndDate = list.termEnd;
+    window.CurrentTermName = s.CurrentTermName;
+    window.DocumentDirectory = s.DocumentDirectory;
+}
+
+// The row of the note columns linked to assignment row `row`, 0 for none.
+int noteRowOf(const RecordStore& s, int row) {
+    const Int16 id = int16OrZero(s.AssignmentIDs(row));
+    for (int i = 1; i <= s.NoteLinkIDs.count(); ++i)
+        if (int16OrZero(s.NoteLinkIDs(i)) == id) return i;
+    return 0;
+}
+
+// The columns the editor's fields replace, ClassLink to Reminder.
+std::array<TextColumn*, 10> editedColumns(RecordStore& s) {
+    return {&s.AssignmentClassLinks,   &s.AssignmentDates,        &s.AssignmentTypes,
+            &s.AssignmentDifficulties, &s.AssignmentEstTimes,     &s.AssignmentDescriptions,
+            &s.AssignmentDones,        &s.AssignmentGrades,       &s.AssignmentWeights,
+            &s.AssignmentReminders};
+}
+
+// The window's fields in the order of editedColumns. Without a class chosen (only a
+// delete leaves the window so) the assignment keeps `classLink`.
+std::array<std::string, 10> editedValues(FrmAssignment& w, const std::string& classLink) {
+    const int line = w.ComboClassNameList->listIndex;
+    const bool chosen = line >= 0 && line < int(w.tempAssignmentClassLinkArray.size());
+    return {chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink,
+            dateText(w.DueDate),
+            w.ComboTypeList->text,
+            w.ComboDifficulty->text,
+            w.ComboEstTime->text,
+            storedText(w.TextBoxDescription->text, kDescriptionWidth),
+            w.CheckBoxDone->checked ? "True" : "False",
+            w.ComboGrade->text,
+            w.ComboWeight->text,
+            w.ComboRemindMe->text};
+}
+
+void fillAssignmentRecord(RecordStore& s, int row) {
+    s.AssignmentRecord = {s.AssignmentRecordNos(row), s.AssignmentIDs(row),        s.AssignmentClassLinks(row),
+                          dateFromText(s.AssignmentDates(row)), s.AssignmentTypes(row), s.AssignmentDifficulties(row),
+                          s.AssignmentEstTimes(row),  s.AssignmentDescriptions(row), s.AssignmentDones(row),
+                          s.AssignmentGrades(row),    s.AssignmentWeights(row),      s.AssignmentReminders(row)};
+}
+
+std::array<TextColumn*, 4> sessionColumns(RecordStore& s) {
+    return {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths, &s.StudySessionDates};
+}
+std::array<TextColumn*, 4> editSessionColumns(RecordStore& s) {
+    return {&s.EditStudySessionRecordNos, &s.EditStudySessionLinkIDs, &s.EditStudySessionLengths,
+            &s.EditStudySessionDates};
+}
+std::array<TextColumn*, 4> windowSessionLists(FrmAssignment& w) {
+    return {&w.tempStudySessionRecordNoArray, &w.tempStudySessionLinkIDArray, &w.tempStudySessionLengthArray,
+            &w.tempStudySessionDateArray};
+}
+
+// The sessions of assignment row `row`, the newest (the last in the columns) first, into
+// the window and the edit columns.
+void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
+    for (TextColumn* column : editSessionColumns(s)) column->clear();
+    for (TextColumn* list : windowSessionLists(w)) list->clear();
+    const Int16 id = int16OrZero(s.AssignmentIDs(row));
+    for (int i = s.StudySessionRecordNos.count(); i >= 1; --i) {
+        if (int16OrZero(s.StudySessionLinkIDs(i)) != id) continue;
+        const auto columns = sessionColumns(s);
+        const auto edits = editSessionColumns(s);
+        const auto lists = windowSessionLists(w);
+        for (std::size_t f = 0; f < 4; ++f) {
+            edits[f]->append((*columns[f])(i));
+            lists[f]->append((*columns[f])(i));
+        }
+    }
+}
+
+// Appends the window's sessions left after the existing ones were taken out, row 1 first,
+// as new records linked to `assignmentID`.
+void SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, const std::string& assignmentID) {
+    for (TextColumn* column : editSessionColumns(s)) column->clear();
+    for (int i = 1; i <= w.tempStudySessionRecordNoArray.count(); ++i) {
+        const std::array<std::string, 4> values{std::to_string(s.NextStudySessionRecord), assignmentID,
+                                                w.tempStudySessionLengthArray(i), w.tempStudySessionDateArray(i)};
+        const auto columns = sessionColumns(s);
+        const auto edits = editSessionColumns(s);
+        for (std::size_t f = 0; f < 4; ++f) {
+            columns[f]->append(values[f]);
+            edits[f]->append(values[f]);
+        }
+        static_cast<void>(files.SaveStudySession(0, i));
+    }
+}
+
+// After an edit: the sessions the user deleted are written as deleted and leave the
+// columns; then the added ones are appended.
+void UpdateStudySessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, int row) {
+    const auto kept = [&w](const std::string& recordNo) {
+        for (const std::string& listed : w.tempStudySessionRecordNoArray)
+            if (listed == recordNo) return true;
+        return false;
+    };
+    for (int r = s.EditStudySessionRecordNos.count(); r >= 1; --r) {
+        const std::string recordNo = s.EditStudySessionRecordNos(r);
+        if (kept(recordNo)) continue;
+        s.EditStudySessionLinkIDs(r) = "-1";
+        s.EditStudySessionLengths(r).clear();
+        static_cast<void>(files.SaveStudySession(int16OrZero(recordNo), r));
+        for (int i = s.StudySessionRecordNos.count(); i >= 1; --i) {
+            if (s.StudySessionRecordNos(i) != recordNo) continue;
+            for (TextColumn* column : sessionColumns(s)) column->removeAt(i);
+            break;
+        }
+        for (TextColumn* column : editSessionColumns(s)) column->removeAt(r);
+    }
+    for (int i = w.tempStudySessionRecordNoArray.count(); i >= 1; --i)
+        if (int16OrZero(w.tempStudySessionRecordNoArray(i)) > 0)
+            for (TextColumn* list : windowSessionLists(w)) list->removeAt(i);
+    SaveAddedSessions(s, files, w, s.AssignmentIDs(row));
+}
+
+}  // namespace
+
+void RecordActions::NewAssignment() {
+    RecordStore& s = store_;
+    const auto ask = [this](const char* question) {
+        return platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) ==
+               MessageAnswer::Yes;
+    };
+    if (s.CurrentTermName.empty()) {
+        if (ask("There is no Term selected. Do you want to set the active Term?")) EditClassSchedule();
+        return;
+    }
+    FrmAssignment& window = windows_.assignment();
+    window.FormSmall = kTrue;
+    window.EditMode = "New";
+    const CurrentClassList classes = BuildCurrentClassList(s);
+    if (classes.names.empty()) {
+        if (ask("This Term has no classes. Do you want to edit the Class Schedule?")) EditClassSchedule();
+        return;
+    }
+    handClassList(window, classes, s);
+    platform_.windowing.showModal(window, &host_.ownerWindow());
+    if (window.CancelledFlag) return;
+
+    const std::string id = std::to_string(s.NextAssignmentRecord);
+    s.AssignmentRecordNos.append(id);
+    s.AssignmentIDs.append(id);
+    const auto values = editedValues(window, "");
+    const auto columns = editedColumns(s);
+    for (std::size_t f = 0; f < columns.size(); ++f) columns[f]->append(values[f]);
+    const int row = s.AssignmentIDs.count();
+
+    const std::string notes = storedText(window.TextBoxNotes->text, kNoteWidth);
+    if (!notes.empty()) {
+        s.NoteRecordNos.append(std::to_string(s.NextNoteRecord));
+        s.NoteLinkIDs.append(id);
+    }
+    fillAssignmentRecord(s, row);
+    s.NoteRecord = {std::to_string(s.NextNoteRecord), id, notes};
+    if (!notes.empty()) static_cast<void>(files_.SaveNote(0));
+    if (!window.tempStudySessionRecordNoArray.empty()) SaveAddedSessions(s, files_, window, id);
+    static_cast<void>(files_.SaveAssignment(0));
+    host_.refresh("NewRecord");
+}
+
+void RecordActions::EditAssignment(int row) {
+    RecordStore& s = store_;
+    FrmAssignment& window = windows_.assignment();
+    window.FormSmall = kFalse;
+    window.EditMode = "Edit";
+    const CurrentClassList classes = BuildCurrentClassList(s);
+    handClassList(window, classes, s);
+    window.tempAssignmentClassName.clear();
+    const Int16 classID = int16OrZero(s.AssignmentClassLinks(row));
+    for (std::size_t i = 0; i < classes.ids.size(); ++i)
+        if (int16OrZero(classes.ids[i]) == classID) window.tempAssignmentClassName = classes.names[i];
+
+    window.tempAssignmentDate = s.AssignmentDates(row);
+    window.tempAssignmentType = s.AssignmentTypes(row);
+    window.tempAssignmentDifficulty = s.AssignmentDifficulties(row);
+    window.tempAssignmentEstTime = s.AssignmentEstTimes(row);
+    window.tempAssignmentDescription = s.AssignmentDescriptions(row);
+    window.tempAssignmentDone = s.AssignmentDones(row);
+    window.tempAssignmentGrade = s.AssignmentGrades(row);
+    window.tempAssignmentWeight = s.AssignmentWeights(row);
+    window.tempAssignmentReminder = s.AssignmentReminders(row);
+    // The note's text stays on disk until an edit opens it.
+    const int noteRow = noteRowOf(s, row);
+    window.tempAssignmentNotes.clear();
+    if (noteRow > 0) {
+        s.NoteRowIndex = toInt16(noteRow);
+        if (files_.ReadNote(int16OrZero(s.NoteRecordNos(noteRow)))) window.tempAssignmentNotes = s.NoteRecord.Text;
+    }
+    HandOverStudySessions(s, window, row);
+
+    platform_.windowing.showModal(window, &host_.ownerWindow());
+    if (window.CancelledFlag) return;
+
+    const auto values = editedValues(window, s.AssignmentClassLinks(row));
+    const auto columns = editedColumns(s);
+    for (std::size_t f = 0; f < columns.size(); ++f) (*columns[f])(row) = values[f];
+
+    // The note: made, rewritten (changed or not), freed, or none at all.
+    const std::string notes = storedText(window.TextBoxNotes->text, kNoteWidth);
+    const int note = noteRowOf(s, row);
+    if (!notes.empty() && note == 0) {
+        s.NoteRecordNos.append(std::to_string(s.NextNoteRecord));
+        s.NoteLinkIDs.append(s.AssignmentIDs(row));
+        s.NoteRecord = {std::to_string(s.NextNoteRecord), s.AssignmentIDs(row), notes};
+        static_cast<void>(files_.SaveNote(0));
+    } else if (note > 0) {
+        s.NoteRowIndex = toInt16(note);
+        const Int16 noteNumber = int16OrZero(s.NoteRecordNos(note));
+        s.NoteRecord = {s.NoteRecordNos(note), notes.empty() ? "0" : s.AssignmentIDs(row), notes};
+        if (notes.empty()) {
+            s.NoteRecordNos.removeAt(note);
+            s.NoteLinkIDs.removeAt(note);
+        }
+        static_cast<void>(files_.SaveNote(noteNumber));
+    }
+
+    UpdateStudySessions(s, files_, window, row);
+    fillAssignmentRecord(s, row);
+    static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
+    host_.refresh("NewRecord");
+}
+
+}  // namespace qh

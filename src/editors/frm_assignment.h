@@ -1,0 +1,124 @@
+#pragma once
+// frmAssignment: one assignment with its note and its study sessions. It works on copies:
+// the record actions fill the public fields, show the window modal and, after it hides,
+// read CancelledFlag, DeleteFlag, the controls and the session lists into the columns and
+// files. The window itself never touches a record file.
+//
+// The due date and the study date are kept as day numbers (DueDate, SessionDate), which
+// the callers and the sessions use, and shown in the long date form; tempAssignmentDate
+// holds the due date in the short date form once the window has shown it.
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "calendar/date_picker.h"
+#include "common/column.h"
+#include "common/int16.h"
+#include "platform/control_ref.h"
+#include "platform/platform.h"
+
+namespace qh {
+
+class EditorHost;
+
+// The two heights of the window (outer, twips): study sessions hidden and shown.
+inline constexpr int kAssignmentWidth = 6360, kAssignmentSmallHeight = 4650, kAssignmentLargeHeight = 7425;
+
+class FrmAssignment : public Form, public DatePickerOwner, public HasDatePicker {
+public:
+    FrmAssignment(Platform& platform, EditorHost& host);
+    ~FrmAssignment() override;
+
+    // In-out fields, set by the caller before a showing.
+    std::vector<std::string> tempClassNameArray, tempAssignmentClassLinkArray;
+    Date tempTermStartDate = 0, tempTermEndDate = 0;
+    // The sessions, row 1 the newest; an added one has record number and link "0".
+    TextColumn tempStudySessionRecordNoArray, tempStudySessionLinkIDArray, tempStudySessionLengthArray,
+        tempStudySessionDateArray;
+    std::string tempAssignmentClassName, tempAssignmentDate, tempAssignmentType, tempAssignmentDifficulty,
+        tempAssignmentEstTime, tempAssignmentDescription, tempAssignmentDone, tempAssignmentGrade,
+        tempAssignmentWeight, tempAssignmentReminder, tempAssignmentNotes;
+    std::string EditMode = "New";
+    // The active term's name, for the caption of LabelClass; where the Share dialogs start.
+    std::string CurrentTermName, DocumentDirectory;
+    // A toggle request, applied at the showing and at a click on LabelViewSessions: true
+    // makes the window small and clears itself, false makes it large and sets itself.
+    Int16 FormSmall = kTrue;
+    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, CloseOK = kFalse, UpdateEstimateFlag = kFalse,
+          DeleteFlag = kFalse;
+    Date DueDate = 0, SessionDate = 0;
+
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload(UnloadMode mode) override;
+    void Form_MouseDown(const std::string& controlKey) override;
+
+    // The study sessions (frm_assignment_sessions.cpp).
+    void AddStudySession();
+    void RecalculateSessions();
+
+    void ConfirmCancel();
+
+    Date pickerFieldDate(bool firstField) override;
+    void pickerWroteDate(bool firstField, Date date) override;
+    DatePicker& datePicker() override { return *picker_; }
+
+    ControlRef LabelClass{this, "LabelClass"};
+    ControlRef ComboClassNameList{this, "ComboClassNameList"};
+    ControlRef TextboxDateDue{this, "TextboxDateDue"};
+    ControlRef ComboTypeList{this, "ComboTypeList"};
+    ControlRef ComboDifficulty{this, "ComboDifficulty"};
+    ControlRef ComboEstTime{this, "ComboEstTime"};
+    ControlRef ComboRemindMe{this, "ComboRemindMe"};
+    ControlRef TextBoxDescription{this, "TextBoxDescription"};
+    ControlRef TextBoxNotes{this, "TextBoxNotes"};
+    ControlRef ComboGrade{this, "ComboGrade"};
+    ControlRef ComboWeight{this, "ComboWeight"};
+    ControlRef CheckBoxDone{this, "CheckBoxDone"};
+    ControlRef LabelDoneBG{this, "LabelDoneBG"};
+    ControlRef ButtonOK{this, "ButtonOK"};
+    ControlRef ButtonCancel{this, "ButtonCancel"};
+    ControlRef ButtonDelete{this, "ButtonDelete"};
+    ControlRef ButtonShare{this, "ButtonShare"};
+    ControlRef LabelViewSessions{this, "LabelViewSessions"};
+    ControlRef LabelStudySessions{this, "LabelStudySessions"};
+    ControlRef ComboSessionLength{this, "ComboSessionLength"};
+    ControlRef TextboxSessionDate{this, "TextboxSessionDate"};
+    ControlRef ButtonSessionAdd{this, "ButtonSessionAdd"};
+    ControlRef ButtonSessionDelete{this, "ButtonSessionDelete"};
+    ControlRef ListBoxStudySessions{this, "ListBoxStudySessions"};
+    ControlRef TextBoxTotalTime{this, "TextBoxTotalTime"};
+    ControlRef TextBoxTimeLeft{this, "TextBoxTimeLeft"};
+
+private:
+    void buildControls();
+    void buildSessionControls();
+    void fillLists();
+    void bindHandlers();
+    void bindSessionHandlers();
+    void applyFormSmall();
+    void setSmall(bool small);
+    void showNew();
+    void showEdit();
+    void showDone(bool done);
+    void setDueDate(Date date);
+    void setSessionDate(Date date);
+    void ButtonOK_Click();
+    void ButtonDelete_Click();
+    void ButtonShare_Click();
+    void shareIn();
+    void ButtonSessionAdd_Click();
+    void ButtonSessionDelete_Click();
+    void CheckBoxDone_Click();
+    // Selects the entry `text` of a combo as a click would, or, where the list lacks it,
+    // sets it as the combo's text with nothing selected.
+    void chooseOrSetText(const ControlRef& combo, const std::string& text);
+    bool ask(const std::string& text);
+    void tell(const std::string& text);
+
+    Platform& platform_;
+    EditorHost& host_;
+    std::unique_ptr<DatePicker> picker_;
+};
+
+}  // namespace qh
