@@ -67,21 +67,27 @@ std::array<TextColumn*, 10> editedColumns(RecordStore& s) {
             &s.AssignmentReminders};
 }
 
-// The window's fields in the order of editedColumns. Without a class chosen (only a
-// delete leaves the window so) the assignment keeps `classLink`.
+// The window's fields in the order of editedColumns, each as its field of the file holds
+// it. Without a class chosen (only a delete leaves the window so) the assignment keeps
+// `classLink`.
 std::array<std::string, 10> editedValues(FrmAssignment& w, const std::string& classLink) {
     const int line = w.ComboClassNameList->listIndex;
     const bool chosen = line >= 0 && line < int(w.tempAssignmentClassLinkArray.size());
-    return {chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink,
-            dateText(w.DueDate),
-            w.ComboTypeList->text,
-            w.ComboDifficulty->text,
-            w.ComboEstTime->text,
-            storedText(w.TextBoxDescription->text, kDescriptionWidth),
-            w.CheckBoxDone->checked ? "True" : "False",
-            w.ComboGrade->text,
-            w.ComboWeight->text,
-            w.ComboRemindMe->text};
+    const std::array<std::pair<std::string, int>, 10> fields{{
+        {chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink, 5},
+        {dateText(w.DueDate), 15},
+        {w.ComboTypeList->text, 10},
+        {w.ComboDifficulty->text, 10},
+        {w.ComboEstTime->text, 7},
+        {w.TextBoxDescription->text, kDescriptionWidth},
+        {w.CheckBoxDone->checked ? "True" : "False", 5},
+        {w.ComboGrade->text, 5},
+        {w.ComboWeight->text, 3},
+        {w.ComboRemindMe->text, 20},
+    }};
+    std::array<std::string, 10> values;
+    for (std::size_t f = 0; f < fields.size(); ++f) values[f] = storedText(fields[f].first, fields[f].second);
+    return values;
 }
 
 void fillAssignmentRecord(RecordStore& s, int row) {

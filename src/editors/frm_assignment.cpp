@@ -208,7 +208,9 @@ void FrmAssignment::Form_Activate() {
         showEdit();
     setSessionDate(platform_.clock.today());
     ButtonShare->caption = "Share";
-    ChangeFlag = CancelledFlag = CloseOK = kFalse;
+    ChangeFlag = CloseOK = kFalse;
+    // Only OK and Delete let a showing count: a window hidden any other way was cancelled.
+    CancelledFlag = kTrue;
     picker_->reset();
 }
 

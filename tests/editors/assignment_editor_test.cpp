@@ -1,0 +1,462 @@
+// The assignment editor as a user drives it from the main window: the bytes each kind of
+// save leaves in the three files, the note and session updates, the OK checks in their
+// order, cancel and the close box, and the rows of the lists that open it.
+#include <gtest/gtest.h>
+
+#include "editors/editor_windows.h"
+#include "editors/frm_assignment.h"
+#include "record_store/record_files.h"
+#include "support/main_window_fixture.h"
+
+namespace qh {
+namespace {
+
+std::string pad(const std::string& value, std::size_t width) {
+    std::string text = value.substr(0, width);
+    text.resize(width, ' ');
+    return text;
+}
+std::string nul(std::size_t n) { return std::string(n, '\0'); }
+
+struct Assignment {
+    int recordNo;
+    int classLink;
+    std::string date, type, difficulty, estTime, description, done, grade, weight, reminder;
+};
+std::string record(const Assignment& a) {
+    const std::string n = std::to_string(a.recordNo);
+    return pad(n, 5) + pad(n, 5) + pad(std::to_string(a.classLink), 5) + pad(a.date, 15) + pad(a.type, 10) +
+           pad(a.difficulty, 10) + pad(a.estTime, 7) + pad(a.description, 50) + pad(a.done, 5) + pad(a.grade, 5) +
+           pad(a.weight, 3) + pad(a.reminder, 20) + nul(20);
+}
+std::string note(int recordNo, int link, const std::string& text) {
+    return pad(std::to_string(recordNo), 5) + pad(std::to_string(link), 5) + nul(40) + pad(text, 1450);
+}
+std::string session(int recordNo, const std::string& link, const std::string& length, const std::string& date) {
+    return pad(std::to_string(recordNo), 5) + pad(link, 5) + pad(length, 10) + pad(date, 15) + nul(20);
+}
+
+const Assignment kTest{1, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 5 test", "False", "B+", "20", "3 Days"};
+const Assignment kReading{2, 2, "2026/11/25", "Reading", "Easy", "00 : 30", "Read pages", "False", "F", "abc", "1 Day"};
+const std::string kNote = note(1, 1, "Bring a calculator");
+const std::string kSessions = session(1, "1", "00 : 30", "2026/11/18") + session(2, "1", "01 : 00", "2026/11/19") +
+                              session(3, "1", "00 : 15", "2026/11/20");
+
+using Use = std::function<void(FrmAssignment&)>;
+
+// A term with Algebra and Biology; the Algebra test has a note and three sessions, the
+// Biology reading neither.
+struct Editor : LoadedMainWindow {
+    explicit Editor(bool records = true) {
+        putDataFile("Terms.txt", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/18"));
+        putDataFile("Classes.txt", classRecord(1, 1, "Algebra") + classRecord(2, 1, "Biology"));
+        if (records) {
+            putDataFile("Assignments.txt", record(kTest) + record(kReading));
+            putDataFile("Notes.txt", kNote);
+            putDataFile("StudySessions.txt", kSessions);
+        }
+        putDataFile("Preferences.ini", "[Options]\r\nActiveTerm=Fall 2026\r\n");
+        fake.clock.set(2026, 11, 21);
+        load();
+        loadLogLength = fake.files.log.size();
+    }
+    std::size_t loadLogLength = 0;
+    void use(const Use& user) {
+        fake.windowing.modalUsers["frmAssignment"].push_back(
+            [user](Form& form) { user(static_cast<FrmAssignment&>(form)); });
+    }
+    std::string bytes(const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); }
+    std::vector<std::string> messages() {
+        std::vector<std::string> texts;
+        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
+        return texts;
+    }
+    // File writes since the load.
+    int writes() {
+        int count = 0;
+        for (std::size_t i = loadLogLength; i < fake.files.log.size(); ++i) count += fake.files.log[i].starts_with("write");
+        return count;
+    }
+};
+
+void addSession(FrmAssignment& w, const std::string& length) {
+    w.select("ComboSessionLength", length);
+    w.click("ButtonSessionAdd");
+}
+
+// Every kind of save leaves exactly these bytes in the three files.
+TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
+    const Assignment reread{2, 2, "2026/11/25", "Reading", "Easy", "00 : 30", "Read pages", "False", " ", "5", "1 Day"};
+    const struct {
+        const char* name;
+        bool records;
+        int editRow;  // 0: a new assignment
+        std::vector<MessageAnswer> answers;
+        Use user;
+        std::string assignments, notes, sessions;
+    } cases[] = {
+        {"NewWithNoteAndSessions", false, 0, {},
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", "Biology");
+             w.select("ComboTypeList", "Quiz");
+             w.select("ComboEstTime", "02 : 00");
+             w.type("TextBoxDescription", "Cells");
+             w.type("TextBoxNotes", "Line one\r\nLine two");
+             addSession(w, "01 : 00");
+             addSession(w, "00 : 45");
+             w.click("ButtonOK");
+         },
+         record({1, 2, "2026/11/21", "Quiz", "Average", "02 : 00", "Cells", "False", " ", "5", "1 Day"}),
+         note(1, 1, "Line one\r\nLine two"),
+         // The newest session is written first.
+         session(1, "1", "00 : 45", "2026/11/21") + session(2, "1", "01 : 00", "2026/11/21")},
+        {"NewBare", false, 0, {},
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", "Algebra");
+             w.type("TextBoxDescription", std::string(60, 'x'));
+             w.click("ButtonOK");
+         },
+         record({1, 1, "2026/11/21", "Assignment", "Average", "00 : 30", std::string(50, 'x'), "False", " ", "5",
+                 "1 Day"}),
+         "", ""},
+        // A changed note is rewritten in place; the grade and weight the list lacks save
+        // as the window showed them.
+        {"EditChangesTheNote", true, 1, {},
+         [](FrmAssignment& w) {
+             w.type("TextBoxDescription", "Chapter 6 test");
+             w.type("TextBoxNotes", "Bring two pencils");
+             w.click("ButtonOK");
+         },
+         record({1, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 6 test", "False", "B+", "20", "3 Days"}) +
+             record(kReading),
+         note(1, 1, "Bring two pencils"), kSessions},
+        {"EditEmptiesTheNote", true, 1, {},
+         [](FrmAssignment& w) {
+             w.type("TextBoxNotes", "");
+             w.click("ButtonOK");
+         },
+         record(kTest) + record(kReading), note(1, 0, ""), kSessions},
+        {"EditAddsANote", true, 2, {},
+         [](FrmAssignment& w) {
+             w.type("TextBoxNotes", "Pages 10 to 20");
+             w.click("ButtonOK");
+         },
+         record(kTest) + record(reread), kNote + note(2, 2, "Pages 10 to 20"), kSessions},
+        {"EditWithoutNoteWritesNone", true, 2, {}, [](FrmAssignment& w) { w.click("ButtonOK"); },
+         record(kTest) + record(reread), kNote, kSessions},
+        // The middle session deleted, one added: the deleted one is marked in place, the
+        // added one appended.
+        {"EditDeletesAndAddsSessions", true, 1, {},
+         [](FrmAssignment& w) {
+             w.select("ListBoxStudySessions", 1);
+             w.click("ButtonSessionDelete");
+             addSession(w, "00 : 20");
+             w.click("ButtonOK");
+         },
+         record(kTest) + record(kReading), kNote,
+         session(1, "1", "00 : 30", "2026/11/18") + session(2, "-1", "", "2026/11/19") +
+             session(3, "1", "00 : 15", "2026/11/20") + session(4, "1", "00 : 20", "2026/11/21")},
+        {"DeleteWithNoteAndSessions", true, 1, {MessageAnswer::Yes, MessageAnswer::Yes},
+         [](FrmAssignment& w) { w.click("ButtonDelete"); },
+         record({1, 1, "2026/11/24", "Test", "Hard", "02 : 00", "DELETED RECORD", "False", "B+", "20", "3 Days"}) +
+             record(kReading),
+         note(1, 0, ""),
+         session(1, "-1", "", "2026/11/18") + session(2, "-1", "", "2026/11/19") + session(3, "-1", "", "2026/11/20")},
+        {"DeleteWithoutSessionsAsksOnce", true, 2, {MessageAnswer::Yes},
+         [](FrmAssignment& w) { w.click("ButtonDelete"); },
+         record(kTest) +
+             record({2, 2, "2026/11/25", "Reading", "Easy", "00 : 30", "DELETED RECORD", "False", " ", "5", "1 Day"}),
+         kNote, kSessions},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Editor editor(c.records);
+        editor.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
+        editor.use(c.user);
+        if (c.editRow == 0)
+            editor.window->click("ButtonNewAssignment");
+        else
+            editor.window->EditAssignment(c.editRow);
+        EXPECT_EQ(editor.bytes("Assignments.txt"), c.assignments);
+        EXPECT_EQ(editor.bytes("Notes.txt"), c.notes);
+        EXPECT_EQ(editor.bytes("StudySessions.txt"), c.sessions);
+        EXPECT_EQ(editor.window->state.RefreshReason, "None");
+        // The columns hold what a fresh load of the files gives.
+        RecordStore reloaded = editor.store;
+        reloaded.clearTermBoundColumns();
+        RecordFiles(reloaded, editor.fake.platform).LoadAssignments();
+        // A deleted assignment keeps its row until the next load.
+        std::vector<std::string> live, liveGrades;
+        for (int i = 1; i <= editor.store.AssignmentDescriptions.count(); ++i)
+            if (editor.store.AssignmentDescriptions(i) != "DELETED RECORD") {
+                live.push_back(editor.store.AssignmentDescriptions(i));
+                liveGrades.push_back(editor.store.AssignmentGrades(i));
+            }
+        EXPECT_EQ(reloaded.AssignmentDescriptions.values(), live);
+        EXPECT_EQ(reloaded.AssignmentGrades.values(), liveGrades);
+        EXPECT_EQ(reloaded.NoteLinkIDs, editor.store.NoteLinkIDs);
+        EXPECT_EQ(reloaded.StudySessionRecordNos, editor.store.StudySessionRecordNos);
+        EXPECT_EQ(reloaded.StudySessionLengths, editor.store.StudySessionLengths);
+        EXPECT_EQ(reloaded.NextStudySessionRecord, editor.store.NextStudySessionRecord);
+    }
+}
+
+// What an edit shows of the stored record: the class by its ID, the corrected grade and
+// weight, the note, the sessions newest first with their sums.
+TEST(AssignmentEditor, AnEditShowsTheRecordWithItsCorrections) {
+    Editor editor;
+    editor.store.AssignmentClassLinks(2) = "9";  // a class the list lacks
+    std::map<std::string, std::string> shown;
+    const auto look = [&shown](FrmAssignment& w) {
+        for (const char* key : {"ComboClassNameList", "ComboGrade", "ComboWeight", "ComboRemindMe", "TextBoxNotes",
+                                "TextboxDateDue", "TextBoxTotalTime", "TextBoxTimeLeft"})
+            shown[key] = w.c(key).text;
+        shown["LabelStudySessions"] = w.LabelStudySessions->caption;
+        shown["LabelClass"] = w.LabelClass->caption;
+        shown["caption"] = w.caption + " " + std::to_string(w.height);
+        shown["first session"] = w.ListBoxStudySessions->items.empty() ? "" : w.ListBoxStudySessions->items[0];
+        w.click("ButtonCancel");
+    };
+    editor.use(look);
+    editor.window->EditAssignment(1);
+    EXPECT_EQ(shown["ComboClassNameList"], "Algebra");
+    EXPECT_EQ(shown["ComboGrade"], "B+");
+    EXPECT_EQ(shown["ComboWeight"], "20");
+    EXPECT_EQ(shown["ComboRemindMe"], "3 Days");
+    EXPECT_EQ(shown["TextBoxNotes"], "Bring a calculator");
+    EXPECT_EQ(shown["TextboxDateDue"], "Tuesday, November 24, 2026");
+    EXPECT_EQ(shown["TextBoxTotalTime"], "01 : 45");
+    EXPECT_EQ(shown["TextBoxTimeLeft"], "00 : 15");
+    EXPECT_EQ(shown["LabelStudySessions"], "Study Sessions: 03");
+    EXPECT_EQ(shown["LabelClass"], " Classes Fall 2026");
+    EXPECT_EQ(shown["caption"], "Quillhollow - Edit Assignment 7425");
+    EXPECT_EQ(shown["first session"], "00 : 15    Friday, Nov 20, 2026");
+
+    editor.use(look);
+    editor.window->EditAssignment(2);
+    EXPECT_EQ(shown["ComboClassNameList"], "");
+    EXPECT_EQ(shown["ComboGrade"], " ");
+    EXPECT_EQ(shown["ComboWeight"], "5");
+    EXPECT_EQ(shown["TextBoxNotes"], "");
+    EXPECT_EQ(shown["TextBoxTimeLeft"], "00 : 30");
+    EXPECT_EQ(editor.writes(), 0);  // cancelled without a change: nothing asked, nothing written
+    EXPECT_TRUE(editor.messages().empty());
+}
+
+// The OK checks in their order, each leaving the window open with the focus where it
+// says; a window that passes them closes.
+TEST(AssignmentEditor, OkChecksRefuseInTheirOrder) {
+    const struct {
+        const char* name;
+        Use fill;
+        std::string message, focus;
+    } cases[] = {
+        {"NoClassUsesTheTypesWord", [](FrmAssignment& w) { w.select("ComboTypeList", "Quiz"); },
+         "Select a Class for this Quiz.", ""},
+        {"EstimateUsedUp",
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", 0);
+             addSession(w, "00 : 30");
+         },
+         "You have studied longer than the Estimated Time.\r\nIncrease the Estimated Time so the Time Left is more "
+         "than zero.",
+         "ComboEstTime"},
+        {"NoDescriptionOnceDone",
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", 0);
+             addSession(w, "00 : 30");
+             w.click("CheckBoxDone");
+         },
+         "Add a Description to this Assignment.", "TextBoxDescription"},
+        {"AllPass",
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", 1);
+             w.type("TextBoxDescription", "Lab report");
+         },
+         "", ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Editor editor;
+        bool stayedOpen = false;
+        std::string focus;
+        editor.use([&](FrmAssignment& w) {
+            c.fill(w);
+            w.SetFocus("ButtonOK");
+            w.click("ButtonOK");
+            stayedOpen = w.visible;
+            focus = w.focusedControl;
+            if (w.visible) w.hide();
+        });
+        editor.window->click("ButtonNewAssignment");
+        EXPECT_EQ(stayedOpen, !c.message.empty());
+        if (c.message.empty()) {
+            EXPECT_TRUE(editor.messages().empty());
+            EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 3);
+        } else {
+            ASSERT_EQ(editor.messages(), std::vector<std::string>{c.message});
+            EXPECT_EQ(focus, c.focus.empty() ? "ButtonOK" : c.focus);
+            EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);  // a hidden window saves nothing
+        }
+    }
+}
+
+// Cancel and the close box: no question without a change, the type's question with one,
+// and No keeps the window open; a cancelled dialog writes nothing and refreshes nothing.
+TEST(AssignmentEditor, CancelAsksOnlyAfterAChange) {
+    const struct {
+        const char* name;
+        bool edit;
+        std::vector<MessageAnswer> answers;
+        Use user;
+        std::vector<std::string> messages;
+        bool stayedOpen;
+    } cases[] = {
+        {"NoChange", true, {}, [](FrmAssignment& w) { w.click("ButtonCancel"); }, {}, false},
+        {"CloseBoxNoChange", true, {},
+         [](FrmAssignment& w) { EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox)); }, {}, false},
+        {"NewChangedYes", false, {MessageAnswer::Yes},
+         [](FrmAssignment& w) {
+             w.select("ComboTypeList", "Project");
+             w.click("ButtonCancel");
+         },
+         {"Cancel this Project?"}, false},
+        {"EditChangedNo", true, {MessageAnswer::No},
+         [](FrmAssignment& w) {
+             w.type("TextBoxDescription", "Other");
+             EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox));
+         },
+         {"Cancel all changes to this Test?"}, true},
+        {"DeleteAnsweredNo", true, {MessageAnswer::Yes, MessageAnswer::No},
+         [](FrmAssignment& w) { w.click("ButtonDelete"); },
+         {"Are you sure you want to Delete this Test?",
+          "Are you really sure? Your Study Sessions for this Test will also be deleted."},
+         true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Editor editor;
+        editor.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
+        editor.window->state.RefreshReason = "untouched";
+        bool stayedOpen = false;
+        editor.use([&](FrmAssignment& w) {
+            c.user(w);
+            stayedOpen = w.visible;
+        });
+        if (c.edit)
+            editor.window->EditAssignment(1);
+        else
+            editor.window->click("ButtonNewAssignment");
+        EXPECT_EQ(editor.messages(), c.messages);
+        EXPECT_EQ(stayedOpen, c.stayedOpen);
+        EXPECT_EQ(editor.writes(), 0);
+        EXPECT_EQ(editor.window->state.RefreshReason, "untouched");
+        EXPECT_TRUE(editor.store.AssignmentDescriptions.count() == 2);
+    }
+    // A close at the program's end is let through.
+    Editor editor;
+    EXPECT_TRUE(editor.window->editors->windows().front()->requestClose(UnloadMode::ProgramEnd));
+}
+
+// The session buttons and the Done box, on a new assignment.
+TEST(AssignmentEditor, SessionRulesRefuseAndAddedSessionsThatGoLeaveNoTrace) {
+    Editor editor(false);
+    std::vector<std::string> states;
+    editor.use([&](FrmAssignment& w) {
+        const auto state = [&] {
+            states.push_back(w.LabelStudySessions->caption + " " + w.TextBoxTotalTime->text + " " +
+                             w.TextBoxTimeLeft->text + (w.UpdateEstimateFlag ? " used" : ""));
+        };
+        w.click("CheckBoxDone");  // refused: no session yet
+        EXPECT_FALSE(w.CheckBoxDone->checked);
+        w.select("ComboEstTime", "01 : 00");
+        addSession(w, "00 : 45");
+        addSession(w, "00 : 20");
+        state();
+        w.select("ListBoxStudySessions", 0);
+        w.click("ButtonSessionDelete");
+        state();
+        EXPECT_FALSE(w.ButtonSessionDelete->enabled);
+        EXPECT_EQ(w.focusedControl, "ButtonSessionAdd");
+        w.click("CheckBoxDone");
+        addSession(w, "00 : 10");  // refused while Done
+        w.select("ListBoxStudySessions", 0);
+        w.click("ButtonSessionDelete");  // refused while Done
+        state();
+        w.click("CheckBoxDone");
+        w.select("ListBoxStudySessions", 0);
+        w.click("ButtonSessionDelete");
+        state();
+        // 99 at most, and a delete makes room again.
+        for (int i = 0; i < 100; ++i) addSession(w, "01 : 10");
+        state();
+        w.select("ListBoxStudySessions", 98);
+        w.click("ButtonSessionDelete");
+        addSession(w, "00 : 05");
+        state();
+        for (int i = 0; i < 99; ++i) {
+            w.select("ListBoxStudySessions", 0);
+            w.click("ButtonSessionDelete");
+        }
+        state();
+        w.click("ButtonCancel");
+    });
+    editor.window->click("ButtonNewAssignment");
+    EXPECT_EQ(states, (std::vector<std::string>{
+                          "Study Sessions: 02 01 : 05 00 : -5 used", "Study Sessions: 01 00 : 45 00 : 15",
+                          "Study Sessions: 01 00 : 45 00 : 15", "Study Sessions: 00 00 : 00 01 : 00",
+                          // 99 sessions of 70 minutes: 115 hours 30, shown held at 99; 114
+                          // hours 30 over the estimate, which the two-character cut shows so.
+                          "Study Sessions: 99 99 : 30 14 : 30 used", "Study Sessions: 99 99 : 25 13 : 25 used",
+                          "Study Sessions: 00 00 : 00 01 : 00"}));
+    const std::vector<std::string> expected{
+        "Add a Study Session before checking 'Done'.", "Are you sure you want to Delete this Study Session?",
+        "Uncheck 'Done' to Add or Delete Study Sessions.", "Uncheck 'Done' to Add or Delete Study Sessions.",
+        "Are you sure you want to Delete this Study Session?", "99 Study Sessions is the limit for one assignment."};
+    const std::vector<std::string> shown = editor.messages();
+    ASSERT_GE(shown.size(), expected.size());
+    EXPECT_EQ(std::vector<std::string>(shown.begin(), shown.begin() + long(expected.size())), expected);
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), "99 Study Sessions is the limit for one assignment."), 1);
+    EXPECT_EQ(editor.store.NextStudySessionRecord, 1);
+    EXPECT_EQ(editor.bytes("StudySessions.txt"), "");
+}
+
+// Rows of the lists open their records: on a scrolled list the row shown; a session row
+// its assignment; below the rows a new assignment in Homework and nothing in Study
+// Sessions.
+TEST(AssignmentEditor, ListRowsOpenTheRecordTheyShow) {
+    Editor editor(false);
+    std::string assignments;
+    for (int i = 1; i <= 20; ++i)
+        assignments += record({i, 1, "2026/12/01", "Assignment", "Easy", "01 : 00", "Item " + std::to_string(i),
+                               "False", " ", "5", "1 Day"});
+    editor.putDataFile("Assignments.txt", assignments);
+    editor.putDataFile("StudySessions.txt", session(1, "7", "00 : 30", "2026/11/20"));
+    editor.load();
+    editor.loadLogLength = editor.fake.files.log.size();
+    MainWindow& window = *editor.window;
+    std::vector<std::string> opened;
+    const auto expectOpen = [&] {
+        editor.use([&](FrmAssignment& w) {
+            opened.push_back(w.EditMode + " " + w.TextBoxDescription->text);
+            w.click("ButtonCancel");
+        });
+    };
+    window.scrollTo("VSGridScroll", 5);
+    ASSERT_EQ(window.state.TopRow, 5);
+    const std::string shownSecond =
+        editor.store.AssignmentDescriptions(int(window.state.ListAssignmentRows(window.state.TopRow - 1 + 2)));
+    expectOpen();
+    window.GridRowClicked(2);
+    expectOpen();
+    window.GridRowClicked(window.state.ListAssignmentRows.count() + 1);
+    window.click("MenuStudySessions");
+    expectOpen();
+    window.GridRowClicked(1);
+    window.GridRowClicked(2);  // below the one session: nothing opens
+    EXPECT_EQ(opened, (std::vector<std::string>{"Edit " + shownSecond, "New ", "Edit Item 7"}));
+    EXPECT_EQ(editor.writes(), 0);
+}
+
+}  // namespace
+}  // namespace qh
