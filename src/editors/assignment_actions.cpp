@@ -174,6 +174,8 @@ void UpdateStudySessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, i
 }  // namespace
 
 void RecordActions::NewAssignment() {
+    // The editor windows exist once the main window has loaded them.
+    if (!windows_.loaded()) return;
     RecordStore& s = store_;
     const auto ask = [this](const char* question) {
         return platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) ==
@@ -217,6 +219,7 @@ void RecordActions::NewAssignment() {
 }
 
 void RecordActions::EditAssignment(int row) {
+    if (!windows_.loaded()) return;
     RecordStore& s = store_;
     FrmAssignment& window = windows_.assignment();
     window.FormSmall = kFalse;
