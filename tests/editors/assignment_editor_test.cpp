@@ -113,11 +113,13 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
         {"NewBare", false, 0, {},
          [](FrmAssignment& w) {
              w.select("ComboClassNameList", "Algebra");
-             w.type("TextBoxDescription", std::string(60, 'x'));
+             // Cut at the field's width in code-page bytes; the euro sign is one byte there,
+             // the cup the code page lacks a question mark.
+             w.type("TextBoxDescription", std::string(47, 'x') + "\u00e9\u20ac\u2615 and more");
              w.click("ButtonOK");
          },
-         record({1, 1, "2026/11/21", "Assignment", "Average", "00 : 30", std::string(50, 'x'), "False", " ", "5",
-                 "1 Day"}),
+         record({1, 1, "2026/11/21", "Assignment", "Average", "00 : 30", std::string(47, 'x') + "\xE9\x80?", "False",
+                 " ", "5", "1 Day"}),
          "", ""},
         // A changed note is rewritten in place; the grade and weight the list lacks save
         // as the window showed them.

@@ -117,5 +117,70 @@ TEST(Probe, MakesATermWithClassesEndToEnd) {
     EXPECT_NE(again.str().find("Term: \"Winter 2026\" \"124 Days Left in Term\""), std::string::npos) << again.str();
 }
 
+// From an empty drive: a term with two classes, a day clicked, a new quiz with a note and
+// three study sessions marked Done with a grade. The files hold exactly its records; the
+// list, the calendar marks, the GPA and the session list follow. After a restart the row
+// opens with the same values, and a delete takes it away.
+TEST(Probe, MakesAnAssignmentWithStudySessionsEndToEnd) {
+    FakePlatform fake;
+    const char* script =
+        "clock 2026-11-21 09:00\n"
+        "click ButtonSelectTerm\nclick ButtonNew\n"
+        "click ButtonAddClass\nset TextBoxClassName Algebra\nclick ButtonOKClass\n"
+        "click ButtonAddClass\nset TextBoxClassName Biology\nclick ButtonOKClass\nclick ButtonOK\n"
+        "cell 30\nclick ButtonNewAssignment\n"
+        "choose ComboClassNameList Biology\nchoose ComboTypeList Quiz\nchoose ComboEstTime 02 : 30\n"
+        "set TextBoxDescription Cells and tissues\nset TextBoxNotes Chapter 3\\nBring the lab book\n"
+        "click LabelViewSessions\n"
+        "choose ComboSessionLength 00 : 45\npick TextboxSessionDate 2026-11-19\nclick ButtonSessionAdd\n"
+        "choose ComboSessionLength 01 : 00\npick TextboxSessionDate 2026-11-20\nclick ButtonSessionAdd\n"
+        "choose ComboSessionLength 00 : 20\npick TextboxSessionDate 2026-11-21\nclick ButtonSessionAdd\n"
+        "check CheckBoxDone on\nchoose ComboGrade A-\nclick ButtonOK\nprint\nmode sessions\nprint\nexit\n";
+    std::ostringstream out;
+    {
+        ProbeSession session(fake.drive, fake.host, out);
+        std::istringstream in(script);
+        ASSERT_TRUE(session.run(in)) << session.failedLine();
+    }
+    const std::string text = out.str();
+    for (const char* line :
+         {"TextBoxTotalAssignments: \"1\"", "ComboGPA: \"GPA\" of [GPA, Total 3.70 (A-)  , Algebra , Biology 3.70 (A-)  ]",
+          "Row 1: | 1 |  Biology {&HFFFFFF} | Quiz {&HFFFFFF} |  Cells and tissues {&HFFFFFF} | Average {&HFFFFFF} | "
+          "00:00 {&HFFFFFF} | 24-Nov-26 {&HFFFFFF} |  {&HFFFFFF} <Checked> | A- {&HFFFFFF}",
+          "24* FFFFFF/A88A76",  // the due day marked in the class's colour
+          "TextBoxStudySessions: \"3\"", "TextBoxStudyTime: \"02:05\"", "19  000000/F0E8E2"})
+        EXPECT_NE(text.find(line), std::string::npos) << line << "\n" << text;
+    const auto field = [](const std::string& value, std::size_t width) {
+        std::string padded = value;
+        padded.resize(width, ' ');
+        return padded;
+    };
+    const std::string nuls(20, '\0');
+    const std::string data = fake.dataDirectory() + "/";
+    EXPECT_EQ(fake.bytesOf(data + "Assignments.txt"),
+              field("1", 5) + field("1", 5) + field("2", 5) + field("2026/11/24", 15) + field("Quiz", 10) +
+                  field("Average", 10) + "02 : 30" + field("Cells and tissues", 50) + "True " + field("A-", 5) +
+                  field("5", 3) + field("1 Day", 20) + nuls);
+    EXPECT_EQ(fake.bytesOf(data + "Notes.txt"),
+              field("1", 5) + field("1", 5) + nuls + nuls + field("Chapter 3\r\nBring the lab book", 1450));
+    EXPECT_EQ(fake.bytesOf(data + "StudySessions.txt"),
+              field("1", 5) + field("1", 5) + field("00 : 20", 10) + field("2026/11/21", 15) + nuls +
+                  field("2", 5) + field("1", 5) + field("01 : 00", 10) + field("2026/11/20", 15) + nuls +
+                  field("3", 5) + field("1", 5) + field("00 : 45", 10) + field("2026/11/19", 15) + nuls);
+
+    std::ostringstream again;
+    ProbeSession restarted(fake.drive, fake.host, again);
+    std::istringstream in("clock 2026-11-22 09:00\nrow 1\nprint\nclick ButtonCancel\n"
+                          "row 1\nanswer yes\nanswer yes\nclick ButtonDelete\nprint\n");
+    ASSERT_TRUE(restarted.run(in)) << restarted.failedLine();
+    const std::string second = again.str();
+    for (const char* line : {"Window frmAssignment \"Quillhollow - Edit Assignment\" 6360 x 7425",
+                             "  ComboGrade \"A-\" entries=14", "  LabelStudySessions \"Study Sessions: 03\"",
+                             "  TextBoxTimeLeft \"00 : 25\" fore=Black back=Honeydew", "  ComboClassNameList \"Biology\"",
+                             "Rows: 0 from 1"})
+        EXPECT_NE(second.find(line), std::string::npos) << line << "\n" << second;
+    EXPECT_EQ(fake.bytesOf(data + "Notes.txt").substr(0, 10), field("1", 5) + field("0", 5));
+}
+
 }  // namespace
 }  // namespace qh
