@@ -5,6 +5,7 @@
 
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
+#include "editors/shared_record_file.h"
 #include "record_store/record_files.h"
 #include "support/main_window_fixture.h"
 
@@ -458,6 +459,42 @@ TEST(AssignmentEditor, ListRowsOpenTheRecordTheyShow) {
     window.GridRowClicked(2);  // below the one session: nothing opens
     EXPECT_EQ(opened, (std::vector<std::string>{"Edit " + shownSecond, "New ", "Edit Item 7"}));
     EXPECT_EQ(editor.writes(), 0);
+}
+
+// Share writes the record as it stands on screen from an edit, touching nothing else, and
+// reads it into the empty form of a new assignment, which OK then saves.
+TEST(AssignmentEditor, ShareWritesFromAnEditAndReadsIntoANewOne) {
+    Editor editor;
+    const std::string path = editor.fake.documents + "/Chapter 6 test, Nov 24.txt";
+    editor.fake.dialogs.fileAnswers.push_back({true, 0, path, "Chapter 6 test, Nov 24.txt"});
+    bool changed = false;
+    editor.use([&](FrmAssignment& w) {
+        w.type("TextBoxDescription", "Chapter 6 test");  // not saved
+        w.ChangeFlag = kFalse;
+        w.click("ButtonShare");
+        changed = w.ChangeFlag != 0;
+        w.click("ButtonCancel");
+    });
+    editor.window->EditAssignment(1);
+    ASSERT_EQ(editor.fake.dialogs.fileRequests.size(), 1u);
+    EXPECT_EQ(editor.fake.dialogs.fileRequests[0].title, "Save an Assignment File");
+    EXPECT_FALSE(changed);
+    EXPECT_TRUE(editor.messages().empty());
+    EXPECT_EQ(editor.bytes("Assignments.txt"), record(kTest) + record(kReading));
+    const SharedAssignment onScreen{"Algebra", "Chapter 6 test", dateFromYmd(2026, 11, 24), "Test", "Hard", "02 : 00",
+                                    "20", "Bring a calculator"};
+    EXPECT_EQ(editor.fake.bytesOf(path), sharedFileBytes(onScreen));
+
+    editor.fake.dialogs.fileAnswers.push_back({true, 0, path, "Chapter 6 test, Nov 24.txt"});
+    editor.use([](FrmAssignment& w) {
+        w.click("ButtonShare");
+        w.click("ButtonOK");
+    });
+    editor.window->click("ButtonNewAssignment");
+    EXPECT_EQ(editor.bytes("Assignments.txt"),
+              record(kTest) + record(kReading) +
+                  record({3, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 6 test", "False", " ", "20", "1 Day"}));
+    EXPECT_EQ(editor.bytes("Notes.txt"), kNote + note(2, 3, "Bring a calculator"));
 }
 
 }  // namespace
