@@ -72,6 +72,16 @@ struct Editor : LoadedMainWindow {
         for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
         return texts;
     }
+    // The records written since the load, "Notes.txt record 2"; any other write too.
+    std::vector<std::string> recordWrites() {
+        std::vector<std::string> writes;
+        const std::string prefix = "write " + fake.dataDirectory() + "/";
+        for (std::size_t i = loadLogLength; i < fake.files.log.size(); ++i)
+            if (fake.files.log[i].starts_with("write"))
+                writes.push_back(fake.files.log[i].starts_with(prefix) ? fake.files.log[i].substr(prefix.size())
+                                                                       : fake.files.log[i]);
+        return writes;
+    }
     // File writes since the load.
     int writes() {
         int count = 0;
@@ -95,6 +105,7 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
         std::vector<MessageAnswer> answers;
         Use user;
         std::string assignments, notes, sessions;
+        std::vector<std::string> writes;  // one record each, in order
     } cases[] = {
         {"NewWithNoteAndSessions", false, 0, {},
          [](FrmAssignment& w) {
@@ -110,7 +121,8 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
          record({1, 2, "2026/11/21", "Quiz", "Average", "02 : 00", "Cells", "False", " ", "5", "1 Day"}),
          note(1, 1, "Line one\r\nLine two"),
          // The newest session is written first.
-         session(1, "1", "00 : 45", "2026/11/21") + session(2, "1", "01 : 00", "2026/11/21")},
+         session(1, "1", "00 : 45", "2026/11/21") + session(2, "1", "01 : 00", "2026/11/21"),
+         {"Notes.txt record 1", "StudySessions.txt record 1", "StudySessions.txt record 2", "Assignments.txt record 1"}},
         {"NewBare", false, 0, {},
          [](FrmAssignment& w) {
              w.select("ComboClassNameList", "Algebra");
@@ -121,7 +133,7 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
          },
          record({1, 1, "2026/11/21", "Assignment", "Average", "00 : 30", std::string(47, 'x') + "\xE9\x80?", "False",
                  " ", "5", "1 Day"}),
-         "", ""},
+         "", "", {"Assignments.txt record 1"}},
         // A changed note is rewritten in place; the grade and weight the list lacks save
         // as the window showed them.
         {"EditChangesTheNote", true, 1, {},
@@ -132,21 +144,22 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
          },
          record({1, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 6 test", "False", "B+", "20", "3 Days"}) +
              record(kReading),
-         note(1, 1, "Bring two pencils"), kSessions},
+         note(1, 1, "Bring two pencils"), kSessions, {"Notes.txt record 1", "Assignments.txt record 1"}},
         {"EditEmptiesTheNote", true, 1, {},
          [](FrmAssignment& w) {
              w.type("TextBoxNotes", "");
              w.click("ButtonOK");
          },
-         record(kTest) + record(kReading), note(1, 0, ""), kSessions},
+         record(kTest) + record(kReading), note(1, 0, ""), kSessions, {"Notes.txt record 1", "Assignments.txt record 1"}},
         {"EditAddsANote", true, 2, {},
          [](FrmAssignment& w) {
              w.type("TextBoxNotes", "Pages 10 to 20");
              w.click("ButtonOK");
          },
-         record(kTest) + record(reread), kNote + note(2, 2, "Pages 10 to 20"), kSessions},
+         record(kTest) + record(reread), kNote + note(2, 2, "Pages 10 to 20"), kSessions,
+         {"Notes.txt record 2", "Assignments.txt record 2"}},
         {"EditWithoutNoteWritesNone", true, 2, {}, [](FrmAssignment& w) { w.click("ButtonOK"); },
-         record(kTest) + record(reread), kNote, kSessions},
+         record(kTest) + record(reread), kNote, kSessions, {"Assignments.txt record 2"}},
         // The middle session deleted, one added: the deleted one is marked in place, the
         // added one appended.
         {"EditDeletesAndAddsSessions", true, 1, {},
@@ -158,18 +171,22 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
          },
          record(kTest) + record(kReading), kNote,
          session(1, "1", "00 : 30", "2026/11/18") + session(2, "-1", "", "2026/11/19") +
-             session(3, "1", "00 : 15", "2026/11/20") + session(4, "1", "00 : 20", "2026/11/21")},
+             session(3, "1", "00 : 15", "2026/11/20") + session(4, "1", "00 : 20", "2026/11/21"),
+         {"Notes.txt record 1", "StudySessions.txt record 2", "StudySessions.txt record 4", "Assignments.txt record 1"}},
         {"DeleteWithNoteAndSessions", true, 1, {MessageAnswer::Yes, MessageAnswer::Yes},
          [](FrmAssignment& w) { w.click("ButtonDelete"); },
          record({1, 1, "2026/11/24", "Test", "Hard", "02 : 00", "DELETED RECORD", "False", "B+", "20", "3 Days"}) +
              record(kReading),
          note(1, 0, ""),
-         session(1, "-1", "", "2026/11/18") + session(2, "-1", "", "2026/11/19") + session(3, "-1", "", "2026/11/20")},
+         session(1, "-1", "", "2026/11/18") + session(2, "-1", "", "2026/11/19") + session(3, "-1", "", "2026/11/20"),
+         // The edit columns hold the newest first and are walked from the last.
+         {"Notes.txt record 1", "StudySessions.txt record 1", "StudySessions.txt record 2", "StudySessions.txt record 3",
+          "Assignments.txt record 1"}},
         {"DeleteWithoutSessionsAsksOnce", true, 2, {MessageAnswer::Yes},
          [](FrmAssignment& w) { w.click("ButtonDelete"); },
          record(kTest) +
              record({2, 2, "2026/11/25", "Reading", "Easy", "00 : 30", "DELETED RECORD", "False", " ", "5", "1 Day"}),
-         kNote, kSessions},
+         kNote, kSessions, {"Assignments.txt record 2"}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -183,6 +200,7 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
         EXPECT_EQ(editor.bytes("Assignments.txt"), c.assignments);
         EXPECT_EQ(editor.bytes("Notes.txt"), c.notes);
         EXPECT_EQ(editor.bytes("StudySessions.txt"), c.sessions);
+        EXPECT_EQ(editor.recordWrites(), c.writes);
         EXPECT_EQ(editor.window->state.RefreshReason, "None");
         // The columns hold what a fresh load of the files gives.
         RecordStore reloaded = editor.store;
@@ -495,6 +513,44 @@ TEST(AssignmentEditor, ShareWritesFromAnEditAndReadsIntoANewOne) {
               record(kTest) + record(kReading) +
                   record({3, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 6 test", "False", " ", "20", "1 Day"}));
     EXPECT_EQ(editor.bytes("Notes.txt"), kNote + note(2, 3, "Bring a calculator"));
+}
+
+// A new assignment needs a term with classes: each question leads to the schedule on Yes
+// and never to the editor.
+TEST(AssignmentEditor, NewAssignmentAsksForATermAndClassesFirst) {
+    const struct {
+        const char* name;
+        std::string terms, classes;
+        MessageAnswer answer;
+        std::string question, schedule;
+    } cases[] = {
+        {"NoTermNo", "", "", MessageAnswer::No, "There is no Term selected. Do you want to set the active Term?", ""},
+        {"NoTermYes", "", "", MessageAnswer::Yes, "There is no Term selected. Do you want to set the active Term?",
+         "modal frmSelectCourseSchedule"},
+        {"NoClassesNo", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/18"), classRecord(1, 2, "Elsewhere"),
+         MessageAnswer::No, "This Term has no classes. Do you want to edit the Class Schedule?", ""},
+        {"NoClassesYes", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/18"), classRecord(1, 2, "Elsewhere"),
+         MessageAnswer::Yes, "This Term has no classes. Do you want to edit the Class Schedule?",
+         "modal frmSelectCourseSchedule"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Editor editor(false);
+        editor.putDataFile("Terms.txt", c.terms);
+        editor.putDataFile("Classes.txt", c.classes);
+        editor.store = RecordStore{};
+        editor.load();
+        editor.fake.messages.answers = {c.answer};
+        editor.fake.windowing.log.clear();
+        editor.fake.windowing.modalUsers["frmSelectCourseSchedule"].push_back(
+            [](Form& form) { form.click("ButtonCancel"); });
+        editor.window->click("MenuNewAssignment");
+        EXPECT_EQ(editor.messages(), std::vector<std::string>{c.question});
+        std::string modals;
+        for (const std::string& line : editor.fake.windowing.log)
+            if (line.starts_with("modal")) modals += line;
+        EXPECT_EQ(modals, c.schedule);
+    }
 }
 
 }  // namespace
