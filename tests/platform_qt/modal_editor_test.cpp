@@ -3,12 +3,15 @@
 // picker, and OK ends the modal showing.
 #include <gtest/gtest.h>
 
+#include <QCloseEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include "editors/editor_host.h"
+#include "editors/frm_assignment.h"
 #include "editors/frm_course_schedule.h"
 #include "platform/fake/fake_platform.h"
 #include "platform/qt/form_view.h"
@@ -73,6 +76,57 @@ TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
     EXPECT_FALSE(window.CancelledFlag);
     EXPECT_FALSE(window.visible);
     EXPECT_FALSE(window.c("picCalendar").visible);
+}
+
+// The assignment editor under the renderer: the label's click makes the real window large,
+// a session added shows its line, a click on that line enables its Delete, and the close
+// box, refused by the window, cancels through its question.
+TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
+    testApplication();
+    FakePlatform fake;
+    QtCanvasFactory canvases;
+    Platform platform{fake.environment, fake.clock, fake.locale, fake.messages, fake.files,
+                      fake.processes,   fake.dialogs, fake.windowing, canvases};
+    Host host;
+    FrmAssignment window(platform, host);
+    window.Form_Load();
+    window.EditMode = "New";
+    window.FormSmall = kTrue;
+    window.tempClassNameArray = {"Algebra"};
+    window.tempAssignmentClassLinkArray = {"1"};
+    FormRenderer renderer;
+    renderer.quitWhenLastWindowCloses = false;
+
+    int smallHeight = 0, largeHeight = 0;
+    bool deleteEnabled = false;
+    std::string line;
+    QObject scope;
+    QTimer::singleShot(0, &scope, [&] {
+        FormWindow& shown = *renderer.windowOf(window);
+        smallHeight = shown.client()->height();
+        QTest::mouseClick(shown.widget("LabelViewSessions"), Qt::LeftButton);
+        largeHeight = shown.client()->height();
+        QTest::mouseClick(shown.widget("ButtonSessionAdd"), Qt::LeftButton);
+        auto* list = qobject_cast<QListWidget*>(shown.widget("ListBoxStudySessions"));
+        if (list && list->count() == 1) {
+            line = list->item(0)->text().toStdString();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+        }
+        deleteEnabled = shown.widget("ButtonSessionDelete")->isEnabled();
+        QCloseEvent close;
+        QApplication::sendEvent(&shown, &close);
+    });
+    QTimer::singleShot(5000, &scope, [&] { window.hide(); });  // a safety net, never reached
+    renderer.showModal(window, nullptr);
+
+    EXPECT_EQ(smallHeight, (kAssignmentSmallHeight - Form::kFrameHeight) / 15);
+    EXPECT_EQ(largeHeight, (kAssignmentLargeHeight - Form::kFrameHeight) / 15);
+    EXPECT_EQ(line, "00 : 30    Saturday, Nov 21, 2026");
+    EXPECT_TRUE(deleteEnabled);
+    ASSERT_EQ(fake.messages.shown.size(), 1u);
+    EXPECT_EQ(fake.messages.shown[0].text, "Cancel this Assignment?");
+    EXPECT_TRUE(window.CancelledFlag);
+    EXPECT_FALSE(window.visible);
 }
 
 }  // namespace
