@@ -41,11 +41,10 @@ void showEntry(Control& combo, int listIndex) {
     combo.text = combo.selectedText();
 }
 
-// A stored weight shows as itself only as a whole number from 1 to 100.
+// A stored weight shows as its number when it is a whole number from 1 to 100.
 std::string weightShown(const std::string& stored) {
     const auto weight = parseInt16(stored);
-    return weight && *weight >= 1 && *weight <= 100 && trim(stored) == std::to_string(*weight) ? std::to_string(*weight)
-                                                                                               : kDefaultWeight;
+    return weight && *weight >= 1 && *weight <= 100 ? std::to_string(*weight) : kDefaultWeight;
 }
 
 }  // namespace
