@@ -1,7 +1,9 @@
 #include "editors/editor_windows.h"
 
 #include "editors/frm_course_schedule.h"
+#include "editors/frm_event.h"
 #include "editors/frm_select_course_schedule.h"
+#include "editors/frm_task.h"
 #include "editors/pending_editor_windows.h"
 
 namespace qh {

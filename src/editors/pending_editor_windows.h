@@ -14,14 +14,4 @@ public:
     FrmAssignment(Platform&, EditorHost&) : Form("frmAssignment") { caption = "Quillhollow - New Assignment"; }
 };
 
-class FrmTask : public Form {
-public:
-    FrmTask(Platform&, EditorHost&) : Form("FrmTask") { caption = "Quillhollow - New Task"; }
-};
-
-class FrmEvent : public Form {
-public:
-    FrmEvent(Platform&, EditorHost&) : Form("frmEvent") { caption = "Quillhollow - New Event"; }
-};
-
 }  // namespace qh

@@ -9,13 +9,9 @@ RecordActions::RecordActions(RecordStore& store, RecordFiles& files, Platform& p
                              EditorWindows& windows)
     : store_(store), files_(files), platform_(platform), host_(host), windows_(windows) {}
 
-// The assignment, task and event editors are their own pieces of work; until they land
-// these actions open nothing.
+// The assignment editor is its own piece of work; until it lands these actions open
+// nothing.
 void RecordActions::NewAssignment() {}
 void RecordActions::EditAssignment(int) {}
-void RecordActions::NewTask() {}
-void RecordActions::EditTask(int) {}
-void RecordActions::NewEvent() {}
-void RecordActions::EditEvent(int) {}
 
 }  // namespace qh
