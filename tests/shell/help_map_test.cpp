@@ -10,6 +10,7 @@
 #include <set>
 #include <sstream>
 
+#include "editors/editor_windows.h"
 #include "shell/about_window.h"
 #include "shell/help_topics.h"
 #include "shell/main_window.h"
@@ -60,6 +61,15 @@ const std::vector<WindowUnderTest>& windows() {
              visit(window);
              visit(window.tipWindow());
          }},
+        // The editor windows as the main window loads them, the task and event editors
+        // among them.
+        {"editors",
+         [](FakePlatform& fake, const std::function<void(Form&)>& visit) {
+             RecordStore store;
+             MainWindow window(store, fake.platform);
+             window.Form_Load();
+             for (Form* editor : window.editors->windows()) visit(*editor);
+         }},
         {"frmAbout",
          [](FakePlatform& fake, const std::function<void(Form&)>& visit) {
              FrmAbout about(fake.environment, fake.processes);
@@ -93,6 +103,7 @@ TEST(HelpMap, EveryControlWithAHelpNumberLeadsToAPageOfTheBook) {
     }
     // The main window alone gives 45 numbers; a window that lost its numbers shows here.
     EXPECT_GE(given.size(), 45u);
+    for (int number : {601, 602, 603, 606, 607, 608, 610, 611, 612, 620, 621}) EXPECT_EQ(given.count(number), 1u) << number;
 }
 
 TEST(HelpMap, EveryTopicHasItsPageAndTheTopicsAreInOrder) {
