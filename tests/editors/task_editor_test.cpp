@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "editors/editor_windows.h"
+#include "editors/shared_record_file.h"
 #include "editors/frm_task.h"
 #include "support/main_window_fixture.h"
 #include "support/task_event_records.h"
@@ -289,6 +290,62 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         w.click("ButtonCancel");
     });
     EXPECT_TRUE(tasks.messages().empty());
+}
+
+// Share writes the task as it stands on screen from an edit, touching nothing else, and
+// reads a file into a new task, which OK then saves like any other; a file of another
+// kind changes nothing.
+TEST(TaskEditor, ShareWritesFromAnEditAndReadsIntoANewTask) {
+    Tasks tasks(threeTasks());
+    const std::string file = tasks.fake.documents + "/shared.txt";
+    const auto answerWith = [&tasks](const std::string& path) {
+        FileDialogAnswer answer;
+        answer.chosen = true;
+        answer.fullPath = path;
+        tasks.fake.dialogs.fileAnswers.push_back(answer);
+    };
+    answerWith(file);
+    tasks.fake.messages.answers.push_back(MessageAnswer::Yes);  // the cancel afterwards
+    tasks.run(2, [&](FrmTask& w) {
+        w.type("TextBoxDescription", "Essay: final?");
+        w.click("ButtonShare");
+        EXPECT_TRUE(w.visible);
+        EXPECT_TRUE(w.ChangeFlag);
+        EXPECT_EQ(w.TextBoxDescription->text, "Essay: final?");
+        w.click("ButtonCancel");
+    });
+    ASSERT_EQ(tasks.fake.dialogs.fileRequests.size(), 1u);
+    EXPECT_FALSE(tasks.fake.dialogs.fileRequests[0].open);
+    EXPECT_EQ(tasks.fake.dialogs.fileRequests[0].startPath, tasks.store.DocumentDirectory + "/Essay  final .txt");
+    const SharedTask onScreen{.description = "Essay: final?", .deadline = true, .date = dateFromYmd(2026, 12, 2),
+                              .type = "School", .priority = "High", .notes = "Three sources\r\nOne quote"};
+    EXPECT_EQ(tasks.fake.bytesOf(file), sharedFileBytes(onScreen, dateFromYmd(2026, 11, 21)));
+    EXPECT_EQ(tasks.messages(), std::vector<std::string>{"Cancel all changes to this Task?"});
+    EXPECT_EQ(tasks.tasksFile(), threeTasks());
+
+    // A file of another kind: the message, and the new form as it was.
+    const std::string event = tasks.fake.documents + "/event.txt";
+    tasks.fake.writeBytes(event, std::string("EVENT") + std::string(950, ' ') + "\r\n");
+    answerWith(event);
+    answerWith(file);
+    tasks.run(0, [&](FrmTask& w) {
+        w.click("ButtonShare");
+        EXPECT_EQ(w.TextBoxDescription->text, "");
+        EXPECT_FALSE(w.ChangeFlag);
+        w.click("ButtonShare");
+        EXPECT_EQ(w.TextBoxDescription->text, "Essay: final?");
+        EXPECT_TRUE(w.CheckBoxDeadline->checked);
+        EXPECT_EQ(w.LabelDeadline->caption, "Date");
+        EXPECT_EQ(w.TextboxTaskDate->text, "Wednesday, December 2, 2026");
+        EXPECT_TRUE(w.ChangeFlag);
+        w.click("ButtonOK");
+    });
+    EXPECT_EQ(tasks.messages(),
+              (std::vector<std::string>{"Cancel all changes to this Task?", "This is not a Task file."}));
+    EXPECT_EQ(tasks.tasksFile(),
+              threeTasks() + taskRecord({.recordNo = 4, .description = "Essay: final?", .dateExists = "True",
+                                         .date = "2026/12/02", .type = "School", .priority = "High",
+                                         .notes = "Three sources\r\nOne quote"}));
 }
 
 }  // namespace
