@@ -7,7 +7,7 @@
 namespace qh {
 namespace {
 
-constexpr int kFrameLeft = 1560, kFrameTop = 3720, kFrameWidth = 4530, kFrameHeight = 1560;
+constexpr int kPanelLeft = 1560, kPanelTop = 3720, kPanelWidth = 4530, kPanelHeight = 1560;
 
 struct RecurrenceChoice {
     const char* radio;
@@ -43,14 +43,14 @@ void FrmEvent::buildRecurrencePanel() {
     int top = 4080;
     for (const RecurrenceChoice& choice : kChoices) {
         onFace(add(ControlKind::RadioButton, choice.radio, "", 240, top, 1200, 255)).caption = choice.caption;
-        onFace(add(ControlKind::Frame, choice.frame, "", kFrameLeft, kFrameTop, kFrameWidth, kFrameHeight));
+        onFace(add(ControlKind::Frame, choice.frame, "", kPanelLeft, kPanelTop, kPanelWidth, kPanelHeight));
         top += 300;
     }
     static constexpr const char* kWeekdayCaptions[] = {"Monday", "Tuesday",  "Wednesday", "Thursday",
                                                        "Friday", "Saturday", "Sunday"};
     for (int i = 0; i < 7; ++i)
-        onFace(add(ControlKind::CheckBox, kWeekdayBoxes[std::size_t(i)], "FrameDaily", 120 + 1080 * (i % 4),
-                   300 + 420 * (i / 4), 1050, 255))
+        onFace(add(ControlKind::CheckBox, kWeekdayBoxes[std::size_t(i)], "FrameDaily", 120 + 1440 * (i % 3),
+                   300 + 360 * (i / 3), 1400, 255))
             .caption = kWeekdayCaptions[i];
     for (const auto& [frame, period, label, text] :
          {std::tuple{"FrameMonthly", "Monthly", "LabelRepeat", "of Every Month"},
@@ -63,7 +63,9 @@ void FrmEvent::buildRecurrencePanel() {
         for (const std::string_view entry : kRepeatNumberChoices) number.addItem(std::string(entry));
         Control& day = add(ControlKind::ComboBox, "Combo" + name + "Day", frame, 1500, 780, 1260, 315);
         for (const std::string_view entry : kRepeatDayChoices) day.addItem(std::string(entry));
-        onFace(add(ControlKind::Label, label, frame, 2820, 810, 1620, 255)).caption = text;
+        Control& tail = add(ControlKind::Label, label, frame, 2820, 810, 1620, 255);
+        tail.caption = text;
+        tail.opaque = false;
     }
 
     Control& endFrame = onFace(add(ControlKind::Frame, "FrameEndDate", "", 3840, 5400, 2250, 600));

@@ -7,6 +7,7 @@
 #include "calendar/month_cells.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
+#include "editors/frm_task.h"
 #include "support/main_window_fixture.h"
 #include "support/task_event_records.h"
 
@@ -220,7 +221,12 @@ TEST(EventEditor, ThePanelTakesTheDefaultsOfItsDate) {
         EXPECT_EQ(w.LabelEndDate->caption, "No End Date");
         EXPECT_GT(w.c("FrameNone").z, w.c("FrameDaily").z);
 
-        // A picked end date counts at once.
+        // The picker opens over the frame just brought to the front; a picked end date
+        // counts at once.
+        if (w.c("TimerCalendar").enabled) w.tick("TimerCalendar");
+        w.click("picButtonEndDate");
+        EXPECT_GT(w.c("picCalendar").z, w.c("FrameNone").z);
+        w.click("TextBoxNotes");
         pick(w, "TextboxEndDate", 2026, 12, 5);
         EXPECT_TRUE(w.RadioEndOn->checked);
         EXPECT_TRUE(w.CheckboxEndDate->checked);
@@ -406,6 +412,30 @@ TEST(EventEditor, AnOccurrencesRowOpensTheOneRecord) {
     EXPECT_EQ(renamed, swimRows);
     EXPECT_EQ(events.eventsFile(), eventRecord(kBirthday) + eventRecord(kClub) + eventRecord(kGone) +
                                        eventRecord(with(kClass, [](EventFields& e) { e.description = "Swim team"; })));
+}
+
+// Every control of both windows lies inside its container, the window's client area at
+// its large size for the event window, so that nothing is cut off or lost behind an edge
+// (the picker's calendar excepted, which the calendar component lays out).
+TEST(EventEditor, EveryControlLiesInsideItsContainer) {
+    Events events;
+    for (Form* form : {static_cast<Form*>(&events.window->editors->task()),
+                       static_cast<Form*>(&events.window->editors->event())}) {
+        if (form->name() == "frmEvent") form->setOuterSize(FrmEvent::kOuterWidth, FrmEvent::kLargeHeight);
+        for (const std::string& key : form->order()) {
+            const Control& control = form->c(key);
+            // The picker's calendar is the calendar component's own layout.
+            if (control.kind == ControlKind::Timer || (form->isInside(key, "picCalendar") && key != "picCalendar"))
+                continue;
+            SCOPED_TRACE(form->name() + "." + key);
+            const int width = control.container.empty() ? form->scaleWidth : form->c(control.container).width;
+            const int height = control.container.empty() ? form->scaleHeight : form->c(control.container).height;
+            EXPECT_GE(control.left, 0);
+            EXPECT_GE(control.top, 0);
+            EXPECT_LE(control.left + control.width, width);
+            EXPECT_LE(control.top + control.height, height);
+        }
+    }
 }
 
 }  // namespace
