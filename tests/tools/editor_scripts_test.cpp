@@ -1,7 +1,7 @@
 // The task and event editors driven by probe scripts from an empty drive, as a new user
 // works them: each record seen in its list and among the reminders on the right day,
-// opened from its row and from a reminder, one deleted; the files byte for byte. An event
-// shared from one drive is read into a new event on another.
+// opened from its row and from a reminder, one deleted, one shared and read back; the
+// files byte for byte. An event shared from one drive is read into a new event on another.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -28,7 +28,7 @@ void expectLines(const std::string& text, const std::vector<std::string>& lines)
 TEST(EditorScripts, TasksWithAndWithoutADeadline) {
     FakePlatform fake;
     const std::string text = runScript(fake,
-                                       "clock 2026-11-22 09:00\nmode tasks\n"
+                                       std::string("clock 2026-11-22 09:00\nmode tasks\n"
                                        // A deadline picked and a reminder two days ahead.
                                        "click ButtonNewTask\nset TextBoxDescription Return library books\n"
                                        "pick TextboxTaskDate 2026-11-24\nchoose ComboRemindMe 2 Days\nclick ButtonOK\n"
@@ -38,7 +38,13 @@ TEST(EditorScripts, TasksWithAndWithoutADeadline) {
                                        "choose ComboPriority High\nclick ButtonOK\nprint\n"
                                        // From its reminder, then from its row: delete the dated one.
                                        "mode reminders\nprint\nrow 1\nprint\nclose\n"
-                                       "mode tasks\nrow 1\nclick ButtonDelete\nprint\nexit\n");
+                                       "mode tasks\nrow 1\nclick ButtonDelete\nprint\n"
+                                       // Shared with an unsaved change, which the cancel then drops,
+                                       // and read into a new task.
+                                       "row 1\nset TextBoxDescription Clean desk, top drawer\nfile ") +
+                                           fake.documents + "/clean.txt\nclick ButtonShare\nanswer yes\nclose\n"
+                                           "click ButtonNewTask\nfile " +
+                                           fake.documents + "/clean.txt\nclick ButtonShare\nclick ButtonOK\nexit\n");
     expectLines(text, {"Message: \"Quillhollow\" \"Set a Deadline for this Task if you want a Reminder.\"\n",
                        "Row 1: | 1 |  Return library books {&HFFFFFF} |  {&HFFFFFF} |  {&HFFFFFF} | 24-Nov-26",
                        "Row 2: | 2 |  Clean desk {&HFFFFFF} |  {&HFFFFFF} | High {&HFFFFFF} |  {&HFFFFFF}",
@@ -52,7 +58,9 @@ TEST(EditorScripts, TasksWithAndWithoutADeadline) {
     EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"),
               taskRecord({.description = "DELETED RECORD", .dateExists = "True", .date = "2026/11/24", .done = "True",
                           .reminder = "2 Days"}) +
-                  taskRecord({.recordNo = 2, .description = "Clean desk", .date = "2026/11/22", .priority = "High"}));
+                  taskRecord({.recordNo = 2, .description = "Clean desk", .date = "2026/11/22", .priority = "High"}) +
+                  taskRecord({.recordNo = 3, .description = "Clean desk, top drawer", .date = "2026/11/22",
+                              .priority = "High"}));
 }
 
 const char* const kThreeEvents =
