@@ -58,6 +58,8 @@ void fillEventRecord(EventBuffer& record, const std::string& recordNo, const std
 }  // namespace
 
 void RecordActions::NewEvent() {
+    // The editor windows load with the main window; before that no record opens.
+    if (!windows_.loaded()) return;
     FrmEvent& form = windows_.event();
     form.FormSmall = true;
     form.EditMode = "New";
@@ -79,6 +81,8 @@ void RecordActions::NewEvent() {
 }
 
 void RecordActions::EditEvent(int row) {
+    // The editor windows load with the main window; before that no record opens.
+    if (!windows_.loaded()) return;
     FrmEvent& form = windows_.event();
     RecordStore& s = store_;
     form.FormSmall = s.EventRecurrences(row) == "None";

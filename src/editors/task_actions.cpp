@@ -33,6 +33,8 @@ void fillTaskRecord(TaskBuffer& record, const std::string& recordNo, const std::
 }  // namespace
 
 void RecordActions::NewTask() {
+    // The editor windows load with the main window; before that no record opens.
+    if (!windows_.loaded()) return;
     FrmTask& form = windows_.task();
     form.EditMode = "New";
     form.DocumentDirectory = store_.DocumentDirectory;
@@ -59,6 +61,8 @@ void RecordActions::NewTask() {
 }
 
 void RecordActions::EditTask(int row) {
+    // The editor windows load with the main window; before that no record opens.
+    if (!windows_.loaded()) return;
     FrmTask& form = windows_.task();
     RecordStore& s = store_;
     form.EditMode = "Edit";
