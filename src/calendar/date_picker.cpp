@@ -73,6 +73,8 @@ void DatePicker::OpenCalendar() {
     PickerDate = owner_.pickerFieldDate(PickFirstField != 0);
     build();
     calendar.visible = calendar.enabled = true;
+    // Over everything, also over a frame the window brought to the front since.
+    form_.bringToFront("picCalendar");
     form_.SetFocus("picCalendar");
     CalendarOpen = kTrue;
 }

@@ -2,8 +2,9 @@
 
 #include "editors/frm_assignment.h"
 #include "editors/frm_course_schedule.h"
+#include "editors/frm_event.h"
 #include "editors/frm_select_course_schedule.h"
-#include "editors/pending_editor_windows.h"
+#include "editors/frm_task.h"
 
 namespace qh {
 

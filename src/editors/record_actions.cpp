@@ -9,11 +9,4 @@ RecordActions::RecordActions(RecordStore& store, RecordFiles& files, Platform& p
                              EditorWindows& windows)
     : store_(store), files_(files), platform_(platform), host_(host), windows_(windows) {}
 
-// The task and event editors are their own pieces of work; until they land these actions
-// open nothing.
-void RecordActions::NewTask() {}
-void RecordActions::EditTask(int) {}
-void RecordActions::NewEvent() {}
-void RecordActions::EditEvent(int) {}
-
 }  // namespace qh

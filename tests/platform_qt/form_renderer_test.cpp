@@ -155,6 +155,10 @@ TEST_F(FormRendererTest, ControlsAppearAsNamedWidgetsPlacedAndStackedByTheModel)
     }
     EXPECT_EQ(widget<QPushButton>("ButtonOK")->text(), "OK");
     EXPECT_EQ(widget<QGroupBox>("FrameRepeat")->title(), "Repeat");
+    // A frame covers what lies behind it in its own colour, so that of frames stacked in
+    // one place only the front one shows.
+    EXPECT_TRUE(widget("FrameRepeat")->autoFillBackground());
+    EXPECT_EQ(widget("FrameRepeat")->palette().color(QPalette::Window), QColor(255, 255, 255));
     EXPECT_TRUE(widget<QRadioButton>("RadioDaily")->isChecked());
     EXPECT_FALSE(widget<QComboBox>("ComboList")->isEditable());
     EXPECT_EQ(widget<QComboBox>("ComboList")->currentText(), "All");

@@ -511,7 +511,12 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
         case ControlKind::Frame: {
             auto* frame = static_cast<QGroupBox*>(widget);
             if (changed(&Control::caption)) frame->setTitle(qs(now.caption));
-            if (changed(&Control::foreColor)) setColors(widget, now, QPalette::Base, QPalette::WindowText);
+            // A frame covers what lies behind it, so that of frames stacked in one place
+            // only the one brought to the front shows, with its controls.
+            if (changed(&Control::foreColor) || changed(&Control::backColor)) {
+                setColors(widget, now, QPalette::Window, QPalette::WindowText);
+                frame->setAutoFillBackground(true);
+            }
             break;
         }
         case ControlKind::ScrollBar: {

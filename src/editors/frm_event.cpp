@@ -1,0 +1,322 @@
+#include "editors/frm_event.h"
+
+#include "editors/editor_checks.h"
+#include "editors/editor_controls.h"
+#include "editors/editor_host.h"
+#include "editors/recurrence_panel_defaults.h"
+#include "editors/shared_file_transfer.h"
+#include "record_store/columns.h"
+
+namespace qh {
+namespace {
+
+// "12:00 am", "12:05 am" ... "11:55 pm": every fifth minute of a day.
+std::string clockText(int minutes) {
+    const int hour = minutes / 60, minute = minutes % 60;
+    const int shown = hour % 12 == 0 ? 12 : hour % 12;
+    std::string text = std::to_string(shown) + ":" + (minute < 10 ? "0" : "") + std::to_string(minute);
+    return text + (hour < 12 ? " am" : " pm");
+}
+
+}  // namespace
+
+FrmEvent::FrmEvent(Platform& platform, EditorHost& host) : Form("frmEvent"), platform_(platform), host_(host) {
+    setCanvasFactory(&platform.canvases);
+    buildControls();
+    buildRecurrencePanel();
+    picker_ = std::make_unique<DatePicker>(*this, platform, *this, [&host] { return host.startDayOfWeek(); },
+                                           DateField{"TextboxEventDate", "picButtonEventDate", 240, 675},
+                                           DateField{"TextboxEndDate", "picButtonEndDate", 600, 3150});
+    bindControls();
+    bindHandlers();
+    bindRecurrenceHandlers();
+}
+
+FrmEvent::~FrmEvent() = default;
+
+void FrmEvent::buildControls() {
+    caption = "Quillhollow - New Event";
+    fixedSize = true;
+    setOuterSize(kOuterWidth, kSmallHeight);
+    const auto label = [this](const std::string& name, int left, int top, int width, const std::string& text) {
+        Control& control = add(ControlKind::Label, name, "", left, top, width, 255);
+        control.caption = text;
+        control.backColor = kButtonFace;
+        return &control;
+    };
+    label("LabelDate", 240, 120, 2700, "Date");
+    Control& date = add(ControlKind::TextBox, "TextboxEventDate", "", 240, 360, 2700, 315);
+    date.locked = true;
+    date.border = true;
+    Control& pick = add(ControlKind::CommandButton, "picButtonEventDate", "", 2940, 360, 300, 315);
+    pick.caption = "...";
+    pick.tabStop = false;
+    label("LabelTime", 3420, 120, 1260, "Time");
+    add(ControlKind::ComboBox, "ComboTime", "", 3420, 360, 1260, 315);
+    label("LabelType", 4800, 120, 1290, "Type");
+    add(ControlKind::ComboBox, "ComboType", "", 4800, 360, 1290, 315);
+
+    label("LabelDescription", 240, 780, 3000, "Description");
+    add(ControlKind::TextBox, "TextBoxEvent", "", 240, 1020, 4200, 315).border = true;
+    label("LabelRemind", 4560, 780, 1530, "Advance Notice");
+    add(ControlKind::ComboBox, "ComboRemindMe", "", 4560, 1020, 1530, 315);
+
+    label("LabelNotes", 240, 1440, 3000, "Notes");
+    Control& notes = add(ControlKind::TextBox, "TextBoxNotes", "", 240, 1680, 5850, 1320);
+    notes.multiLine = true;
+    notes.border = true;
+
+    Control* link = label("LabelViewRecurring", 240, 3240, 2160, "Show Recurring Events");
+    link->foreColor = rgb(0, 0, 255);
+    link->underline = true;
+    int left = 2460;
+    for (const auto& [name, text] : {std::pair{"ButtonShare", "Share"}, {"ButtonDelete", "Delete"},
+                                     {"ButtonOK", "OK"}, {"ButtonCancel", "Cancel"}}) {
+        add(ControlKind::CommandButton, name, "", left, 3180, 840, 375).caption = text;
+        left += 930;
+    }
+}
+
+void FrmEvent::bindHandlers() {
+    const auto onClick = [this](const ControlRef& control, void (FrmEvent::*handler)()) {
+        on(control.key(), FormEvent::Click, [this, handler](const EventArgs&) { (this->*handler)(); });
+    };
+    onClick(ButtonOK, &FrmEvent::ButtonOK_Click);
+    onClick(ButtonCancel, &FrmEvent::CancelEvent);
+    onClick(ButtonDelete, &FrmEvent::ButtonDelete_Click);
+    onClick(ButtonShare, &FrmEvent::ButtonShare_Click);
+    on(LabelViewRecurring.key(), FormEvent::Click, [this](const EventArgs&) { showSize(!FormSmall); });
+    const auto changes = [this](const std::string& key, FormEvent event) {
+        on(key, event, [this](const EventArgs&) {
+            if (!quiet_) ChangeFlag = kTrue;
+        });
+    };
+    for (const ControlRef* box : {&TextBoxEvent, &TextBoxNotes}) changes(box->key(), FormEvent::Change);
+    for (const ControlRef* control :
+         {&ComboType, &ComboTime, &ComboRemindMe, &RadioMonthlyThisDate, &RadioMonthlyUser, &ComboMonthlyNumber,
+          &ComboMonthlyDay, &RadioYearlyThisDate, &RadioYearlyUser, &ComboYearlyNumber, &ComboYearlyDay})
+        changes(control->key(), FormEvent::Click);
+    for (const char* box : kWeekdayBoxes) changes(box, FormEvent::Click);
+    cancelButton = ButtonCancel.key();
+}
+
+void FrmEvent::Form_Load() {
+    ComboTime->addItem("None");
+    for (int minutes = 0; minutes < 24 * 60; minutes += 5) ComboTime->addItem(clockText(minutes));
+    for (const char* type : {"None", "Class", "School", "Home", "Birthday", "Holiday", "Personal", "Friends", "Family",
+                             "Recreation", "Work"})
+        ComboType->addItem(type);
+    FillReminderChoices(*ComboRemindMe);
+}
+
+void FrmEvent::showSize(bool small) {
+    FormSmall = small;
+    setOuterSize(kOuterWidth, small ? kSmallHeight : kLargeHeight);
+    LabelViewRecurring->caption = small ? "Show Recurring Events" : "Hide Recurring Events";
+}
+
+void FrmEvent::setQuietly(const std::string& key, bool checked) {
+    const bool was = quiet_;
+    quiet_ = true;
+    setChecked(key, checked);
+    quiet_ = was;
+}
+
+void FrmEvent::Form_Activate() {
+    showSize(FormSmall);
+    if (EditMode == "New")
+        fillForNew();
+    else
+        fillForEdit();
+    ChangeFlag = CancelledFlag = CloseOK = kFalse;
+    picker_->reset();
+}
+
+void FrmEvent::fillForNew() {
+    caption = "Quillhollow - New Event";
+    showRecurrence("None");
+    for (const char* box : kWeekdayBoxes) setQuietly(box, false);
+    setQuietly(RadioMonthlyThisDate.key(), true);
+    setQuietly(RadioYearlyThisDate.key(), true);
+    TextBoxEvent->text.clear();
+    TextBoxNotes->text.clear();
+    ShowEntry(*ComboTime, "None");
+    ShowEntry(*ComboType, "None");
+    ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
+    StoreEventDate = StoreEndDate = host_.clickedDate();
+    TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
+    showEndDate(StoreEndDate);
+    showEndLine(false);
+    ResetDays = true;
+    ButtonDelete->enabled = false;
+}
+
+void FrmEvent::fillForEdit() {
+    caption = "Quillhollow - Edit Event";
+    TextBoxEvent->text = tempEventDescription;
+    TextBoxNotes->text = tempEventNotes;
+    ShowEntry(*ComboType, tempEventType);
+    ShowEntry(*ComboTime, tempEventTime);
+    ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
+    for (const std::string& entry : ComboRemindMe->items)
+        if (entry == tempEventReminder) {
+            ShowEntry(*ComboRemindMe, entry);
+            break;
+        }
+    StoreEventDate = parseDateText(tempEventDate).value_or(host_.clickedDate());
+    TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
+    setQuietly(RadioMonthlyThisDate.key(), true);
+    setQuietly(RadioYearlyThisDate.key(), true);
+    showRecurrence(tempEventRecurrence);
+    if (Recurrence == "Month" || Recurrence == "Year") {
+        const bool monthly = Recurrence == "Month";
+        if (tempEventSameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
+        ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEventRepeatNumber);
+        ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEventRepeatDay);
+        if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
+    } else if (Recurrence == "Day") {
+        for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i)
+            setQuietly(kWeekdayBoxes[i], i < tempEventRepeatDaily.size() && tempEventRepeatDaily[i] == 'T');
+    }
+    // An event without an end keeps the stored date as its end date, and shows the end
+    // its repetition would propose; switching the end on takes the proposal.
+    const std::optional<Date> end = parseDateText(tempEventEndDate);
+    StoreEndDate = end.value_or(StoreEventDate);
+    const bool endOn = tempEventEnd == "True";
+    showEndDate(endOn ? StoreEndDate : ProposedEndDate(Recurrence, StoreEventDate));
+    showEndLine(endOn);
+    ResetDays = false;
+    ButtonDelete->enabled = true;
+}
+
+void FrmEvent::ButtonOK_Click() {
+    const bool monthly = Recurrence == "Month";
+    const bool anyDay = weekdayLetters().find('T') != std::string::npos;
+    const auto refusal = EventOkRefusal({
+        .name = TextBoxEvent->text,
+        .recurrence = Recurrence,
+        .anyWeekdayTicked = anyDay,
+        .endOn = RadioEndOn->checked,
+        .eventDate = StoreEventDate,
+        .endDate = StoreEndDate,
+        .userRule = monthly ? RadioMonthlyUser->checked : Recurrence == "Year" && RadioYearlyUser->checked,
+        .repeatNumber = (monthly ? ComboMonthlyNumber : ComboYearlyNumber)->text,
+        .repeatDay = (monthly ? ComboMonthlyDay : ComboYearlyDay)->text,
+    });
+    if (refusal) {
+        platform_.messages.show(refusal->message, "Quillhollow", MessageButtons::OK, MessageIcon::Information);
+        return;
+    }
+    CancelledFlag = DeleteFlag = kFalse;
+    leave();
+}
+
+void FrmEvent::leave() {
+    CloseOK = kTrue;
+    showSize(true);
+    hide();
+}
+
+void FrmEvent::CancelEvent() {
+    if (ChangeFlag) {
+        const std::string question = EditMode == "New" ? "Cancel this Event?" : "Cancel all changes to this Event?";
+        if (platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) !=
+            MessageAnswer::Yes)
+            return;
+    }
+    CancelledFlag = kTrue;
+    leave();
+}
+
+bool FrmEvent::Form_QueryUnload(UnloadMode mode) {
+    if (mode == UnloadMode::ProgramEnd) return true;
+    CancelEvent();
+    return false;
+}
+
+void FrmEvent::ButtonDelete_Click() {
+    if (platform_.messages.show("Are you sure you want to Delete this Event?", "Quillhollow", MessageButtons::YesNo,
+                                MessageIcon::Information) != MessageAnswer::Yes)
+        return;
+    TextBoxEvent->text = kDeletedRecord;
+    DeleteFlag = kTrue;
+    CancelledFlag = kFalse;
+    leave();
+}
+
+void FrmEvent::ButtonShare_Click() {
+    if (EditMode == "Edit")
+        shareOut();
+    else
+        shareIn();
+}
+
+void FrmEvent::shareOut() {
+    SharedEvent event{.name = TextBoxEvent->text,
+                      .firstDate = StoreEventDate,
+                      .type = ComboType->text,
+                      .time = ComboTime->text,
+                      .recurrence = Recurrence,
+                      .monthlyThisDate = RadioMonthlyThisDate->checked,
+                      .monthlyNumber = ComboMonthlyNumber->text,
+                      .monthlyDay = ComboMonthlyDay->text,
+                      .yearlyThisDate = RadioYearlyThisDate->checked,
+                      .yearlyNumber = ComboYearlyNumber->text,
+                      .yearlyDay = ComboYearlyDay->text,
+                      .endOn = RadioEndOn->checked,
+                      .endDate = StoreEndDate,
+                      .notes = TextBoxNotes->text};
+    for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i) event.weekdays[i] = c(kWeekdayBoxes[i]).checked;
+    ShareOut(platform_, DocumentDirectory, SharedKind::Event, sharedFileName(event.name), sharedFileBytes(event));
+}
+
+void FrmEvent::shareIn() {
+    const std::optional<SharedEvent> event = ShareInEvent(platform_, DocumentDirectory);
+    if (!event) return;
+    type(TextBoxEvent.key(), event->name);
+    StoreEventDate = event->firstDate;
+    TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
+    ChangeFlag = kTrue;
+    ChooseEntry(*this, ComboType.key(), event->type);
+    ChooseEntry(*this, ComboTime.key(), event->time);
+    // The radio runs the panel's defaults for the date; the rule read then overwrites them.
+    ResetDays = true;
+    setChecked(RecurrenceRadio(event->recurrence), true);
+    if (event->recurrence == "Month" || event->recurrence == "Year") {
+        const bool monthly = event->recurrence == "Month";
+        const bool sameDate = monthly ? event->monthlyThisDate : event->yearlyThisDate;
+        if (monthly)
+            setChecked(sameDate ? RadioMonthlyThisDate.key() : RadioMonthlyUser.key(), true);
+        else
+            setChecked(sameDate ? RadioYearlyThisDate.key() : RadioYearlyUser.key(), true);
+        ChooseEntry(*this, ComboMonthlyNumber.key(), event->monthlyNumber);
+        ChooseEntry(*this, ComboMonthlyDay.key(), event->monthlyDay);
+        ChooseEntry(*this, ComboYearlyNumber.key(), event->yearlyNumber);
+        ChooseEntry(*this, ComboYearlyDay.key(), event->yearlyDay);
+    } else if (event->recurrence == "Day") {
+        for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i) setChecked(kWeekdayBoxes[i], event->weekdays[i]);
+    }
+    StoreEndDate = event->endDate;
+    showEndDate(event->endOn ? StoreEndDate : ProposedEndDate(Recurrence, StoreEventDate));
+    showEndLine(event->endOn);
+    type(TextBoxNotes.key(), event->notes);
+}
+
+void FrmEvent::Form_MouseDown(const std::string& controlKey) { picker_->windowPressed(controlKey); }
+
+Date FrmEvent::pickerFieldDate(bool firstField) { return firstField ? StoreEventDate : shownEndDate_; }
+
+void FrmEvent::pickerWroteDate(bool firstField, Date date) {
+    ChangeFlag = kTrue;
+    if (firstField) {
+        StoreEventDate = date;
+        ResetDays = true;
+        ShowRecurrencePanel();
+        return;
+    }
+    StoreEndDate = date;
+    shownEndDate_ = date;
+    showEndLine(true);
+}
+
+}  // namespace qh

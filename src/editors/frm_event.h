@@ -1,0 +1,131 @@
+#pragma once
+// frmEvent: one event made, changed or deleted, with the recurrence panel that is the only
+// source of its rule. The event procedures fill the public fields, show the window modal
+// and, after it hides, read CancelledFlag, the form's dates and its controls into the
+// event columns.
+//
+// The window has two heights: small shows the event alone, large adds the recurrence
+// panel below it (the four recurrence radios, the frame of the chosen one in front, and
+// the visible end-date line).
+#include <array>
+#include <memory>
+#include <string>
+
+#include "calendar/date_picker.h"
+#include "common/int16.h"
+#include "platform/control_ref.h"
+#include "platform/platform.h"
+
+namespace qh {
+
+class EditorHost;
+
+class FrmEvent : public Form, public DatePickerOwner, public HasDatePicker {
+public:
+    static constexpr int kOuterWidth = 6330, kSmallHeight = 4305, kLargeHeight = 6645;
+
+    FrmEvent(Platform& platform, EditorHost& host);
+    ~FrmEvent() override;
+
+    // Set by the caller before the showing; for an edit also the thirteen texts of the
+    // record as its columns hold them.
+    std::string EditMode = "New";
+    bool FormSmall = true;
+    std::string tempEventDate, tempEventDescription, tempEventType, tempEventTime, tempEventReminder,
+        tempEventRecurrence, tempEventSameDate, tempEventRepeatNumber, tempEventRepeatDay, tempEventRepeatDaily,
+        tempEventEnd, tempEventEndDate, tempEventNotes;
+    // Where the share dialogs start.
+    std::string DocumentDirectory;
+
+    // The form's state; the caller reads the two dates and Recurrence after a save.
+    Date StoreEventDate = 0, StoreEndDate = 0;
+    std::string Recurrence = "None";
+    bool ResetDays = true;
+    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, DeleteFlag = kFalse, CloseOK = kFalse;
+
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload(UnloadMode mode) override;
+    void Form_MouseDown(const std::string& controlKey) override;
+
+    // Sets the panel of Recurrence to the defaults of StoreEventDate and proposes the end
+    // date that kind of repetition starts with.
+    void ShowRecurrencePanel();
+    // ButtonCancel and the close box.
+    void CancelEvent();
+    // Monday first, the weekday boxes as "T" and "F" letters.
+    std::string weekdayLetters() const;
+
+    Date pickerFieldDate(bool firstField) override;
+    void pickerWroteDate(bool firstField, Date date) override;
+    DatePicker& datePicker() override { return *picker_; }
+
+    ControlRef TextBoxEvent{this, "TextBoxEvent"};
+    ControlRef ComboType{this, "ComboType"};
+    ControlRef TextboxEventDate{this, "TextboxEventDate"};
+    ControlRef LabelDate{this, "LabelDate"};
+    ControlRef ComboTime{this, "ComboTime"};
+    ControlRef ComboRemindMe{this, "ComboRemindMe"};
+    ControlRef TextBoxNotes{this, "TextBoxNotes"};
+    ControlRef LabelViewRecurring{this, "LabelViewRecurring"};
+    ControlRef RadioRepeatNone{this, "RadioRepeatNone"};
+    ControlRef RadioRepeatDaily{this, "RadioRepeatDaily"};
+    ControlRef RadioRepeatMonthly{this, "RadioRepeatMonthly"};
+    ControlRef RadioRepeatYearly{this, "RadioRepeatYearly"};
+    ControlRef RadioMonthlyThisDate{this, "RadioMonthlyThisDate"};
+    ControlRef RadioMonthlyUser{this, "RadioMonthlyUser"};
+    ControlRef ComboMonthlyNumber{this, "ComboMonthlyNumber"};
+    ControlRef ComboMonthlyDay{this, "ComboMonthlyDay"};
+    ControlRef RadioYearlyThisDate{this, "RadioYearlyThisDate"};
+    ControlRef RadioYearlyUser{this, "RadioYearlyUser"};
+    ControlRef ComboYearlyNumber{this, "ComboYearlyNumber"};
+    ControlRef ComboYearlyDay{this, "ComboYearlyDay"};
+    ControlRef LabelRepeatMonth{this, "LabelRepeatMonth"};
+    ControlRef RadioEndNone{this, "RadioEndNone"};
+    ControlRef RadioEndOn{this, "RadioEndOn"};
+    ControlRef CheckboxEndDate{this, "CheckboxEndDate"};
+    ControlRef LabelEndDate{this, "LabelEndDate"};
+    ControlRef TextboxEndDate{this, "TextboxEndDate"};
+    ControlRef ButtonOK{this, "ButtonOK"};
+    ControlRef ButtonCancel{this, "ButtonCancel"};
+    ControlRef ButtonDelete{this, "ButtonDelete"};
+    ControlRef ButtonShare{this, "ButtonShare"};
+
+    // The radio that chooses a recurrence ("Day": RadioRepeatDaily); RadioRepeatNone for
+    // any text but the four.
+    static std::string RecurrenceRadio(const std::string& recurrence);
+    // CheckBoxMonday .. CheckBoxSunday.
+    static const std::array<const char*, 7> kWeekdayBoxes;
+
+private:
+    void buildControls();
+    void buildRecurrencePanel();
+    void bindHandlers();
+    void bindRecurrenceHandlers();
+    void fillForNew();
+    void fillForEdit();
+    void showSize(bool small);
+    // Sets a box or radio from code without its click's consequences.
+    void setQuietly(const std::string& key, bool checked);
+    // The recurrence radio's frame in front, Recurrence and the date's label.
+    void showRecurrence(const std::string& recurrence);
+    // The end-date line on (the end date counts) or off, with the date it shows.
+    void showEndLine(bool on);
+    void showEndDate(Date date);
+    void ButtonOK_Click();
+    void ButtonDelete_Click();
+    void ButtonShare_Click();
+    void shareOut();
+    void shareIn();
+    void leave();
+
+    Platform& platform_;
+    EditorHost& host_;
+    std::unique_ptr<DatePicker> picker_;
+    // The date TextboxEndDate shows. It differs from StoreEndDate only while an edited
+    // event without an end shows its proposal; switching the end on adopts it.
+    Date shownEndDate_ = 0;
+    bool quiet_ = false;
+};
+
+}  // namespace qh

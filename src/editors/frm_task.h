@@ -1,0 +1,75 @@
+#pragma once
+// FrmTask: one task made, changed or deleted. The window holds no record logic: the task
+// procedures fill its public fields, show it modal and, after it hides, read
+// CancelledFlag and its controls into the task columns.
+#include <memory>
+#include <string>
+
+#include "calendar/date_picker.h"
+#include "common/int16.h"
+#include "platform/control_ref.h"
+#include "platform/platform.h"
+
+namespace qh {
+
+class EditorHost;
+
+class FrmTask : public Form, public DatePickerOwner, public HasDatePicker {
+public:
+    FrmTask(Platform& platform, EditorHost& host);
+    ~FrmTask() override;
+
+    // In: the task of an edit as its columns hold it. tempTaskDate is also the picker's
+    // field, kept as a date; it is written back when a date is picked.
+    std::string tempTaskDescription, tempTaskDateExists, tempTaskType, tempTaskPriority, tempTaskDone,
+        tempTaskNotes, tempTaskReminder;
+    Date tempTaskDate = 0;
+    int SelectedTaskIndex = 0;
+    std::string EditMode = "New";
+    // Where the share dialogs start.
+    std::string DocumentDirectory;
+    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, DeleteFlag = kFalse, CloseOK = kFalse;
+
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload(UnloadMode mode) override;
+    void Form_MouseDown(const std::string& controlKey) override;
+
+    // ButtonCancel and the close box: asks when something changed, then sets
+    // CancelledFlag and CloseOK; any answer but Yes leaves both as they were.
+    void CancelTask();
+
+    Date pickerFieldDate(bool firstField) override;
+    void pickerWroteDate(bool firstField, Date date) override;
+    DatePicker& datePicker() override { return *picker_; }
+
+    ControlRef TextBoxDescription{this, "TextBoxDescription"};
+    ControlRef TextBoxNotes{this, "TextBoxNotes"};
+    ControlRef TextboxTaskDate{this, "TextboxTaskDate"};
+    ControlRef LabelDeadline{this, "LabelDeadline"};
+    ControlRef CheckBoxDeadline{this, "CheckBoxDeadline"};
+    ControlRef CheckBoxDone{this, "CheckBoxDone"};
+    ControlRef LabelDoneBG{this, "LabelDoneBG"};
+    ControlRef ComboType{this, "ComboType"};
+    ControlRef ComboPriority{this, "ComboPriority"};
+    ControlRef ComboRemindMe{this, "ComboRemindMe"};
+    ControlRef ButtonOK{this, "ButtonOK"};
+    ControlRef ButtonCancel{this, "ButtonCancel"};
+    ControlRef ButtonDelete{this, "ButtonDelete"};
+    ControlRef ButtonShare{this, "ButtonShare"};
+
+private:
+    void buildControls();
+    void bindHandlers();
+    void showDeadline(bool on);
+    void showDone();
+    void ButtonOK_Click();
+    void ButtonDelete_Click();
+    void ButtonShare_Click();
+
+    Platform& platform_;
+    EditorHost& host_;
+    std::unique_ptr<DatePicker> picker_;
+};
+
+}  // namespace qh

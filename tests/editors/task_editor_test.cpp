@@ -1,0 +1,215 @@
+// The task editor as a user drives it: the bytes of Tasks.txt after the saves the probe
+// script leaves out, OK's refusal, the questions of cancel, the close box and delete, and
+// what each showing puts on screen.
+#include <gtest/gtest.h>
+
+#include "editors/editor_windows.h"
+#include "editors/frm_task.h"
+#include "support/main_window_fixture.h"
+#include "support/task_event_records.h"
+
+namespace qh {
+namespace {
+
+using Step = std::function<void(FrmTask&)>;
+
+// 2026-11-21, a Saturday: today and the calendar's date at the start.
+struct Tasks : LoadedMainWindow {
+    explicit Tasks(const std::string& file = "") {
+        if (!file.empty()) putDataFile("Tasks.txt", file);
+        fake.clock.set(2026, 11, 21);
+        load();
+    }
+    // Opens the task of `row` (0 for a new one) and drives it with `step`.
+    void run(int row, const Step& step) {
+        fake.windowing.modalUsers["FrmTask"].push_back([step](Form& form) { step(static_cast<FrmTask&>(form)); });
+        if (row == 0)
+            window->NewTask();
+        else
+            window->EditTask(row);
+    }
+    std::string tasksFile() { return fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"); }
+    std::vector<std::string> messages() {
+        std::vector<std::string> texts;
+        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
+        return texts;
+    }
+};
+
+// The Tasks.txt of the edit cases: three records, the second a tombstone.
+const TaskFields kLaundry{.recordNo = 1, .description = "Laundry", .date = "2026/11/20", .type = "Home"};
+const TaskFields kTombstone{.recordNo = 2, .description = "DELETED RECORD", .date = "2026/11/01", .done = "True"};
+const TaskFields kEssay{.recordNo = 3,
+                        .description = "Essay outline",
+                        .dateExists = "True",
+                        .date = "2026/12/02",
+                        .type = "School",
+                        .priority = "High",
+                        .notes = "Three sources\r\nOne quote",
+                        .reminder = "3 Days"};
+
+std::string threeTasks() { return taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(kEssay); }
+
+TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
+    const auto with = [](TaskFields task, const std::function<void(TaskFields&)>& change) {
+        change(task);
+        return task;
+    };
+    const struct {
+        const char* name;
+        std::string before;
+        int row;
+        Step step;
+        std::string after;
+    } cases[] = {
+        // A date picked and the deadline switched off again: today's date is stored.
+        {"NewWithoutDeadlineStoresToday", "", 0,
+         [](FrmTask& w) {
+             w.type("TextBoxDescription", "Call grandma");
+             w.click("TextboxTaskDate");
+             w.click("LabelTomorrow");
+             w.click("CheckBoxDeadline");
+             w.click("CheckBoxDone");
+             w.click("ButtonOK");
+         },
+         taskRecord({.description = "Call grandma", .date = "2026/11/21", .done = "True"})},
+        // Appended after the tombstone: record 4, whatever the row count.
+        {"NewAfterATombstone", threeTasks(), 0,
+         [](FrmTask& w) {
+             w.type("TextBoxDescription", "Buy stamps");
+             w.click("ButtonOK");
+         },
+         threeTasks() + taskRecord({.recordNo = 4, .description = "Buy stamps", .date = "2026/11/21"})},
+        // Row 2 is record 3: overwritten in place, the reminder and the notes kept.
+        {"EditOverwritesInPlace", threeTasks(), 2,
+         [](FrmTask& w) {
+             w.type("TextBoxDescription", "Essay draft");
+             w.click("CheckBoxDone");
+             w.click("ButtonOK");
+         },
+         taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(with(kEssay, [](TaskFields& t) {
+             t.description = "Essay draft";
+             t.done = "True";
+         }))},
+        // An undated task's edit stores the day of the edit, not its old date.
+        {"EditOfAnUndatedTask", threeTasks(), 1,
+         [](FrmTask& w) {
+             w.select("ComboPriority", "Low");
+             w.click("ButtonOK");
+         },
+         taskRecord(with(kLaundry, [](TaskFields& t) {
+             t.priority = "Low";
+             t.date = "2026/11/21";
+         })) + taskRecord(kTombstone) + taskRecord(kEssay)},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Tasks tasks(c.before);
+        tasks.run(c.row, c.step);
+        EXPECT_EQ(tasks.tasksFile(), c.after);
+    }
+}
+
+// OK's refusal read from the window's controls; cancel, close box and delete with their
+// questions. Each row ends with the messages shown and whether the window stays open, and
+// writes nothing.
+TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
+    const struct {
+        const char* name;
+        int row;
+        std::vector<MessageAnswer> answers;
+        Step step;
+        std::vector<std::string> messages;
+        bool staysOpen;
+    } cases[] = {
+        {"NoNameWinsOverReminderWithoutDeadline", 0, {},
+         [](FrmTask& w) {
+             w.select("ComboRemindMe", "5 Days");
+             w.click("ButtonOK");
+         },
+         {"This task has no name."}, true},
+        {"CancelWithoutChangeAsksNothing", 2, {}, [](FrmTask& w) { w.click("ButtonCancel"); }, {}, false},
+        {"CancelOfANewTaskRefused", 0, {MessageAnswer::No},
+         [](FrmTask& w) {
+             w.type("TextBoxDescription", "Pay rent");
+             w.click("ButtonCancel");
+             EXPECT_EQ(w.TextBoxDescription->text, "Pay rent");
+             EXPECT_TRUE(w.ChangeFlag);
+             EXPECT_FALSE(w.CancelledFlag);
+         },
+         {"Cancel this Task?"}, true},
+        {"CloseBoxOfAnEditAsksAndHides", 2, {MessageAnswer::Yes},
+         [](FrmTask& w) {
+             w.click("CheckBoxDone");
+             EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox));
+         },
+         {"Cancel all changes to this Task?"}, false},
+        {"DeleteRefused", 2, {MessageAnswer::No},
+         [](FrmTask& w) {
+             w.click("ButtonDelete");
+             EXPECT_EQ(w.TextBoxDescription->text, "Essay outline");
+             EXPECT_FALSE(w.DeleteFlag);
+         },
+         {"Are you sure you want to Delete this Task?"}, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Tasks tasks(threeTasks());
+        for (MessageAnswer answer : c.answers) tasks.fake.messages.answers.push_back(answer);
+        bool open = false;
+        tasks.run(c.row, [&](FrmTask& w) {
+            c.step(w);
+            open = w.visible;
+            if (open) {  // the showing ends here as a cancel, so that nothing is written
+                w.CancelledFlag = kTrue;
+                w.hide();
+            }
+        });
+        EXPECT_EQ(tasks.messages(), c.messages);
+        EXPECT_EQ(open, c.staysOpen);
+        EXPECT_EQ(tasks.tasksFile(), threeTasks());
+    }
+}
+
+// What each showing puts on screen, also after another showing left its controls behind.
+TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
+    Tasks tasks(threeTasks() + taskRecord({.recordNo = 4, .description = "Odd reminder", .dateExists = "True",
+                                           .date = "2026/11/30", .done = "True", .reminder = "45 Days"}));
+    tasks.run(2, [](FrmTask& w) {
+        EXPECT_EQ(w.caption, "Quillhollow - Edit Task");
+        EXPECT_EQ(w.TextboxTaskDate->text, "Wednesday, December 2, 2026");
+        EXPECT_EQ(w.LabelDeadline->caption, "Date");
+        EXPECT_EQ(w.TextboxTaskDate->foreColor, kBlack);
+        EXPECT_EQ(w.ComboRemindMe->text, "3 Days");
+        EXPECT_TRUE(w.ButtonDelete->visible);
+        EXPECT_EQ(w.focusedControl, "TextBoxDescription");
+        EXPECT_FALSE(w.ChangeFlag);
+        w.click("ButtonCancel");
+    });
+    // A reminder the list doesn't hold shows the first entry; Done shows green.
+    tasks.run(3, [](FrmTask& w) {
+        EXPECT_EQ(w.ComboRemindMe->text, "None");
+        EXPECT_TRUE(w.CheckBoxDone->checked);
+        EXPECT_EQ(w.CheckBoxDone->backColor, w.LabelDoneBG->backColor);
+        EXPECT_EQ(w.CheckBoxDone->backColor, 0x008000);  // "Green"
+        EXPECT_FALSE(w.ChangeFlag);
+        w.click("ButtonCancel");
+    });
+    tasks.run(0, [](FrmTask& w) {
+        EXPECT_EQ(w.caption, "Quillhollow - New Task");
+        EXPECT_EQ(w.TextBoxDescription->text, "");
+        EXPECT_NE(w.CheckBoxDone->backColor, 0x008000);
+        EXPECT_FALSE(w.CheckBoxDeadline->checked);
+        EXPECT_EQ(w.LabelDeadline->caption, "No Date Set");
+        EXPECT_EQ(w.TextboxTaskDate->text, "Saturday, November 21, 2026");
+        EXPECT_EQ(w.TextboxTaskDate->foreColor, rgb(128, 128, 128));
+        EXPECT_EQ(w.ComboType->text, "None");
+        EXPECT_FALSE(w.ButtonDelete->visible);
+        EXPECT_FALSE(w.ChangeFlag);
+        w.click("ButtonCancel");
+    });
+    EXPECT_TRUE(tasks.messages().empty());
+}
+
+}  // namespace
+}  // namespace qh
