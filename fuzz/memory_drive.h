@@ -68,8 +68,9 @@ public:
     PrinterAnswer printerDialog() override { return {}; }
     void show(Form&) override {}
     void showModal(Form&, Form*) override {}
-    void close(Form&) override {}
+    void close(Form&, UnloadMode) override {}
     void processEvents() override {}
+    void paintPending() override {}
     int screenWidthTwips() const override { return 1280 * 15; }
     int screenHeightTwips() const override { return 1024 * 15; }
     void enterWhatsThisMode() override {}
