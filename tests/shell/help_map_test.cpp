@@ -62,7 +62,7 @@ const std::vector<WindowUnderTest>& windows() {
          }},
         {"frmAbout",
          [](FakePlatform& fake, const std::function<void(Form&)>& visit) {
-             FrmAbout about(fake.environment, fake.processes);
+             FrmAbout about(fake.platform);
              about.Form_Load();
              visit(about);
          }},

@@ -220,6 +220,7 @@ std::int32_t FakeProcesses::startCommand(const std::string& commandLine) {
 void FakeProcesses::openWithDefaultHandler(const std::string& pathOrAddress) {
     opened.push_back(pathOrAddress);
     if (onOutsideAction) onOutsideAction("Open " + quotedText(pathOrAddress));
+    if (openFails) throw FileFailure("Cannot open " + pathOrAddress);
 }
 
 FileDialogAnswer FakeDialogs::fileDialog(const FileDialogRequest& request) {

@@ -120,6 +120,7 @@ public:
     bool otherInstance = false;
     std::int32_t pid = 4242;
     bool startFails = false;
+    bool openFails = false;  // no default handler on this desktop
     std::vector<std::string> started, opened;
     OutsideActionSink onOutsideAction;
 };
