@@ -3,7 +3,7 @@
 #include "export/calendar_export.h"
 #include "export/export_page.h"
 #include "export/list_export.h"
-#include "shell/common_dialog.h"
+#include "platform/common_dialog.h"
 #include "shell/desktop_open.h"
 #include "shell/main_window.h"
 
