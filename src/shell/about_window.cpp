@@ -27,7 +27,8 @@ FrmAbout::FrmAbout(Platform& platform) : Form("frmAbout"), platform_(platform) {
 
     on("cmdOK", FormEvent::Click, [this](const EventArgs&) { hide(); });
     on("lblDescription", FormEvent::Click, [this](const EventArgs&) {
-        OpenWithDesktop(platform_.processes, platform_.messages, HelpBookAddress(platform_.environment, kProductSitePage));
+        OpenWithDesktop(platform_.processes, platform_.messages,
+                        HelpBookAddress(platform_.environment, kProductSitePage));
     });
 }
 

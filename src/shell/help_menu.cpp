@@ -31,7 +31,8 @@ void MainWindow::bindHelpHandlers() {
     onClick("MenuVideo2", [this] { PlayVideo("AddAssignment.wmv"); });
     onClick("MenuVideo3", [this] { PlayVideo("FinishAssignment.wmv"); });
     auto openHomeworkHelp = [this] {
-        OpenWithDesktop(platform.processes, platform.messages, HelpBookAddress(platform.environment, kHomeworkHelpPage));
+        OpenWithDesktop(platform.processes, platform.messages,
+                        HelpBookAddress(platform.environment, kHomeworkHelpPage));
     };
     onClick("MenuHomeworkHelp", openHomeworkHelp);
     onClick("PictureBarWeb", openHomeworkHelp);
@@ -44,7 +45,8 @@ FrmTip& MainWindow::tipWindow() {
         tip_->Form_Load();
         // The video line leads to the tutorials of the help book.
         tip_->on("LabelVideo", FormEvent::Click, [this](const EventArgs&) {
-            OpenWithDesktop(platform.processes, platform.messages, HelpBookAddress(platform.environment, kTutorialsPage));
+            OpenWithDesktop(platform.processes, platform.messages,
+                            HelpBookAddress(platform.environment, kTutorialsPage));
         });
     }
     return *tip_;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <fstream>
+#include <functional>
 #include <regex>
 #include <sstream>
 
 #include "shell/about_window.h"
-#include "shell/tip_window.h"
 #include "shell/main_window.h"
+#include "shell/tip_window.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -88,7 +88,8 @@ TEST(HelpMenu, AVideoPlaysFromTheHostFolderOrTheStudentHearsItIsMissing) {
     const struct {
         const char* menu;
         const char* file;
-    } videos[] = {{"MenuVideo1", "ClassSchedule.wmv"}, {"MenuVideo2", "AddAssignment.wmv"},
+    } videos[] = {{"MenuVideo1", "ClassSchedule.wmv"},
+                  {"MenuVideo2", "AddAssignment.wmv"},
                   {"MenuVideo3", "FinishAssignment.wmv"}};
     for (const auto& video : videos) {
         SCOPED_TRACE(video.menu);
@@ -158,7 +159,8 @@ TEST(HelpMenu, AboutNamesTheProgramAndTheVersionTheBuildWasMadeWith) {
                         "About Quillhollow", "Quillhollow for u3", "Version " + projectVersion(),
                         "Quillhollow is the essential homework management tool. It combines the best features of a "
                         "student planner and homework organizer  into one, easy to use program.\n\nFor questions, "
-                        "orders and upgrades, visit the website at " + site,
+                        "orders and upgrades, visit the website at " +
+                            site,
                         "hidden"}));
     EXPECT_EQ(main.fake.processes.opened, std::vector<std::string>{site});
     EXPECT_EQ(main.fake.windowing.log.back(), "modal frmAbout");

@@ -28,10 +28,12 @@ struct ExportDrive {
         const std::string data = fake.dataDirectory();
         fake.writeBytes(data + "/Terms.txt", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/18"));
         fake.writeBytes(data + "/Classes.txt", classRecord(1, 1, "Algebra", "Black", "MistyRose"));
-        fake.writeBytes(data + "/Assignments.txt", assignmentRecord(1, 1, "2026/11/24", "Read <Hamlet> & notes", false) +
-                                                       assignmentRecord(2, 1, "2026/11/25", "Quiz review", true));
-        std::filesystem::copy(std::string(QH_SOURCE_DIR) + "/templates", fake.exec,
-                              std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
+        fake.writeBytes(data + "/Assignments.txt",
+                        assignmentRecord(1, 1, "2026/11/24", "Read <Hamlet> & notes", false) +
+                            assignmentRecord(2, 1, "2026/11/25", "Quiz review", true));
+        std::filesystem::copy(
+            std::string(QH_SOURCE_DIR) + "/templates", fake.exec,
+            std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
     }
 };
 
@@ -43,17 +45,29 @@ TEST(ProbeExport, EachListAndMonthSheetIsSavedWhereChosenAndOpened) {
         const char* suggestedName;
         std::vector<std::string> inPage;
     } cases[] = {
-        {"homework", "MenuExportList", "Export Assignment List to HTML File", "Homework List.html",
+        {"homework",
+         "MenuExportList",
+         "Export Assignment List to HTML File",
+         "Homework List.html",
          {"Read &lt;Hamlet&gt; &amp; notes", "Quiz review", "Algebra", "Yes"}},
         {"sessions", "MenuExportList", "Export Study Sessions to HTML File", "Study Time List.html", {}},
         {"tasks", "MenuExportList", "Export Tasks to HTML File", "Task List.html", {}},
         {"reminders", "MenuExportList", "Export Reminder List to HTML File", "Reminder List.html", {}},
         {"events", "MenuExportList", "Export Event List to HTML File", "Event List.html", {}},
-        {"homework", "MenuExportCalendar", "Export Assignments to HTML Calendar File", "November Homework Calendar.html",
+        {"homework",
+         "MenuExportCalendar",
+         "Export Assignments to HTML Calendar File",
+         "November Homework Calendar.html",
          {"November 2026 Homework Calendar", "Read &lt;Hamlet&gt; &amp; notes"}},
-        {"tasks", "MenuExportCalendar", "Export Tasks to HTML Calendar File", "November Task Calendar.html",
+        {"tasks",
+         "MenuExportCalendar",
+         "Export Tasks to HTML Calendar File",
+         "November Task Calendar.html",
          {"November 2026 Task Calendar"}},
-        {"events", "MenuExportCalendar", "Export Events to HTML Calendar File", "November Event Calendar.html",
+        {"events",
+         "MenuExportCalendar",
+         "Export Events to HTML Calendar File",
+         "November Event Calendar.html",
          {"November 2026 Event Calendar"}},
     };
     ExportDrive drive;
