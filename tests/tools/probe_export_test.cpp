@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "probe_session.h"
+#include "record_store/record_bindings.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -20,8 +21,8 @@ std::size_t countOf(const std::string& text, const std::string& line) {
     return count;
 }
 
-// A drive with one term, one class and two assignments, and the page templates installed
-// beside the program.
+// A drive with one term, one class, two assignments, a task and an event, and the page
+// templates installed beside the program.
 struct ExportDrive {
     FakePlatform fake;
     ExportDrive() {
@@ -31,6 +32,13 @@ struct ExportDrive {
         fake.writeBytes(data + "/Assignments.txt",
                         assignmentRecord(1, 1, "2026/11/24", "Read <Hamlet> & notes", false) +
                             assignmentRecord(2, 1, "2026/11/25", "Quiz review", true));
+        const TaskBuffer task{"1",     "1", "2026/11/23", "Return <library> books", "True", "None", "High",
+                              "False", "",  "2 Days"};
+        fake.writeBytes(data + "/Tasks.txt", buildRecord(kTasksLayout, kTaskBinding.valuesOf(task)));
+        const EventBuffer event{
+            "1",      "1",       "2026/11/26", "Choir & band concert", "None", "None", "None", "False", "First",
+            "Sunday", "FFFFFFF", "False",      "2026/11/26",           "",     "None"};
+        fake.writeBytes(data + "/Events.txt", buildRecord(kEventsLayout, kEventBinding.valuesOf(event)));
         std::filesystem::copy(
             std::string(QH_SOURCE_DIR) + "/templates", fake.exec,
             std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
@@ -51,9 +59,13 @@ TEST(ProbeExport, EachListAndMonthSheetIsSavedWhereChosenAndOpened) {
          "Homework List.html",
          {"Read &lt;Hamlet&gt; &amp; notes", "Quiz review", "Algebra", "Yes"}},
         {"sessions", "MenuExportList", "Export Study Sessions to HTML File", "Study Time List.html", {}},
-        {"tasks", "MenuExportList", "Export Tasks to HTML File", "Task List.html", {}},
-        {"reminders", "MenuExportList", "Export Reminder List to HTML File", "Reminder List.html", {}},
-        {"events", "MenuExportList", "Export Event List to HTML File", "Event List.html", {}},
+        {"tasks", "MenuExportList", "Export Tasks to HTML File", "Task List.html", {"Return &lt;library&gt; books"}},
+        {"reminders",
+         "MenuExportList",
+         "Export Reminder List to HTML File",
+         "Reminder List.html",
+         {"Return &lt;library&gt; books", "2 Days"}},
+        {"events", "MenuExportList", "Export Event List to HTML File", "Event List.html", {"Choir &amp; band concert"}},
         {"homework",
          "MenuExportCalendar",
          "Export Assignments to HTML Calendar File",
@@ -63,12 +75,12 @@ TEST(ProbeExport, EachListAndMonthSheetIsSavedWhereChosenAndOpened) {
          "MenuExportCalendar",
          "Export Tasks to HTML Calendar File",
          "November Task Calendar.html",
-         {"November 2026 Task Calendar"}},
+         {"November 2026 Task Calendar", "Return &lt;library&gt; books"}},
         {"events",
          "MenuExportCalendar",
          "Export Events to HTML Calendar File",
          "November Event Calendar.html",
-         {"November 2026 Event Calendar"}},
+         {"November 2026 Event Calendar", "Choir &amp; band concert"}},
     };
     ExportDrive drive;
     std::ostringstream out;
@@ -90,7 +102,8 @@ TEST(ProbeExport, EachListAndMonthSheetIsSavedWhereChosenAndOpened) {
         EXPECT_NE(written.find("Created on Saturday, November 21, 2026"), std::string::npos);
         EXPECT_EQ(written.find(">~<"), std::string::npos);
         for (const std::string& text : c.inPage) EXPECT_NE(written.find(text), std::string::npos) << text;
-        EXPECT_EQ(written.find("<Hamlet>"), std::string::npos);
+        for (const char* raw : {"<Hamlet>", "<library>", "Choir & band"})
+            EXPECT_EQ(written.find(raw), std::string::npos);
     }
     // Cancelled, nothing is written and nothing opens.
     out.str("");
