@@ -69,7 +69,7 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
         const ShownMessage& shown = main.fake.messages.shown[0];
         const bool started = c.name == std::string("help book");  // the others go to the default handler
         const std::string target = (started ? "" : "file://") + main.fake.exec + c.target;
-        EXPECT_TRUE(shown.text.starts_with("Could not open \"" + target + "\"")) << shown.text;
+        EXPECT_TRUE(shown.text.starts_with("Could not open \"" + main.fake.exec + c.target + "\"")) << shown.text;
         EXPECT_EQ(shown.title, "Quillhollow");
         EXPECT_EQ(shown.icon, MessageIcon::Exclamation);
         EXPECT_EQ(pidFiles(main.fake.host), std::vector<std::string>{"4242.PID"});
