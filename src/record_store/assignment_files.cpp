@@ -77,11 +77,8 @@ bool RecordFiles::SaveNote(Int16 RecordNumber) {
 }
 
 bool RecordFiles::SaveStudySession(Int16 RecordNumber, int Row) {
-    return saveOne(kStudySessionsLayout, store_.NextStudySessionRecord, store_.StudySessionsChanged, RecordNumber, [&] {
-        const RecordStore& s = store_;
-        return Values{s.EditStudySessionRecordNos(Row), s.EditStudySessionLinkIDs(Row), s.EditStudySessionLengths(Row),
-                      s.EditStudySessionDates(Row)};
-    });
+    return saveOne(kEditStudySessionBinding.layout, store_.NextStudySessionRecord, store_.StudySessionsChanged,
+                   RecordNumber, [&] { return kEditStudySessionBinding.valuesOfRow(store_, Row); });
 }
 
 bool RecordFiles::ReadNote(Int16 RecordNumber) {

@@ -55,6 +55,13 @@ constexpr FieldBinding<NoBuffer> kStudySessionFields[] = {
     {"Date", &S::StudySessionDates, nullptr},
 };
 
+constexpr FieldBinding<NoBuffer> kEditStudySessionFields[] = {
+    {"RecordNo", &S::EditStudySessionRecordNos, nullptr},
+    {"LinkID", &S::EditStudySessionLinkIDs, nullptr},
+    {"Length", &S::EditStudySessionLengths, nullptr},
+    {"Date", &S::EditStudySessionDates, nullptr},
+};
+
 using T = TaskBuffer;
 constexpr FieldBinding<T> kTaskFields[] = {
     {"RecordNo", &S::TaskRecordNos, [](const T& b) { return b.RecordNo; }},
@@ -134,6 +141,7 @@ const RecordBinding<NoBuffer> kClassBinding{kClassesLayout, kClassFields};
 const RecordBinding<AssignmentBuffer> kAssignmentBinding{kAssignmentsLayout, kAssignmentFields};
 const RecordBinding<NoteBuffer> kNoteBinding{kNotesLayout, kNoteFields};
 const RecordBinding<NoBuffer> kStudySessionBinding{kStudySessionsLayout, kStudySessionFields};
+const RecordBinding<NoBuffer> kEditStudySessionBinding{kStudySessionsLayout, kEditStudySessionFields};
 const RecordBinding<TaskBuffer> kTaskBinding{kTasksLayout, kTaskFields};
 const RecordBinding<EventBuffer> kEventBinding{kEventsLayout, kEventFields};
 

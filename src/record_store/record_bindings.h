@@ -47,6 +47,8 @@ extern const RecordBinding<NoBuffer> kClassBinding;
 extern const RecordBinding<AssignmentBuffer> kAssignmentBinding;
 extern const RecordBinding<NoteBuffer> kNoteBinding;
 extern const RecordBinding<NoBuffer> kStudySessionBinding;
+// A study session as the assignment editor saves it: from its own session columns.
+extern const RecordBinding<NoBuffer> kEditStudySessionBinding;
 extern const RecordBinding<TaskBuffer> kTaskBinding;
 extern const RecordBinding<EventBuffer> kEventBinding;
 

@@ -28,6 +28,7 @@ TEST(RecordBindings, EveryKindBindsEachValueFieldOfItsFileInOrder) {
     EXPECT_EQ(boundFieldsOf(kAssignmentBinding), valueFieldsOf(kAssignmentsLayout));
     EXPECT_EQ(boundFieldsOf(kNoteBinding), valueFieldsOf(kNotesLayout));
     EXPECT_EQ(boundFieldsOf(kStudySessionBinding), valueFieldsOf(kStudySessionsLayout));
+    EXPECT_EQ(boundFieldsOf(kEditStudySessionBinding), valueFieldsOf(kStudySessionsLayout));
     EXPECT_EQ(boundFieldsOf(kTaskBinding), valueFieldsOf(kTasksLayout));
     EXPECT_EQ(boundFieldsOf(kEventBinding), valueFieldsOf(kEventsLayout));
     EXPECT_EQ(kEventBinding.position("Description"), 3u);
