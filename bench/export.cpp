@@ -1,7 +1,8 @@
 // The exports on the maximal sample drive: the largest list (every task, 32,766 rows, and
 // the whole term's homework) written through its template to the closed file, under
 // 300 ms; and each month sheet, under 30 ms. The pages go to real files through the
-// program's file layer; the default handler is not started.
+// program's file layer (renamed into place, not synced); the default handler is not
+// started.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>

@@ -10,6 +10,7 @@
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/termination_signals.h"
+#include "shell/desktop_open.h"
 #include "shell/help_topics.h"
 #include "shell/main_window.h"
 #include "shell/module1.h"
@@ -25,7 +26,7 @@ int main() {
     // What's This: the bubble tells what the control does and links its help page.
     qt.renderer().helpText = [&qt](int number) { return qh::WhatsThisText(number, qt.platform().environment); };
     qt.renderer().openHelpLink = [&qt](const std::string& address) {
-        qt.platform().processes.openWithDefaultHandler(address);
+        qh::OpenWithDesktop(qt.platform().processes, qt.platform().messages, address);
     };
     // From here on a termination signal waits for the main window: one that comes during
     // the load is handled as soon as the load is done.

@@ -1,7 +1,7 @@
 #include "editors/shared_file_transfer.h"
 
 #include "common/failure.h"
-#include "shell/common_dialog.h"
+#include "platform/common_dialog.h"
 
 namespace qh {
 namespace {

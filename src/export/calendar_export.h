@@ -17,7 +17,7 @@
 
 #include "common/day_number.h"
 #include "record_store/columns.h"
-#include "shell/main_window_state.h"
+#include "list_view/main_window_state.h"
 
 namespace qh {
 

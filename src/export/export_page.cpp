@@ -25,7 +25,7 @@ bool WriteExportPage(Platform& platform, const std::string& templatePath, const 
         return false;
     }
     try {
-        platform.files.writeWhole(pagePath, makePage(templateText));
+        platform.files.writeWholeUnsynced(pagePath, makePage(templateText));
     } catch (const FileFailure&) {
         tell(platform, "The page \"" + pagePath + "\" could not be written.\n\nCheck that its folder exists and "
                        "that the file is not open in another program.");

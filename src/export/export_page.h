@@ -1,7 +1,8 @@
 #pragma once
 // Writing an exported page: the template read from the program's folder, the page made
 // from it and written whole. A page is never left half-written: the file layer writes a
-// temporary file beside the target and renames it over. A template that cannot be read or
+// temporary file beside the target and renames it over. It does not wait for the disk: a
+// page is not a record of the planner and the next export makes it again. A template that cannot be read or
 // a target that cannot be written is told in a message naming the file; the planner goes
 // on.
 #include <functional>

@@ -13,7 +13,7 @@
 
 #include "platform/locale.h"
 #include "record_store/columns.h"
-#include "shell/main_window_state.h"
+#include "list_view/main_window_state.h"
 
 namespace qh {
 

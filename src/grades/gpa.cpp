@@ -6,7 +6,6 @@
 
 #include "common/text.h"
 #include "list_view/record_index.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -170,14 +169,6 @@ GradeList ComputeGradeList(const RecordStore& store) {
     for (int c = 1; c <= list.GPAClassIDs.count(); ++c)
         list.Entries.push_back(firstCharacters(list.GPAClassNames(c), 13) + " " + list.GPATexts(c));
     return list;
-}
-
-void MainWindow::UpdateGradeList() {
-    Control& combo = c("ComboGPA");
-    combo.items = ComputeGradeList(store).Entries;
-    // The closed list always reads "GPA".
-    combo.listIndex = 0;
-    combo.text = combo.items.front();
 }
 
 }  // namespace qh

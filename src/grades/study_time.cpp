@@ -2,10 +2,8 @@
 
 #include <algorithm>
 
-#include "list_view/grid.h"
 #include "list_view/list_rows.h"
 #include "list_view/record_index.h"
-#include "shell/main_window.h"
 
 namespace qh {
 
@@ -44,20 +42,6 @@ StudyAdvice AdviseStudy(const std::vector<StudyLoad>& loads, Date date) {
         advice.suggested = std::max(advice.suggested, due / k);
     }
     return advice;
-}
-
-void MainWindow::UpdateStudyTimeToday(Date date) {
-    const StudyAdvice advice = AdviseStudy(GatherStudyLoad(store), date);
-    const long long m = advice.minimum, s = advice.suggested;
-    Control& minimum = c("TextBoxMinimum");
-    Control& suggested = c("TextBoxSuggested");
-    minimum.text = TimeForm(m);
-    suggested.text = TimeForm(s >= m ? s : m);
-    // The pink box is the one that rules the day.
-    const bool suggestionRules = s > m;
-    const bool nothing = s == 0 && m == 0;
-    minimum.backColor = nothing || suggestionRules ? kWhite : kOpenWorkPink;
-    suggested.backColor = !nothing && suggestionRules ? kOpenWorkPink : kWhite;
 }
 
 }  // namespace qh

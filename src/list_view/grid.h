@@ -20,7 +20,7 @@
 #include "common/color.h"
 #include "common/day_number.h"
 #include "common/twips.h"
-#include "shell/main_window_state.h"
+#include "list_view/main_window_state.h"
 
 namespace qh {
 

@@ -35,7 +35,7 @@ struct PrinterAnswer {
     int copies = 1;  // as chosen in the dialog, which offers 1 first
 };
 
-// The toolkit's file and print dialogs. The layer above (shell/common_dialog) turns their
+// The toolkit's file and print dialogs. The layer above (platform/common_dialog.h) turns their
 // failures into the planner's message.
 class Dialogs {
 public:

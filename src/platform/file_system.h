@@ -36,6 +36,11 @@ public:
     // one, the folder synced; a failure anywhere leaves the old file whole.
     [[nodiscard]] virtual std::string readAll(const std::string& path) = 0;
     virtual void writeWhole(const std::string& path, const std::string& bytes) = 0;
+    // A whole file the planner can make again (an exported page): replaced the same way,
+    // a temporary file renamed over the old one, so the name never holds a half-written
+    // file; but nothing is synced, since waiting for the disk is most of the time such a
+    // write takes, and a page lost to a power cut is made again by the next export.
+    virtual void writeWholeUnsynced(const std::string& path, const std::string& bytes) { writeWhole(path, bytes); }
     // The first `maxBytes` bytes of a file (fewer when it is shorter), for files of which
     // only a head matters however large they are. Fails, like readAll, when the file cannot
     // be opened or read, and also when it is not a plain file (a folder, a device, a pipe).

@@ -166,14 +166,20 @@ std::string PosixFileSystem::readHead(const std::string& path, std::size_t maxBy
     return readUpTo(fd.get(), maxBytes, path);
 }
 
-void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) { replaceWhole(path, bytes, true); }
+
+void PosixFileSystem::writeWholeUnsynced(const std::string& path, const std::string& bytes) {
+    replaceWhole(path, bytes, false);
+}
+
+void PosixFileSystem::replaceWhole(const std::string& path, const std::string& bytes, bool synced) {
     const std::string temporary = path + ".tmp-" + std::to_string(::getpid());
     {
         Descriptor fd(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
         if (fd.get() < 0) fail("Cannot create", temporary);
         try {
             writeAll(fd.get(), bytes.data(), bytes.size(), temporary);
-            if (::fsync(fd.get()) != 0) fail("Cannot sync", temporary);
+            if (synced && ::fsync(fd.get()) != 0) fail("Cannot sync", temporary);
         } catch (...) {
             ::unlink(temporary.c_str());
             throw;
@@ -185,7 +191,7 @@ void PosixFileSystem::writeWhole(const std::string& path, const std::string& byt
         errno = saved;
         fail("Cannot replace", path);
     }
-    syncFolder(folderOf(path));
+    if (synced) syncFolder(folderOf(path));
 }
 
 bool PosixFileSystem::exists(const std::string& path) {

@@ -9,6 +9,7 @@ public:
     std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
     std::string readAll(const std::string& path) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
+    void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
     bool exists(const std::string& path) override;
     bool isDirectory(const std::string& path) override;
@@ -18,6 +19,9 @@ public:
     void copy(const std::string& from, const std::string& to) override;
     void rename(const std::string& from, const std::string& to) override;
     std::vector<std::string> listDirectory(const std::string& path) override;
+
+private:
+    void replaceWhole(const std::string& path, const std::string& bytes, bool synced);
 };
 
 }  // namespace qh

@@ -14,7 +14,8 @@ public:
     // Starts a command line; returns the new process's identifier. Throws FileFailure
     // when it cannot be started.
     virtual std::int32_t startCommand(const std::string& commandLine) = 0;
-    // Opens a file or web address with the default handler.
+    // Opens a file or web address with the default handler. Throws FileFailure when the
+    // desktop has none that would open it.
     virtual void openWithDefaultHandler(const std::string& pathOrAddress) = 0;
 };
 

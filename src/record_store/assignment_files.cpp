@@ -3,6 +3,7 @@
 
 #include "common/day_number.h"
 #include "common/failure.h"
+#include "record_store/record_bindings.h"
 #include "record_store/record_files.h"
 #include "record_store/record_io.h"
 #include "record_store/storage_locations.h"
@@ -15,17 +16,17 @@ namespace {
 // the same as taking it as many times as its link occurs here, without the scan.
 using RowCounts = std::unordered_map<Int16, int>;
 
-// Positions of the values of a record (reserved fields not counted).
-constexpr std::size_t kAssignmentClassLink = 2, kAssignmentDescription = 7;
-constexpr std::size_t kNoteLinkID = 1;
-constexpr std::size_t kSessionLinkID = 1;
-
 }  // namespace
 
 bool RecordFiles::LoadAssignments() {
     if (!enterDataDirectory()) return false;
     RecordStore& s = store_;
     std::string current = "Assignments.txt";
+    // The places of the values the load decides by.
+    const std::size_t classLinkAt = kAssignmentBinding.position("ClassLink");
+    const std::size_t descriptionAt = kAssignmentBinding.position("Description");
+    const std::size_t noteLinkAt = kNoteBinding.position("LinkID");
+    const std::size_t sessionLinkAt = kStudySessionBinding.position("LinkID");
     const bool read = runFileStep([&] {
         // Live classes of the active term, by ID.
         RowCounts classRows;
@@ -33,32 +34,28 @@ bool RecordFiles::LoadAssignments() {
             if (int16OrZero(s.ClassTermLinks(i)) == s.CurrentTermID && s.ClassNames(i) != kDeletedRecord)
                 ++classRows[int16OrZero(s.ClassIDs(i))];
 
-        TextColumn* const assignments[] = {&s.AssignmentRecordNos, &s.AssignmentIDs,          &s.AssignmentClassLinks,
-                                           &s.AssignmentDates,     &s.AssignmentTypes,        &s.AssignmentDifficulties,
-                                           &s.AssignmentEstTimes,  &s.AssignmentDescriptions, &s.AssignmentDones,
-                                           &s.AssignmentGrades,    &s.AssignmentWeights,      &s.AssignmentReminders};
+        const std::vector<TextColumn*> assignments = kAssignmentBinding.columns(s);
         // Only the active term's records are taken: no room is made ahead for them.
-        readRecords(kAssignmentsLayout, s.NextAssignmentRecord, {}, [&](const RecordView& r) {
-            if (r.valueIs(kAssignmentDescription, kDeletedRecord)) return;
-            const auto found = classRows.find(int16OrZero(r.value(kAssignmentClassLink)));
+        readRecords(kAssignmentBinding.layout, s.NextAssignmentRecord, {}, [&](const RecordView& r) {
+            if (r.valueIs(descriptionAt, kDeletedRecord)) return;
+            const auto found = classRows.find(int16OrZero(r.value(classLinkAt)));
             if (found == classRows.end()) return;
             for (int n = 0; n < found->second; ++n) r.appendTo(assignments);
         });
 
         current = "Notes.txt";
         // The text stays on disk until a note is opened: only RecordNo and LinkID are read.
-        TextColumn* const notes[] = {&s.NoteRecordNos, &s.NoteLinkIDs};
-        readRecords(kNotesLayout, s.NextNoteRecord, notes, [&](const RecordView& r) {
-            if (int16OrZero(r.value(kNoteLinkID)) > 0) r.appendTo(notes);
+        const std::vector<TextColumn*> notes = kNoteBinding.columns(s);
+        readRecords(kNoteBinding.layout, s.NextNoteRecord, notes, [&](const RecordView& r) {
+            if (int16OrZero(r.value(noteLinkAt)) > 0) r.appendTo(notes);
         });
 
         current = "StudySessions.txt";
         RowCounts assignmentRows;
         for (const std::string& id : s.AssignmentIDs) ++assignmentRows[int16OrZero(id)];
-        TextColumn* const sessions[] = {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths,
-                                        &s.StudySessionDates};
-        readRecords(kStudySessionsLayout, s.NextStudySessionRecord, {}, [&](const RecordView& r) {
-            const std::string link = r.value(kSessionLinkID);
+        const std::vector<TextColumn*> sessions = kStudySessionBinding.columns(s);
+        readRecords(kStudySessionBinding.layout, s.NextStudySessionRecord, {}, [&](const RecordView& r) {
+            const std::string link = r.value(sessionLinkAt);
             if (link == "0") return;
             const auto found = assignmentRows.find(int16OrZero(link));
             if (found == assignmentRows.end()) return;
@@ -70,27 +67,18 @@ bool RecordFiles::LoadAssignments() {
 }
 
 bool RecordFiles::SaveAssignment(Int16 RecordNumber) {
-    return saveOne(kAssignmentsLayout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber, [&] {
-        const AssignmentBuffer& a = store_.AssignmentRecord;
-        return Values{a.RecordNo, a.ID,         a.ClassLink, dateText(a.DateValue),
-                      a.Type,     a.Difficulty, a.EstTime,   a.Description,
-                      a.Done,     a.Grade,      a.Weight,    a.Reminder};
-    });
+    return saveOne(kAssignmentBinding.layout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber,
+                   [&] { return kAssignmentBinding.valuesOf(store_.AssignmentRecord); });
 }
 
 bool RecordFiles::SaveNote(Int16 RecordNumber) {
-    return saveOne(kNotesLayout, store_.NextNoteRecord, store_.NotesChanged, RecordNumber, [&] {
-        const NoteBuffer& n = store_.NoteRecord;
-        return Values{n.RecordNo, n.LinkID, n.Text};
-    });
+    return saveOne(kNoteBinding.layout, store_.NextNoteRecord, store_.NotesChanged, RecordNumber,
+                   [&] { return kNoteBinding.valuesOf(store_.NoteRecord); });
 }
 
 bool RecordFiles::SaveStudySession(Int16 RecordNumber, int Row) {
-    return saveOne(kStudySessionsLayout, store_.NextStudySessionRecord, store_.StudySessionsChanged, RecordNumber, [&] {
-        const RecordStore& s = store_;
-        return Values{s.EditStudySessionRecordNos(Row), s.EditStudySessionLinkIDs(Row), s.EditStudySessionLengths(Row),
-                      s.EditStudySessionDates(Row)};
-    });
+    return saveOne(kEditStudySessionBinding.layout, store_.NextStudySessionRecord, store_.StudySessionsChanged,
+                   RecordNumber, [&] { return kEditStudySessionBinding.valuesOfRow(store_, Row); });
 }
 
 bool RecordFiles::ReadNote(Int16 RecordNumber) {

@@ -1,6 +1,7 @@
 #include "record_store/record_files.h"
 
 #include "common/failure.h"
+#include "record_store/record_bindings.h"
 #include "record_store/record_io.h"
 #include "record_store/storage_locations.h"
 
@@ -64,12 +65,12 @@ bool RecordFiles::LoadTermsAndClasses() {
     RecordStore& s = store_;
     std::string current = "Terms.txt";
     const bool read = runFileStep([&] {
-        TextColumn* const terms[] = {&s.TermIDs, &s.TermNames, &s.TermStarts, &s.TermEnds};
-        readRecords(kTermsLayout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
+        const std::vector<TextColumn*> terms = kTermBinding.columns(s);
+        readRecords(kTermBinding.layout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
         current = "Classes.txt";
-        TextColumn* const classes[] = {&s.ClassIDs,        &s.ClassTermLinks,  &s.ClassNames,
-                                       &s.ClassForeColors, &s.ClassBackColors, &s.ClassNotes};
-        readRecords(kClassesLayout, s.NextClassRecord, classes, [&](const RecordView& r) { r.appendTo(classes); });
+        const std::vector<TextColumn*> classes = kClassBinding.columns(s);
+        readRecords(kClassBinding.layout, s.NextClassRecord, classes,
+                    [&](const RecordView& r) { r.appendTo(classes); });
     });
     if (!read) reportFileError(current, "reading");
     return read;
@@ -96,8 +97,7 @@ bool RecordFiles::SaveTermsAndClasses() {
         std::string bytes;
         bytes.reserve(std::size_t(s.TermNames.count()) * std::size_t(kTermsLayout.length));
         for (int i = 1; i <= s.TermNames.count(); ++i) {
-            const std::string fields[] = {s.TermIDs(i), s.TermNames(i), s.TermStarts(i), s.TermEnds(i)};
-            bytes += buildRecord(kTermsLayout, fields);
+            bytes += buildRecord(kTermsLayout, kTermBinding.valuesOfRow(s, i));
             s.NextTermRecord = toInt16(s.NextTermRecord + 1);
         }
         files.writeWhole(termsPath, bytes);
@@ -110,9 +110,7 @@ bool RecordFiles::SaveTermsAndClasses() {
         bytes.clear();
         bytes.reserve(std::size_t(s.ClassNames.count()) * std::size_t(kClassesLayout.length));
         for (int i = 1; i <= s.ClassNames.count(); ++i) {
-            const std::string fields[] = {s.ClassIDs(i),        s.ClassTermLinks(i),  s.ClassNames(i),
-                                          s.ClassForeColors(i), s.ClassBackColors(i), s.ClassNotes(i)};
-            bytes += buildRecord(kClassesLayout, fields);
+            bytes += buildRecord(kClassesLayout, kClassBinding.valuesOfRow(s, i));
             s.NextClassRecord = toInt16(s.NextClassRecord + 1);
         }
         files.writeWhole(classesPath, bytes);

@@ -1,7 +1,7 @@
 #include "shell/about_window.h"
 
-#include "platform/environment.h"
-#include "platform/processes.h"
+#include "platform/platform.h"
+#include "shell/desktop_open.h"
 #include "shell/web_addresses.h"
 
 // The build passes the project's version (CMakeLists.txt, project()) to this file alone.
@@ -11,8 +11,7 @@
 
 namespace qh {
 
-FrmAbout::FrmAbout(const Environment& environment, Processes& processes)
-    : Form("frmAbout"), environment_(environment), processes_(processes) {
+FrmAbout::FrmAbout(Platform& platform) : Form("frmAbout"), platform_(platform) {
     fixedSize = true;
     setOuterSize(6300, 4200);
     add(ControlKind::PictureBox, "picIcon", "", 240, 240, 720, 1760).picture = "TipFull";
@@ -28,7 +27,8 @@ FrmAbout::FrmAbout(const Environment& environment, Processes& processes)
 
     on("cmdOK", FormEvent::Click, [this](const EventArgs&) { hide(); });
     on("lblDescription", FormEvent::Click, [this](const EventArgs&) {
-        processes_.openWithDefaultHandler(HelpBookAddress(environment_, kProductSitePage));
+        OpenWithDesktop(platform_.processes, platform_.messages,
+                        HelpBookAddress(platform_.environment, kProductSitePage));
     });
 }
 
@@ -46,7 +46,7 @@ void FrmAbout::Form_Load() {
         "Quillhollow is the essential homework management tool. It combines the best features of a student planner "
         "and homework organizer  into one, easy to use program.\n\nFor questions, orders and upgrades, visit the "
         "website at " +
-        HelpBookAddress(environment_, kProductSitePage);
+        HelpBookAddress(platform_.environment, kProductSitePage);
 }
 
 bool FrmAbout::Form_QueryUnload(UnloadMode mode) {

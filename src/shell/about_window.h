@@ -6,12 +6,11 @@
 
 namespace qh {
 
-class Environment;
-class Processes;
+struct Platform;
 
 class FrmAbout : public Form {
 public:
-    FrmAbout(const Environment& environment, Processes& processes);
+    explicit FrmAbout(Platform& platform);
     void Form_Load() override;
     bool Form_QueryUnload(UnloadMode mode) override;
 
@@ -19,8 +18,7 @@ public:
     static std::string VersionNumbers();
 
 private:
-    const Environment& environment_;
-    Processes& processes_;
+    Platform& platform_;
 };
 
 }  // namespace qh

@@ -3,7 +3,8 @@
 #include "export/calendar_export.h"
 #include "export/export_page.h"
 #include "export/list_export.h"
-#include "shell/common_dialog.h"
+#include "platform/common_dialog.h"
+#include "shell/desktop_open.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -51,7 +52,7 @@ void MainWindow::ExportList() {
                                                  templateText, *form, ListExportCells(mode, store, state, platform.locale),
                                                  CreationNote(platform.locale, platform.clock.today()));
                                          });
-    if (written) platform.processes.openWithDefaultHandler(path);
+    if (written) OpenWithDesktop(platform.processes, platform.messages, path);
 }
 
 void MainWindow::ExportCalendar() {
@@ -70,7 +71,7 @@ void MainWindow::ExportCalendar() {
         WriteExportPage(platform, TemplatePath(platform, form.templateFile), path, [&](std::string_view templateText) {
             return FillCalendarTemplate(templateText, sheet, FillCalendar(sheet, store, frame));
         });
-    if (written) platform.processes.openWithDefaultHandler(path);
+    if (written) OpenWithDesktop(platform.processes, platform.messages, path);
 }
 
 void MainWindow::PrintScreen() {

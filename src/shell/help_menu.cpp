@@ -2,6 +2,7 @@
 // web entries and About.
 #include "common/failure.h"
 #include "shell/about_window.h"
+#include "shell/desktop_open.h"
 #include "shell/main_window.h"
 #include "shell/tip_window.h"
 #include "shell/web_addresses.h"
@@ -30,7 +31,8 @@ void MainWindow::bindHelpHandlers() {
     onClick("MenuVideo2", [this] { PlayVideo("AddAssignment.wmv"); });
     onClick("MenuVideo3", [this] { PlayVideo("FinishAssignment.wmv"); });
     auto openHomeworkHelp = [this] {
-        platform.processes.openWithDefaultHandler(HelpBookAddress(platform.environment, kHomeworkHelpPage));
+        OpenWithDesktop(platform.processes, platform.messages,
+                        HelpBookAddress(platform.environment, kHomeworkHelpPage));
     };
     onClick("MenuHomeworkHelp", openHomeworkHelp);
     onClick("PictureBarWeb", openHomeworkHelp);
@@ -43,7 +45,8 @@ FrmTip& MainWindow::tipWindow() {
         tip_->Form_Load();
         // The video line leads to the tutorials of the help book.
         tip_->on("LabelVideo", FormEvent::Click, [this](const EventArgs&) {
-            platform.processes.openWithDefaultHandler(HelpBookAddress(platform.environment, kTutorialsPage));
+            OpenWithDesktop(platform.processes, platform.messages,
+                            HelpBookAddress(platform.environment, kTutorialsPage));
         });
     }
     return *tip_;
@@ -65,9 +68,15 @@ void MainWindow::recordStartedProcess(std::int32_t processId) {
 }
 
 void MainWindow::ShowHelpFile() {
-    // A browser that cannot be started has no handler of its own: the failure ends the run.
     const std::string index = joinPath(HelpBookFolder(platform.environment), kHelpIndexPage);
-    recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(index)));
+    std::int32_t processId = 0;
+    try {
+        processId = platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(index));
+    } catch (const FileFailure&) {
+        TellCannotOpen(platform.messages, index);
+        return;
+    }
+    recordStartedProcess(processId);
 }
 
 void MainWindow::PlayVideo(const std::string& file) {
@@ -85,7 +94,7 @@ void MainWindow::PlayVideo(const std::string& file) {
 
 void MainWindow::ShowAbout(Form& owner) {
     if (!about_) {
-        about_ = std::make_unique<FrmAbout>(platform.environment, platform.processes);
+        about_ = std::make_unique<FrmAbout>(platform);
         about_->Form_Load();
     }
     platform.windowing.showModal(*about_, &owner);

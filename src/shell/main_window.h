@@ -23,7 +23,7 @@
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "record_store/columns.h"
-#include "shell/main_window_state.h"
+#include "list_view/main_window_state.h"
 
 namespace qh {
 

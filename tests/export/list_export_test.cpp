@@ -80,6 +80,16 @@ TEST_P(ListExport, AFailedFileIsNamedAndLeavesNoPage) {
     EXPECT_TRUE(std::filesystem::is_empty(pages));
 }
 
+// Without a browser the page is still there: the message names it, so it can be opened
+// by hand.
+TEST_P(ListExport, APageNoProgramOpensIsKeptAndNamed) {
+    view.fake.processes.openFails = true;
+    exportTo(page);
+    ASSERT_EQ(view.fake.messages.shown.size(), 1u);
+    EXPECT_TRUE(view.fake.messages.shown[0].text.starts_with("Could not open \"" + page + "\""));
+    EXPECT_EQ(DiffWithReference(std::string("list_") + GetParam().name + ".html", view.fake.bytesOf(page)), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Modes, ListExport,
                          ::testing::Values(ListCase{"homework", Mode::Homework, "All", "Term"},
                                            ListCase{"study", Mode::StudySessions, "All", "Term"},

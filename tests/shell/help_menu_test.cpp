@@ -2,11 +2,13 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <regex>
 #include <sstream>
 
 #include "shell/about_window.h"
 #include "shell/main_window.h"
+#include "shell/tip_window.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -30,16 +32,64 @@ TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
     EXPECT_EQ(main.fake.processes.started[0], "xdg-open \"" + main.fake.exec + "/help/index.html\"");
     EXPECT_EQ(pidFiles(main.fake.host), (std::vector<std::string>{"4242.PID", "5001.PID"}));
     EXPECT_TRUE(fs::is_empty(main.fake.host + "/5001.PID"));
-    // No handler of its own: a browser that can't start is a failure of the run.
-    main.fake.processes.startFails = true;
-    EXPECT_THROW(window.click("MenuHelpDB"), FileFailure);
+}
+
+// Help, the web entries, the tip's tutorials line and About's link lead out of the planner;
+// when the desktop can't follow, the student reads what could not be opened, nothing is
+// left behind for a process that never started, and the planner goes on.
+TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
+    const struct {
+        const char* name;
+        std::function<void(MainWindow&, FakePlatform&)> act;
+        const char* target;  // under the drive's program folder
+    } cases[] = {
+        {"help book", [](MainWindow& w, FakePlatform&) { w.click("MenuHelpDB"); }, "/help/index.html"},
+        {"homework help", [](MainWindow& w, FakePlatform&) { w.click("MenuHomeworkHelp"); },
+         "/help/homework/index.html"},
+        {"globe", [](MainWindow& w, FakePlatform&) { w.click("PictureBarWeb"); }, "/help/homework/index.html"},
+        {"tip's tutorials", [](MainWindow& w, FakePlatform&) { w.tipWindow().click("LabelVideo"); },
+         "/help/tutorials.html"},
+        {"About's link",
+         [](MainWindow& w, FakePlatform& fake) {
+             fake.windowing.modalUsers["frmAbout"].push_back([](Form& about) {
+                 about.click("lblDescription");
+                 about.click("cmdOK");
+             });
+             w.click("MenuAbout");
+         },
+         "/help/support.html"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        LoadedMainWindow main;
+        MainWindow& window = main.load();
+        main.fake.processes.startFails = main.fake.processes.openFails = true;
+        EXPECT_NO_THROW(c.act(window, main.fake));
+        ASSERT_EQ(main.fake.messages.shown.size(), 1u);
+        const ShownMessage& shown = main.fake.messages.shown[0];
+        const bool started = c.name == std::string("help book");  // the others go to the default handler
+        const std::string target = (started ? "" : "file://") + main.fake.exec + c.target;
+        EXPECT_TRUE(shown.text.starts_with("Could not open \"" + main.fake.exec + c.target + "\"")) << shown.text;
+        EXPECT_EQ(shown.title, "Quillhollow");
+        EXPECT_EQ(shown.icon, MessageIcon::Exclamation);
+        EXPECT_EQ(pidFiles(main.fake.host), std::vector<std::string>{"4242.PID"});
+        // Once the desktop can, the same entry opens it.
+        main.fake.processes.startFails = main.fake.processes.openFails = false;
+        c.act(window, main.fake);
+        EXPECT_EQ(main.fake.messages.shown.size(), 1u);
+        const auto& tried = started ? main.fake.processes.started : main.fake.processes.opened;
+        ASSERT_EQ(tried.size(), 2u);
+        EXPECT_NE(tried[1].find(target), std::string::npos) << tried[1];
+        EXPECT_EQ(pidFiles(main.fake.host).size(), started ? 2u : 1u);
+    }
 }
 
 TEST(HelpMenu, AVideoPlaysFromTheHostFolderOrTheStudentHearsItIsMissing) {
     const struct {
         const char* menu;
         const char* file;
-    } videos[] = {{"MenuVideo1", "ClassSchedule.wmv"}, {"MenuVideo2", "AddAssignment.wmv"},
+    } videos[] = {{"MenuVideo1", "ClassSchedule.wmv"},
+                  {"MenuVideo2", "AddAssignment.wmv"},
                   {"MenuVideo3", "FinishAssignment.wmv"}};
     for (const auto& video : videos) {
         SCOPED_TRACE(video.menu);
@@ -109,7 +159,8 @@ TEST(HelpMenu, AboutNamesTheProgramAndTheVersionTheBuildWasMadeWith) {
                         "About Quillhollow", "Quillhollow for u3", "Version " + projectVersion(),
                         "Quillhollow is the essential homework management tool. It combines the best features of a "
                         "student planner and homework organizer  into one, easy to use program.\n\nFor questions, "
-                        "orders and upgrades, visit the website at " + site,
+                        "orders and upgrades, visit the website at " +
+                            site,
                         "hidden"}));
     EXPECT_EQ(main.fake.processes.opened, std::vector<std::string>{site});
     EXPECT_EQ(main.fake.windowing.log.back(), "modal frmAbout");

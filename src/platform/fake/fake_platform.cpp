@@ -165,7 +165,7 @@ std::string FakeFileSystem::readHead(const std::string& path, std::size_t maxByt
     return PosixFileSystem::readHead(path, maxBytes);
 }
 
-void FakeFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+void FakeFileSystem::countWholeWrite(const std::string& path, const std::string& bytes) {
     const long long cut = countWrite(path, "whole");
     if (cut >= 0) {
         // The temporary file is torn; the old file stands.
@@ -173,7 +173,16 @@ void FakeFileSystem::writeWhole(const std::string& path, const std::string& byte
         std::filesystem::remove(path + ".tmp-torn");
         throw FileFailure("Write torn: " + path);
     }
+}
+
+void FakeFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+    countWholeWrite(path, bytes);
     PosixFileSystem::writeWhole(path, bytes);
+}
+
+void FakeFileSystem::writeWholeUnsynced(const std::string& path, const std::string& bytes) {
+    countWholeWrite(path, bytes);
+    PosixFileSystem::writeWholeUnsynced(path, bytes);
 }
 
 void FakeFileSystem::makeDirectory(const std::string& path) {
@@ -211,6 +220,7 @@ std::int32_t FakeProcesses::startCommand(const std::string& commandLine) {
 void FakeProcesses::openWithDefaultHandler(const std::string& pathOrAddress) {
     opened.push_back(pathOrAddress);
     if (onOutsideAction) onOutsideAction("Open " + quotedText(pathOrAddress));
+    if (openFails) throw FileFailure("Cannot open " + pathOrAddress);
 }
 
 FileDialogAnswer FakeDialogs::fileDialog(const FileDialogRequest& request) {

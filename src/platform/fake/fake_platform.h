@@ -75,6 +75,7 @@ public:
     std::string readAll(const std::string& path) override;
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
+    void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
     void makeDirectory(const std::string& path) override;
     void createEmpty(const std::string& path) override;
     void remove(const std::string& path) override;
@@ -106,6 +107,8 @@ private:
     long long tearBytes_ = 0;
     std::string failingSuffix_;
     void checkPath(const std::string& path);
+    // Counts a whole-file write; a torn one leaves the old file and throws.
+    void countWholeWrite(const std::string& path, const std::string& bytes);
 };
 
 class FakeProcesses : public Processes {
@@ -117,6 +120,7 @@ public:
     bool otherInstance = false;
     std::int32_t pid = 4242;
     bool startFails = false;
+    bool openFails = false;  // no default handler on this desktop
     std::vector<std::string> started, opened;
     OutsideActionSink onOutsideAction;
 };

@@ -202,7 +202,8 @@ std::int32_t QtProcesses::startCommand(const std::string& commandLine) {
 void QtProcesses::openWithDefaultHandler(const std::string& pathOrAddress) {
     const QString target = qs(pathOrAddress);
     const bool address = target.contains(QStringLiteral("://")) || target.startsWith(QStringLiteral("mailto:"));
-    QDesktopServices::openUrl(address ? QUrl(target) : QUrl::fromLocalFile(target));
+    if (!QDesktopServices::openUrl(address ? QUrl(target) : QUrl::fromLocalFile(target)))
+        throw FileFailure("Cannot open " + pathOrAddress);
 }
 
 void QtWindowing::processEvents() {

@@ -1,7 +1,8 @@
 #pragma once
 // The view state of the main window: what the calendar shows, the sort and scroll of the
 // list, the remembered filter choices and the row columns of the list now shown. Plain
-// data; the main window's routines read and write it.
+// data; the main window's routines read and write it. It lies here, below the shell,
+// because the list builders keep their rows in it and the exports read them.
 #include <array>
 #include <string>
 

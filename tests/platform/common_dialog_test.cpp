@@ -1,4 +1,4 @@
-#include "shell/common_dialog.h"
+#include "platform/common_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,39 @@
+// Each record kind's binding against its file layout: a field left out or out of its
+// place shows here by name. The bytes of loads and saves are checked by the file tests.
+#include "record_store/record_bindings.h"
+
+#include <gtest/gtest.h>
+
+namespace qh {
+namespace {
+
+// The names of a layout's value fields, in order.
+std::vector<std::string_view> valueFieldsOf(const RecordLayout& layout) {
+    std::vector<std::string_view> names;
+    for (const FieldSpec& field : layout.fields)
+        if (field.kind != FieldKind::Reserved) names.push_back(field.name);
+    return names;
+}
+
+template <class Buffer>
+std::vector<std::string_view> boundFieldsOf(const RecordBinding<Buffer>& binding) {
+    std::vector<std::string_view> names;
+    for (const auto& field : binding.fields) names.push_back(field.field);
+    return names;
+}
+
+TEST(RecordBindings, EveryKindBindsEachValueFieldOfItsFileInOrder) {
+    EXPECT_EQ(boundFieldsOf(kTermBinding), valueFieldsOf(kTermsLayout));
+    EXPECT_EQ(boundFieldsOf(kClassBinding), valueFieldsOf(kClassesLayout));
+    EXPECT_EQ(boundFieldsOf(kAssignmentBinding), valueFieldsOf(kAssignmentsLayout));
+    EXPECT_EQ(boundFieldsOf(kNoteBinding), valueFieldsOf(kNotesLayout));
+    EXPECT_EQ(boundFieldsOf(kStudySessionBinding), valueFieldsOf(kStudySessionsLayout));
+    EXPECT_EQ(boundFieldsOf(kEditStudySessionBinding), valueFieldsOf(kStudySessionsLayout));
+    EXPECT_EQ(boundFieldsOf(kTaskBinding), valueFieldsOf(kTasksLayout));
+    EXPECT_EQ(boundFieldsOf(kEventBinding), valueFieldsOf(kEventsLayout));
+    EXPECT_EQ(kEventBinding.position("Description"), 3u);
+    EXPECT_THROW((void)kTaskBinding.position("Grade"), std::invalid_argument);
+}
+
+}  // namespace
+}  // namespace qh
