@@ -63,8 +63,14 @@ void MainWindow::StartTipsIfWanted() {
 }
 
 void MainWindow::recordStartedProcess(std::int32_t processId) {
-    platform.files.createEmpty(
-        joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), std::to_string(processId) + ".PID"));
+    // The mark only lets the drive's platform end the process when the drive goes; the
+    // page or the video is open already, so a host folder that takes no file is no reason
+    // to stop the planner or to trouble the student.
+    try {
+        platform.files.createEmpty(
+            joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), std::to_string(processId) + ".PID"));
+    } catch (const FileFailure&) {
+    }
 }
 
 void MainWindow::ShowHelpFile() {

@@ -32,6 +32,11 @@ TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
     EXPECT_EQ(main.fake.processes.started[0], "xdg-open \"" + main.fake.exec + "/help/index.html\"");
     EXPECT_EQ(pidFiles(main.fake.host), (std::vector<std::string>{"4242.PID", "5001.PID"}));
     EXPECT_TRUE(fs::is_empty(main.fake.host + "/5001.PID"));
+    // A host folder that takes no mark leaves the page open and the planner running.
+    main.fake.files.failPath(".PID");
+    window.click("MenuHelpDB");
+    EXPECT_EQ(main.fake.processes.started.size(), 2u);
+    EXPECT_TRUE(main.fake.messages.shown.empty());
 }
 
 // Help, the web entries, the tip's tutorials line and About's link lead out of the planner;
