@@ -8,26 +8,14 @@
 
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
-#include "platform/fake/fake_platform.h"
-#include "platform/posix_file_system.h"
-#include "sample_drive.h"
-#include "shell/main_window.h"
+#include "sample_drive_on_disk.h"
 
 namespace qh {
 namespace {
 
-struct Loaded {
-    FakePlatform fake;
-    PosixFileSystem files;
-    Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
-    RecordStore store;
-    std::unique_ptr<MainWindow> window;
+struct Loaded : LoadedMaximalDrive {
     int row = 1;  // an assignment given 99 sessions
     Loaded() {
-        sample::MakeSampleDrive(fake.drive, sample::DriveSize::Maximal, fake.clock.today());
-        window = std::make_unique<MainWindow>(store, platform);
-        window->Form_Load();
         // The drive spreads its sessions thinly; the last 99 session rows are linked to one
         // assignment in memory, which is all an edit reads of them.
         row = store.AssignmentIDs.count() / 2;

@@ -8,27 +8,12 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_course_schedule.h"
 #include "editors/term_rows.h"
-#include "platform/fake/fake_platform.h"
-#include "platform/posix_file_system.h"
-#include "sample_drive.h"
-#include "shell/main_window.h"
+#include "sample_drive_on_disk.h"
 
 namespace qh {
 namespace {
 
-struct Loaded {
-    FakePlatform fake;
-    PosixFileSystem files;
-    Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
-    RecordStore store;
-    std::unique_ptr<MainWindow> window;
-    Loaded() {
-        sample::MakeSampleDrive(fake.drive, sample::DriveSize::Maximal, fake.clock.today());
-        window = std::make_unique<MainWindow>(store, platform);
-        window->Form_Load();
-    }
-};
+using Loaded = LoadedMaximalDrive;
 
 Loaded& loaded() {
     static Loaded drive;

@@ -7,28 +7,12 @@
 
 #include <filesystem>
 
-#include "platform/posix_file_system.h"
-#include "sample_drive.h"
-#include "shell/main_window.h"
-#include "support/fake_platform.h"
+#include "sample_drive_on_disk.h"
 
 namespace qh {
 namespace {
 
-struct MaximalDrive {
-    FakePlatform fake;
-    PosixFileSystem files;
-    Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
-    RecordStore store;
-    std::unique_ptr<MainWindow> window;
-    MaximalDrive() {
-        sample::MakeSampleDrive(fake.drive, sample::DriveSize::Maximal, fake.clock.today());
-        std::filesystem::copy(std::string(QH_SOURCE_DIR) + "/templates", fake.exec,
-                              std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
-        window = std::make_unique<MainWindow>(store, platform);
-        window->Form_Load();
-    }
+struct MaximalDrive : LoadedMaximalDrive {
     // Shows a mode with the widest filters.
     void show(const char* menu, const char* range) {
         window->click(menu);

@@ -6,21 +6,12 @@
 
 #include <memory>
 
-#include "platform/posix_file_system.h"
-#include "sample_drive.h"
-#include "shell/main_window.h"
-#include "support/fake_platform.h"
+#include "sample_drive_on_disk.h"
 
 namespace qh {
 namespace {
 
-struct SampleDrive {
-    FakePlatform fake;
-    PosixFileSystem files;
-    Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
-    explicit SampleDrive(sample::DriveSize size) { sample::MakeSampleDrive(fake.drive, size, fake.clock.today()); }
-};
+using SampleDrive = SampleDriveOnDisk;
 
 SampleDrive& drive(sample::DriveSize size) {
     static SampleDrive realistic(sample::DriveSize::Realistic);
