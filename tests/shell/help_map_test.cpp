@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <memory>
 #include <regex>
 #include <set>
@@ -105,12 +106,13 @@ TEST(HelpMap, EveryTopicHasItsPageAndTheTopicsAreInOrder) {
     EXPECT_EQ(FindHelpTopic(0), nullptr);
 }
 
-// Links between the pages, pictures and scripts of the book all have their target, and
-// every page is in the search index.
+// Links between the pages, pictures and scripts of the book all have their target, every
+// page is in the search index, and every picture is shown by a page.
 TEST(HelpMap, TheBooksLinksAllHaveTargetsAndTheSearchKnowsEveryPage) {
     const std::string searchIndex = readText(kBook / "search_index.js");
     const std::regex link(R"((?:href|src)="([^"]+)\")");
     int pages = 0;
+    std::set<fs::path> linked;
     for (const auto& entry : fs::recursive_directory_iterator(kBook)) {
         if (entry.path().extension() != ".html") continue;
         ++pages;
@@ -121,6 +123,7 @@ TEST(HelpMap, TheBooksLinksAllHaveTargetsAndTheSearchKnowsEveryPage) {
         for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it) {
             const std::string target = (*it)[1];
             if (target.find("://") != std::string::npos || target.starts_with("mailto:")) continue;
+            linked.insert((entry.path().parent_path() / target).lexically_normal());
             if (target.starts_with("#")) {
                 EXPECT_EQ(missing(entry.path().parent_path(), entry.path().filename().string() + target), "");
             } else {
@@ -129,6 +132,60 @@ TEST(HelpMap, TheBooksLinksAllHaveTargetsAndTheSearchKnowsEveryPage) {
         }
     }
     EXPECT_GE(pages, 20);
+    for (const auto& picture : fs::directory_iterator(kBook / "images"))
+        EXPECT_EQ(linked.count(picture.path().lexically_normal()), 1u) << picture.path() << " is shown by no page";
+}
+
+// The words of a page as a reader sees them: without tags, spaces run together.
+std::string pageWords(const fs::path& page) {
+    std::string text = std::regex_replace(readText(page), std::regex("<[^>]*>"), " ");
+    text = std::regex_replace(text, std::regex("&amp;"), "&");
+    return std::regex_replace(text, std::regex(R"(\s+)"), " ");
+}
+
+// Whether `control` is shown with its window: itself and every container visible, and not
+// a part of the date picker, whose calendar its own section explains.
+bool shownCaption(const Form& form, const Control& control) {
+    for (const Control* at = &control;; at = &form.c(at->container)) {
+        if (!at->visible && at != &control) return false;
+        if (at->name == "picCalendar") return false;
+        if (at->container.empty()) return true;
+    }
+}
+
+// Each record window's page names every caption the window shows, as it shows it (a
+// colon or the spaces around it aside), so a new control or a renamed one must be
+// explained to be done.
+TEST(HelpMap, EachRecordWindowsPageNamesEveryCaptionOfTheWindow) {
+    const std::map<std::string, std::vector<const char*>> pagesOf = {
+        {"frmSelectCourseSchedule", {"select_term.html"}},
+        {"frmCourseSchedule", {"class_schedule.html"}},
+        {"frmAssignment", {"assignment_editor.html", "study_sessions.html"}},
+        {"FrmTask", {"task_editor.html"}},
+        {"frmEvent", {"event_editor.html"}},
+    };
+    FakePlatform fake;
+    RecordStore store;
+    MainWindow window(store, fake.platform);
+    window.Form_Load();
+    std::set<std::string> seen;
+    for (Form* editor : window.editors->windows()) {
+        const auto pages = pagesOf.find(editor->name());
+        ASSERT_NE(pages, pagesOf.end()) << editor->name() << " has no page named here";
+        seen.insert(editor->name());
+        std::string words;
+        for (const char* page : pages->second) words += pageWords(kBook / page);
+        int captions = 0;
+        for (const std::string& key : editor->order()) {
+            const Control& control = editor->c(key);
+            std::string caption = std::regex_replace(control.caption, std::regex(R"(^\s+|:?\s*$)"), "");
+            if (caption.empty() || control.kind == ControlKind::Menu || !shownCaption(*editor, control)) continue;
+            ++captions;
+            EXPECT_NE(words.find(caption), std::string::npos) << editor->name() << "." << key << " \"" << caption << "\"";
+        }
+        EXPECT_GE(captions, 6) << editor->name();
+    }
+    EXPECT_EQ(seen.size(), pagesOf.size());
 }
 
 }  // namespace
