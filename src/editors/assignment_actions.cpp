@@ -88,13 +88,10 @@ AssignmentBuffer recordOf(const FrmAssignment& w, const std::string& recordNo, c
     return record;
 }
 
-std::array<TextColumn*, 4> sessionColumns(RecordStore& s) {
-    return {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths, &s.StudySessionDates};
-}
-std::array<TextColumn*, 4> editSessionColumns(RecordStore& s) {
-    return {&s.EditStudySessionRecordNos, &s.EditStudySessionLinkIDs, &s.EditStudySessionLengths,
-            &s.EditStudySessionDates};
-}
+// A study session's columns, of the term and of the edit, in file order as the bindings
+// give them, and the window's lists in that same order.
+std::vector<TextColumn*> sessionColumns(RecordStore& s) { return kStudySessionBinding.columns(s); }
+std::vector<TextColumn*> editSessionColumns(RecordStore& s) { return kEditStudySessionBinding.columns(s); }
 std::array<TextColumn*, 4> windowSessionLists(FrmAssignment& w) {
     return {&w.tempStudySessionRecordNoArray, &w.tempStudySessionLinkIDArray, &w.tempStudySessionLengthArray,
             &w.tempStudySessionDateArray};
@@ -106,11 +103,11 @@ void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
     for (TextColumn* column : editSessionColumns(s)) column->clear();
     for (TextColumn* list : windowSessionLists(w)) list->clear();
     const Int16 id = int16OrZero(s.AssignmentIDs(row));
+    const auto columns = sessionColumns(s);
+    const auto edits = editSessionColumns(s);
+    const auto lists = windowSessionLists(w);
     for (int i = s.StudySessionRecordNos.count(); i >= 1; --i) {
         if (int16OrZero(s.StudySessionLinkIDs(i)) != id) continue;
-        const auto columns = sessionColumns(s);
-        const auto edits = editSessionColumns(s);
-        const auto lists = windowSessionLists(w);
         for (std::size_t f = 0; f < 4; ++f) {
             edits[f]->append((*columns[f])(i));
             lists[f]->append((*columns[f])(i));
@@ -121,12 +118,12 @@ void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
 // Appends the window's sessions left after the existing ones were taken out, row 1 first,
 // as new records linked to `assignmentID`.
 void SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, const std::string& assignmentID) {
-    for (TextColumn* column : editSessionColumns(s)) column->clear();
+    const auto columns = sessionColumns(s);
+    const auto edits = editSessionColumns(s);
+    for (TextColumn* column : edits) column->clear();
     for (int i = 1; i <= w.tempStudySessionRecordNoArray.count(); ++i) {
         const std::array<std::string, 4> values{std::to_string(s.NextStudySessionRecord), assignmentID,
                                                 w.tempStudySessionLengthArray(i), w.tempStudySessionDateArray(i)};
-        const auto columns = sessionColumns(s);
-        const auto edits = editSessionColumns(s);
         for (std::size_t f = 0; f < 4; ++f) {
             columns[f]->append(values[f]);
             edits[f]->append(values[f]);
