@@ -33,6 +33,8 @@ TEST(RecordBindings, EveryKindBindsEachValueFieldOfItsFileInOrder) {
     EXPECT_EQ(boundFieldsOf(kEventBinding), valueFieldsOf(kEventsLayout));
     EXPECT_EQ(kEventBinding.position("Description"), 3u);
     EXPECT_THROW((void)kTaskBinding.position("Grade"), std::invalid_argument);
+    EXPECT_EQ(kNotesLayout.width("Text"), 1450);
+    EXPECT_THROW((void)kAssignmentsLayout.width("Notes"), std::invalid_argument);
 }
 
 // An editor's record goes into the columns through the binding: appended as a new last
