@@ -9,16 +9,19 @@
 #include "editors/frm_assignment.h"
 #include "editors/record_actions.h"
 #include "record_store/codepage.h"
+#include "record_store/record_bindings.h"
 #include "record_store/record_files.h"
 
 namespace qh {
 namespace {
 
-constexpr int kDescriptionWidth = 50, kNoteWidth = 1450;
+// A text as field `field` of the file will hold it: cut to the field's width in code-page
+// bytes, with the characters the code page lacks replaced, as a load reads it back.
+std::string storedText(const RecordLayout& layout, std::string_view field, const std::string& text) {
+    return trimRight(fromCodePage(fieldBytes(text, layout.width(field))));
+}
 
-// A text as its field will hold it: cut to the field's width in code-page bytes, with the
-// characters the code page lacks replaced, as a load reads it back.
-std::string storedText(const std::string& text, int width) { return trimRight(fromCodePage(fieldBytes(text, width))); }
+std::string storedNote(const FrmAssignment& w) { return storedText(kNotesLayout, "Text", w.TextBoxNotes->text); }
 
 struct CurrentClassList {
     std::vector<std::string> names, ids;
@@ -59,51 +62,36 @@ int noteRowOf(const RecordStore& s, int row) {
     return 0;
 }
 
-// The columns the editor's fields replace, ClassLink to Reminder.
-std::array<TextColumn*, 10> editedColumns(RecordStore& s) {
-    return {&s.AssignmentClassLinks,   &s.AssignmentDates,        &s.AssignmentTypes,
-            &s.AssignmentDifficulties, &s.AssignmentEstTimes,     &s.AssignmentDescriptions,
-            &s.AssignmentDones,        &s.AssignmentGrades,       &s.AssignmentWeights,
-            &s.AssignmentReminders};
-}
-
-// The window's fields in the order of editedColumns, each as its field of the file holds
+// The assignment record as the window left it, each text as its field of the file holds
 // it. Without a class chosen (only a delete leaves the window so) the assignment keeps
 // `classLink`.
-std::array<std::string, 10> editedValues(FrmAssignment& w, const std::string& classLink) {
+AssignmentBuffer recordOf(const FrmAssignment& w, const std::string& recordNo, const std::string& id,
+                          const std::string& classLink) {
+    const auto stored = [](std::string_view field, const std::string& text) {
+        return storedText(kAssignmentsLayout, field, text);
+    };
     const int line = w.ComboClassNameList->listIndex;
     const bool chosen = line >= 0 && line < int(w.tempAssignmentClassLinkArray.size());
-    const std::array<std::pair<std::string, int>, 10> fields{{
-        {chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink, 5},
-        {dateText(w.DueDate), 15},
-        {w.ComboTypeList->text, 10},
-        {w.ComboDifficulty->text, 10},
-        {w.ComboEstTime->text, 7},
-        {w.TextBoxDescription->text, kDescriptionWidth},
-        {w.CheckBoxDone->checked ? "True" : "False", 5},
-        {w.ComboGrade->text, 5},
-        {w.ComboWeight->text, 3},
-        {w.ComboRemindMe->text, 20},
-    }};
-    std::array<std::string, 10> values;
-    for (std::size_t f = 0; f < fields.size(); ++f) values[f] = storedText(fields[f].first, fields[f].second);
-    return values;
+    AssignmentBuffer record;
+    record.RecordNo = recordNo;
+    record.ID = id;
+    record.ClassLink = stored("ClassLink", chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink);
+    record.DateValue = w.DueDate;
+    record.Type = stored("Type", w.ComboTypeList->text);
+    record.Difficulty = stored("Difficulty", w.ComboDifficulty->text);
+    record.EstTime = stored("EstTime", w.ComboEstTime->text);
+    record.Description = stored("Description", w.TextBoxDescription->text);
+    record.Done = w.CheckBoxDone->checked ? "True" : "False";
+    record.Grade = stored("Grade", w.ComboGrade->text);
+    record.Weight = stored("Weight", w.ComboWeight->text);
+    record.Reminder = stored("Reminder", w.ComboRemindMe->text);
+    return record;
 }
 
-void fillAssignmentRecord(RecordStore& s, int row) {
-    s.AssignmentRecord = {s.AssignmentRecordNos(row), s.AssignmentIDs(row),        s.AssignmentClassLinks(row),
-                          dateFromText(s.AssignmentDates(row)), s.AssignmentTypes(row), s.AssignmentDifficulties(row),
-                          s.AssignmentEstTimes(row),  s.AssignmentDescriptions(row), s.AssignmentDones(row),
-                          s.AssignmentGrades(row),    s.AssignmentWeights(row),      s.AssignmentReminders(row)};
-}
-
-std::array<TextColumn*, 4> sessionColumns(RecordStore& s) {
-    return {&s.StudySessionRecordNos, &s.StudySessionLinkIDs, &s.StudySessionLengths, &s.StudySessionDates};
-}
-std::array<TextColumn*, 4> editSessionColumns(RecordStore& s) {
-    return {&s.EditStudySessionRecordNos, &s.EditStudySessionLinkIDs, &s.EditStudySessionLengths,
-            &s.EditStudySessionDates};
-}
+// A study session's columns, of the term and of the edit, in file order as the bindings
+// give them, and the window's lists in that same order.
+std::vector<TextColumn*> sessionColumns(RecordStore& s) { return kStudySessionBinding.columns(s); }
+std::vector<TextColumn*> editSessionColumns(RecordStore& s) { return kEditStudySessionBinding.columns(s); }
 std::array<TextColumn*, 4> windowSessionLists(FrmAssignment& w) {
     return {&w.tempStudySessionRecordNoArray, &w.tempStudySessionLinkIDArray, &w.tempStudySessionLengthArray,
             &w.tempStudySessionDateArray};
@@ -115,11 +103,11 @@ void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
     for (TextColumn* column : editSessionColumns(s)) column->clear();
     for (TextColumn* list : windowSessionLists(w)) list->clear();
     const Int16 id = int16OrZero(s.AssignmentIDs(row));
+    const auto columns = sessionColumns(s);
+    const auto edits = editSessionColumns(s);
+    const auto lists = windowSessionLists(w);
     for (int i = s.StudySessionRecordNos.count(); i >= 1; --i) {
         if (int16OrZero(s.StudySessionLinkIDs(i)) != id) continue;
-        const auto columns = sessionColumns(s);
-        const auto edits = editSessionColumns(s);
-        const auto lists = windowSessionLists(w);
         for (std::size_t f = 0; f < 4; ++f) {
             edits[f]->append((*columns[f])(i));
             lists[f]->append((*columns[f])(i));
@@ -130,12 +118,12 @@ void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
 // Appends the window's sessions left after the existing ones were taken out, row 1 first,
 // as new records linked to `assignmentID`.
 void SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, const std::string& assignmentID) {
-    for (TextColumn* column : editSessionColumns(s)) column->clear();
+    const auto columns = sessionColumns(s);
+    const auto edits = editSessionColumns(s);
+    for (TextColumn* column : edits) column->clear();
     for (int i = 1; i <= w.tempStudySessionRecordNoArray.count(); ++i) {
         const std::array<std::string, 4> values{std::to_string(s.NextStudySessionRecord), assignmentID,
                                                 w.tempStudySessionLengthArray(i), w.tempStudySessionDateArray(i)};
-        const auto columns = sessionColumns(s);
-        const auto edits = editSessionColumns(s);
         for (std::size_t f = 0; f < 4; ++f) {
             columns[f]->append(values[f]);
             edits[f]->append(values[f]);
@@ -198,19 +186,14 @@ void RecordActions::NewAssignment() {
     if (window.CancelledFlag) return;
 
     const std::string id = std::to_string(s.NextAssignmentRecord);
-    s.AssignmentRecordNos.append(id);
-    s.AssignmentIDs.append(id);
-    const auto values = editedValues(window, "");
-    const auto columns = editedColumns(s);
-    for (std::size_t f = 0; f < columns.size(); ++f) columns[f]->append(values[f]);
-    const int row = s.AssignmentIDs.count();
+    s.AssignmentRecord = recordOf(window, id, id, "");
+    kAssignmentBinding.appendRow(s, s.AssignmentRecord);
 
-    const std::string notes = storedText(window.TextBoxNotes->text, kNoteWidth);
+    const std::string notes = storedNote(window);
     if (!notes.empty()) {
         s.NoteRecordNos.append(std::to_string(s.NextNoteRecord));
         s.NoteLinkIDs.append(id);
     }
-    fillAssignmentRecord(s, row);
     s.NoteRecord = {std::to_string(s.NextNoteRecord), id, notes};
     if (!notes.empty()) static_cast<void>(files_.SaveNote(0));
     if (!window.tempStudySessionRecordNoArray.empty()) SaveAddedSessions(s, files_, window, id);
@@ -252,12 +235,12 @@ void RecordActions::EditAssignment(int row) {
     platform_.windowing.showModal(window, &host_.ownerWindow());
     if (window.CancelledFlag) return;
 
-    const auto values = editedValues(window, s.AssignmentClassLinks(row));
-    const auto columns = editedColumns(s);
-    for (std::size_t f = 0; f < columns.size(); ++f) (*columns[f])(row) = values[f];
+    s.AssignmentRecord =
+        recordOf(window, s.AssignmentRecordNos(row), s.AssignmentIDs(row), s.AssignmentClassLinks(row));
+    kAssignmentBinding.storeRow(s, row, s.AssignmentRecord);
 
     // The note: made, rewritten (changed or not), freed, or none at all.
-    const std::string notes = storedText(window.TextBoxNotes->text, kNoteWidth);
+    const std::string notes = storedNote(window);
     const int note = noteRowOf(s, row);
     if (!notes.empty() && note == 0) {
         s.NoteRecordNos.append(std::to_string(s.NextNoteRecord));
@@ -276,7 +259,6 @@ void RecordActions::EditAssignment(int row) {
     }
 
     UpdateStudySessions(s, files_, window, row);
-    fillAssignmentRecord(s, row);
     static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
     host_.refresh("NewRecord");
 }

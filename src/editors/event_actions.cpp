@@ -1,11 +1,12 @@
 // The event procedures: frmEvent shown for a new event or a row of the event columns,
-// then the row's thirteen values and its one record written, and the refresh. An edit
+// then the row and its one record written, and the refresh. An edit
 // from any occurrence of a recurring event arrives here with the one row of its record.
 #include "common/text.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
 #include "editors/record_actions.h"
+#include "record_store/record_bindings.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -13,46 +14,27 @@ namespace {
 
 const char* trueFalse(bool value) { return value ? "True" : "False"; }
 
-// The thirteen value columns of an event as the window left them. The rule columns come
-// from the monthly controls for "Month" and from the yearly ones for every other kind.
-struct EventValues {
-    std::string date, description, type, time, reminder, recurrence, sameDate, repeatNumber, repeatDay, repeatDaily,
-        end, endDate, notes;
-};
-
-EventValues valuesOf(const FrmEvent& form) {
+// The event record as the window left it. The rule fields come from the monthly
+// controls for "Month" and from the yearly ones for every other kind.
+EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const std::string& id) {
     const bool monthly = form.Recurrence == "Month";
-    return {dateText(form.StoreEventDate),
-            trimRight(form.TextBoxEvent->text),
-            trimRight(form.ComboType->text),
-            trimRight(form.ComboTime->text),
-            trimRight(form.ComboRemindMe->text),
-            form.Recurrence,
-            trueFalse(monthly ? form.RadioMonthlyThisDate->checked : form.RadioYearlyThisDate->checked),
-            trimRight((monthly ? form.ComboMonthlyNumber : form.ComboYearlyNumber)->text),
-            trimRight((monthly ? form.ComboMonthlyDay : form.ComboYearlyDay)->text),
-            form.weekdayLetters(),
-            trueFalse(form.RadioEndOn->checked),
-            dateText(form.StoreEndDate),
-            trimRight(form.TextBoxNotes->text)};
-}
-
-// The columns of an event in the order of their values above.
-std::array<TextColumn*, 13> valueColumns(RecordStore& s) {
-    return {&s.EventDates,         &s.EventDescriptions,  &s.EventTypes,   &s.EventTimes,    &s.EventReminders,
-            &s.EventRecurrences,   &s.EventSameDates,     &s.EventRepeatNumbers, &s.EventRepeatDays,
-            &s.EventRepeatDailies, &s.EventEnds,          &s.EventEndDates, &s.EventNotes};
-}
-
-std::array<const std::string*, 13> valueTexts(const EventValues& v) {
-    return {&v.date,       &v.description, &v.type,      &v.time,        &v.reminder, &v.recurrence, &v.sameDate,
-            &v.repeatNumber, &v.repeatDay, &v.repeatDaily, &v.end,       &v.endDate,  &v.notes};
-}
-
-void fillEventRecord(EventBuffer& record, const std::string& recordNo, const std::string& id, const EventValues& v) {
-    record = {recordNo,    id,           v.date,         v.description, v.type,        v.time,    v.recurrence,
-              v.sameDate,  v.repeatNumber, v.repeatDay,  v.repeatDaily, v.end,         v.endDate, v.notes,
-              v.reminder};
+    EventBuffer record;
+    record.RecordNo = recordNo;
+    record.ID = id;
+    record.Date = dateText(form.StoreEventDate);
+    record.Description = trimRight(form.TextBoxEvent->text);
+    record.Type = trimRight(form.ComboType->text);
+    record.Time = trimRight(form.ComboTime->text);
+    record.Recurrence = form.Recurrence;
+    record.SameDate = trueFalse(monthly ? form.RadioMonthlyThisDate->checked : form.RadioYearlyThisDate->checked);
+    record.RepeatNumber = trimRight((monthly ? form.ComboMonthlyNumber : form.ComboYearlyNumber)->text);
+    record.RepeatDay = trimRight((monthly ? form.ComboMonthlyDay : form.ComboYearlyDay)->text);
+    record.RepeatDaily = form.weekdayLetters();
+    record.End = trueFalse(form.RadioEndOn->checked);
+    record.EndDate = dateText(form.StoreEndDate);
+    record.Notes = trimRight(form.TextBoxNotes->text);
+    record.Reminder = trimRight(form.ComboRemindMe->text);
+    return record;
 }
 
 }  // namespace
@@ -67,14 +49,9 @@ void RecordActions::NewEvent() {
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
-    const EventValues v = valuesOf(form);
     const std::string number = std::to_string(store_.NextEventRecord);
-    store_.EventRecordNos.append(number);
-    store_.EventIDs.append(number);
-    const auto columns = valueColumns(store_);
-    const auto texts = valueTexts(v);
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i]->append(*texts[i]);
-    fillEventRecord(store_.EventRecord, number, number, v);
+    store_.EventRecord = recordOf(form, number, number);
+    kEventBinding.appendRow(store_, store_.EventRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveEvent(0));
     host_.refresh("NewRecord");
@@ -104,11 +81,8 @@ void RecordActions::EditEvent(int row) {
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
-    const EventValues v = valuesOf(form);
-    const auto columns = valueColumns(s);
-    const auto texts = valueTexts(v);
-    for (std::size_t i = 0; i < columns.size(); ++i) (*columns[i])(row) = *texts[i];
-    fillEventRecord(s.EventRecord, s.EventRecordNos(row), s.EventIDs(row), v);
+    s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
+    kEventBinding.storeRow(s, row, s.EventRecord);
     static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
     host_.refresh("NewRecord");
 }

@@ -11,25 +11,75 @@
 namespace qh {
 namespace {
 
-// A field of the line: its first position (counted from 1) and its width in bytes.
+constexpr SharedKindTexts kKindTexts[] = {
+    {"ASSIGNMENT", 1580, "Save an Assignment File", "Open an Assignment File", "This is not an Assignment file."},
+    {"TASK", 949, "Save a Task File", "Open a Task File", "This is not a Task file."},
+    {"EVENT", 955, "Save an Event File", "Open an Event File", "This is not an Event file."},
+};
+constexpr const SharedKindTexts& textsOf(SharedKind kind) { return kKindTexts[static_cast<int>(kind)]; }
+
+// A field of the line: its first position (counted from 1) and its width in bytes. The
+// fields lie end to end after the kind's marker, so each is declared by its width alone
+// and the last must end where the kind's line does.
 struct Field {
     int start;
     int width;
 };
+constexpr Field firstField(SharedKind kind, int width) {
+    return {int(std::string_view(textsOf(kind).marker).size()) + 1, width};
+}
+constexpr Field after(Field previous, int width) { return {previous.start + previous.width, width}; }
+constexpr bool endsLine(Field last, SharedKind kind) { return last.start + last.width - 1 == textsOf(kind).lineLength; }
+
+// A text field that goes between the line and a member as it stands (through the code
+// page); the dates, flags and rule fields are converted where the line is built and read.
+template <class Record>
+struct TextField {
+    Field field;
+    std::string Record::*member;
+};
 
 namespace assignment {
-constexpr Field kClassName{11, 25}, kDescription{36, 50}, kDueDate{86, 15}, kType{101, 10}, kDifficulty{111, 10},
-    kEstimatedTime{121, 7}, kWeight{128, 3}, kNotes{131, 1450};
-}
+constexpr Field kClassName = firstField(SharedKind::Assignment, 25), kDescription = after(kClassName, 50),
+                kDueDate = after(kDescription, 15), kType = after(kDueDate, 10), kDifficulty = after(kType, 10),
+                kEstimatedTime = after(kDifficulty, 7), kWeight = after(kEstimatedTime, 3),
+                kNotes = after(kWeight, 1450);
+static_assert(endsLine(kNotes, SharedKind::Assignment));
+using A = SharedAssignment;
+constexpr TextField<A> kTexts[] = {
+    {kClassName, &A::className},   {kDescription, &A::description},     {kType, &A::type},
+    {kDifficulty, &A::difficulty}, {kEstimatedTime, &A::estimatedTime}, {kWeight, &A::weight},
+    {kNotes, &A::notes},
+};
+}  // namespace assignment
+
 namespace task {
-constexpr Field kDescription{5, 60}, kDeadline{65, 5}, kDate{70, 15}, kType{85, 10}, kPriority{95, 10},
-    kNotes{105, 845};
-}
+constexpr Field kDescription = firstField(SharedKind::Task, 60), kDeadline = after(kDescription, 5),
+                kDate = after(kDeadline, 15), kType = after(kDate, 10), kPriority = after(kType, 10),
+                kNotes = after(kPriority, 845);
+static_assert(endsLine(kNotes, SharedKind::Task));
+using T = SharedTask;
+constexpr TextField<T> kTexts[] = {
+    {kDescription, &T::description},
+    {kType, &T::type},
+    {kPriority, &T::priority},
+    {kNotes, &T::notes},
+};
+}  // namespace task
+
 namespace event {
-constexpr Field kName{6, 60}, kFirstDate{66, 15}, kType{81, 10}, kTime{91, 10}, kRecurrence{101, 5}, kThisDate{106, 5},
-    kRepeatNumber{111, 10}, kRepeatDay{121, 10}, kWeekdays{131, 10}, kEndOn{141, 5}, kEndDate{146, 15},
-    kNotes{161, 795};
-}
+// The rule fields hold either the monthly or the yearly controls, by the recurrence.
+constexpr Field kName = firstField(SharedKind::Event, 60), kFirstDate = after(kName, 15), kType = after(kFirstDate, 10),
+                kTime = after(kType, 10), kRecurrence = after(kTime, 5), kThisDate = after(kRecurrence, 5),
+                kRepeatNumber = after(kThisDate, 10), kRepeatDay = after(kRepeatNumber, 10),
+                kWeekdays = after(kRepeatDay, 10), kEndOn = after(kWeekdays, 5), kEndDate = after(kEndOn, 15),
+                kNotes = after(kEndDate, 795);
+static_assert(endsLine(kNotes, SharedKind::Event));
+using E = SharedEvent;
+constexpr TextField<E> kTexts[] = {
+    {kName, &E::name}, {kType, &E::type}, {kTime, &E::time}, {kRecurrence, &E::recurrence}, {kNotes, &E::notes},
+};
+}  // namespace event
 
 constexpr char kCarriageReturn = '\r';
 // Stands for a carriage return inside the line, so that notes with line breaks keep the
@@ -39,8 +89,8 @@ constexpr char kLineBreakMark = '\v';
 // The line as it is built: blanks of the kind's length, fields laid over them.
 class LineWriter {
 public:
-    explicit LineWriter(SharedKind kind) : line_(std::size_t(sharedKindTexts(kind).lineLength), ' ') {
-        const std::string_view marker = sharedKindTexts(kind).marker;
+    explicit LineWriter(SharedKind kind) : line_(std::size_t(textsOf(kind).lineLength), ' ') {
+        const std::string_view marker = textsOf(kind).marker;
         line_.replace(0, marker.size(), marker);
     }
 
@@ -55,6 +105,10 @@ public:
     }
     void putDate(Field field, Date date) { put(field, dateText(date)); }
     void putFlag(Field field, bool value) { put(field, value ? "True" : "False"); }
+    template <class Record, std::size_t N>
+    void putTexts(const TextField<Record> (&fields)[N], const Record& record) {
+        for (const TextField<Record>& f : fields) put(f.field, record.*f.member);
+    }
 
     std::string file() && { return std::move(line_) + "\r\n"; }
 
@@ -67,7 +121,7 @@ private:
 class LineReader {
 public:
     static std::optional<LineReader> open(std::string_view fileBytes, SharedKind kind) {
-        const SharedKindTexts& texts = sharedKindTexts(kind);
+        const SharedKindTexts& texts = textsOf(kind);
         const std::string_view line = fileBytes.substr(0, fileBytes.find(kCarriageReturn));
         if (line.size() != std::size_t(texts.lineLength)) return std::nullopt;
         if (!line.starts_with(texts.marker)) return std::nullopt;
@@ -82,6 +136,10 @@ public:
     std::string text(Field field) const { return fromCodePage(trimRight(raw(field))); }
     std::optional<Date> date(Field field) const { return parseDateText(trimRight(raw(field))); }
     bool isTrue(Field field) const { return trimRight(raw(field)) == "True"; }
+    template <class Record, std::size_t N>
+    void readTexts(const TextField<Record> (&fields)[N], Record& record) const {
+        for (const TextField<Record>& f : fields) record.*f.member = text(f.field);
+    }
     std::string_view raw(Field field) const {
         return std::string_view(bytes_).substr(std::size_t(field.start - 1), std::size_t(field.width));
     }
@@ -133,49 +191,30 @@ bool proposalInCalendar(std::string_view recurrence, Date first) {
 
 }  // namespace
 
-const SharedKindTexts& sharedKindTexts(SharedKind kind) {
-    static const SharedKindTexts kTexts[] = {
-        {"ASSIGNMENT", 1580, "Save an Assignment File", "Open an Assignment File", "This is not an Assignment file."},
-        {"TASK", 949, "Save a Task File", "Open a Task File", "This is not a Task file."},
-        {"EVENT", 955, "Save an Event File", "Open an Event File", "This is not an Event file."},
-    };
-    return kTexts[static_cast<int>(kind)];
-}
+const SharedKindTexts& sharedKindTexts(SharedKind kind) { return textsOf(kind); }
 
 std::string sharedFileBytes(const SharedAssignment& a) {
     using namespace assignment;
     LineWriter line(SharedKind::Assignment);
-    line.put(kClassName, a.className);
-    line.put(kDescription, a.description);
+    line.putTexts(kTexts, a);
     line.putDate(kDueDate, a.dueDate);
-    line.put(kType, a.type);
-    line.put(kDifficulty, a.difficulty);
-    line.put(kEstimatedTime, a.estimatedTime);
-    line.put(kWeight, a.weight);
-    line.put(kNotes, a.notes);
     return std::move(line).file();
 }
 
 std::string sharedFileBytes(const SharedTask& t, Date today) {
     using namespace task;
     LineWriter line(SharedKind::Task);
-    line.put(kDescription, t.description);
+    line.putTexts(kTexts, t);
     line.putFlag(kDeadline, t.deadline);
     line.putDate(kDate, t.deadline ? t.date : today);
-    line.put(kType, t.type);
-    line.put(kPriority, t.priority);
-    line.put(kNotes, t.notes);
     return std::move(line).file();
 }
 
 std::string sharedFileBytes(const SharedEvent& e) {
     using namespace event;
     LineWriter line(SharedKind::Event);
-    line.put(kName, e.name);
+    line.putTexts(kTexts, e);
     line.putDate(kFirstDate, e.firstDate);
-    line.put(kType, e.type);
-    line.put(kTime, e.time);
-    line.put(kRecurrence, e.recurrence);
     const bool monthly = e.recurrence == "Month";
     line.putFlag(kThisDate, monthly ? e.monthlyThisDate : e.yearlyThisDate);
     line.put(kRepeatNumber, monthly ? e.monthlyNumber : e.yearlyNumber);
@@ -185,7 +224,6 @@ std::string sharedFileBytes(const SharedEvent& e) {
     line.put(kWeekdays, letters);
     line.putFlag(kEndOn, e.endOn);
     line.putDate(kEndDate, e.endDate);
-    line.put(kNotes, e.notes);
     return std::move(line).file();
 }
 
@@ -195,9 +233,10 @@ std::optional<SharedAssignment> readSharedAssignment(std::string_view fileBytes)
     if (!line) return std::nullopt;
     const auto due = line->date(kDueDate);
     if (!due) return std::nullopt;
-    return SharedAssignment{line->text(kClassName), line->text(kDescription), *due,
-                            line->text(kType),      line->text(kDifficulty),  line->text(kEstimatedTime),
-                            line->text(kWeight),    line->text(kNotes)};
+    SharedAssignment a;
+    line->readTexts(kTexts, a);
+    a.dueDate = *due;
+    return a;
 }
 
 std::optional<SharedTask> readSharedTask(std::string_view fileBytes) {
@@ -208,8 +247,11 @@ std::optional<SharedTask> readSharedTask(std::string_view fileBytes) {
     // The deadline box takes the field as a truth value: True or False in any case.
     const std::string deadline = lowerAscii(trimRight(line->raw(kDeadline)));
     if (!date || (deadline != "true" && deadline != "false")) return std::nullopt;
-    return SharedTask{line->text(kDescription), deadline == "true",    *date,
-                      line->text(kType),        line->text(kPriority), line->text(kNotes)};
+    SharedTask t;
+    line->readTexts(kTexts, t);
+    t.deadline = deadline == "true";
+    t.date = *date;
+    return t;
 }
 
 std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes) {
@@ -223,11 +265,8 @@ std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes) {
     if (!first || !end || !known || !proposalInCalendar(recurrence, *first)) return std::nullopt;
 
     SharedEvent e;
-    e.name = line->text(kName);
+    line->readTexts(kTexts, e);
     e.firstDate = *first;
-    e.type = line->text(kType);
-    e.time = line->text(kTime);
-    e.recurrence = recurrence;
     if (recurrence == "Month") e.monthlyThisDate = line->isTrue(kThisDate);
     if (recurrence == "Year") e.yearlyThisDate = line->isTrue(kThisDate);
     if (recurrence == "Month" || recurrence == "Year") {
@@ -240,7 +279,6 @@ std::optional<SharedEvent> readSharedEvent(std::string_view fileBytes) {
     }
     e.endOn = line->isTrue(kEndOn);
     e.endDate = *end;
-    e.notes = line->text(kNotes);
     return e;
 }
 

@@ -5,6 +5,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
 #include "editors/record_actions.h"
+#include "record_store/record_bindings.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -12,22 +13,22 @@ namespace {
 
 const char* trueFalse(bool value) { return value ? "True" : "False"; }
 
-// The eight value columns of a task as the window left them. An undated task keeps a
-// date all the same: today's, so that every record has one in the file.
-struct TaskValues {
-    std::string description, dateExists, date, type, priority, done, notes, reminder;
-};
-
-TaskValues valuesOf(const FrmTask& form, Date today) {
+// The task record as the window left it. An undated task keeps a date all the same:
+// today's, so that every record has one in the file.
+TaskBuffer recordOf(const FrmTask& form, Date today, const std::string& recordNo, const std::string& id) {
     const bool deadline = form.CheckBoxDeadline->checked;
-    return {trimRight(form.TextBoxDescription->text), trueFalse(deadline),
-            dateText(deadline ? form.tempTaskDate : today), trimRight(form.ComboType->text),
-            trimRight(form.ComboPriority->text),           trueFalse(form.CheckBoxDone->checked),
-            trimRight(form.TextBoxNotes->text),            trimRight(form.ComboRemindMe->text)};
-}
-
-void fillTaskRecord(TaskBuffer& record, const std::string& recordNo, const std::string& id, const TaskValues& v) {
-    record = {recordNo, id, v.date, v.description, v.dateExists, v.type, v.priority, v.done, v.notes, v.reminder};
+    TaskBuffer record;
+    record.RecordNo = recordNo;
+    record.ID = id;
+    record.Date = dateText(deadline ? form.tempTaskDate : today);
+    record.Description = trimRight(form.TextBoxDescription->text);
+    record.DateExists = trueFalse(deadline);
+    record.Type = trimRight(form.ComboType->text);
+    record.Priority = trimRight(form.ComboPriority->text);
+    record.Done = trueFalse(form.CheckBoxDone->checked);
+    record.Notes = trimRight(form.TextBoxNotes->text);
+    record.Reminder = trimRight(form.ComboRemindMe->text);
+    return record;
 }
 
 }  // namespace
@@ -41,20 +42,9 @@ void RecordActions::NewTask() {
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
-    const TaskValues v = valuesOf(form, platform_.clock.today());
     const std::string number = std::to_string(store_.NextTaskRecord);
-    RecordStore& s = store_;
-    s.TaskRecordNos.append(number);
-    s.TaskIDs.append(number);
-    s.TaskDates.append(v.date);
-    s.TaskDescriptions.append(v.description);
-    s.TaskDateExists.append(v.dateExists);
-    s.TaskTypes.append(v.type);
-    s.TaskPriorities.append(v.priority);
-    s.TaskDones.append(v.done);
-    s.TaskReminders.append(v.reminder);
-    s.TaskNotes.append(v.notes);
-    fillTaskRecord(s.TaskRecord, number, number, v);
+    store_.TaskRecord = recordOf(form, platform_.clock.today(), number, number);
+    kTaskBinding.appendRow(store_, store_.TaskRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveTask(0));
     host_.refresh("NewRecord");
@@ -79,16 +69,8 @@ void RecordActions::EditTask(int row) {
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
-    const TaskValues v = valuesOf(form, platform_.clock.today());
-    s.TaskDates(row) = v.date;
-    s.TaskDescriptions(row) = v.description;
-    s.TaskDateExists(row) = v.dateExists;
-    s.TaskTypes(row) = v.type;
-    s.TaskPriorities(row) = v.priority;
-    s.TaskDones(row) = v.done;
-    s.TaskReminders(row) = v.reminder;
-    s.TaskNotes(row) = v.notes;
-    fillTaskRecord(s.TaskRecord, s.TaskRecordNos(row), s.TaskIDs(row), v);
+    s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
+    kTaskBinding.storeRow(s, row, s.TaskRecord);
     static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
     host_.refresh("NewRecord");
 }

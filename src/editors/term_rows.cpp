@@ -1,10 +1,12 @@
 #include "editors/term_rows.h"
 
 #include <algorithm>
+#include <array>
 
 #include "common/int16.h"
 #include "common/text.h"
 #include "editors/frm_course_schedule.h"
+#include "record_store/record_bindings.h"
 
 namespace qh {
 namespace {
@@ -15,22 +17,27 @@ int highestOf(const TextColumn& ids) {
     return highest;
 }
 
+// The window's class lists in the file order of a class's fields, as the class binding
+// gives their columns.
+std::array<std::vector<std::string>*, 6> classListsOf(FrmCourseSchedule& window) {
+    return {&window.tempClassIDArray,        &window.tempClassTermLinkArray,  &window.tempClassNameArray,
+            &window.tempClassForeColorArray, &window.tempClassBackColorArray, &window.tempClassNotesArray};
+}
+
 void startSchedule(FrmCourseSchedule& window, Date today) {
-    for (auto* list : {&window.tempClassIDArray, &window.tempClassTermLinkArray, &window.tempClassNameArray,
-                       &window.tempClassForeColorArray, &window.tempClassBackColorArray, &window.tempClassNotesArray})
-        list->clear();
+    for (auto* list : classListsOf(window)) list->clear();
     window.tempTermName.clear();
     window.setTermStart(today);
     window.setTermEnd(today);
 }
 
+// The class of row `row` as the window's last class, under `id`: its own, or a new one
+// for a term based on another.
 void appendClass(FrmCourseSchedule& window, const RecordStore& store, int row, const std::string& id) {
-    window.tempClassIDArray.push_back(id);
-    window.tempClassTermLinkArray.push_back(store.ClassTermLinks(row));
-    window.tempClassNameArray.push_back(store.ClassNames(row));
-    window.tempClassForeColorArray.push_back(store.ClassForeColors(row));
-    window.tempClassBackColorArray.push_back(store.ClassBackColors(row));
-    window.tempClassNotesArray.push_back(store.ClassNotes(row));
+    std::vector<std::string> values = kClassBinding.valuesOfRow(store, row);
+    values[kClassBinding.position("ID")] = id;
+    const auto lists = classListsOf(window);
+    for (std::size_t f = 0; f < lists.size(); ++f) lists[f]->push_back(std::move(values[f]));
 }
 
 }  // namespace
@@ -40,14 +47,11 @@ std::string NextTermID(const RecordStore& store) { return std::to_string(highest
 void RemoveTermRows(RecordStore& store, const std::string& termID) {
     for (int i = store.TermIDs.count(); i >= 1; --i) {
         if (store.TermIDs(i) != termID) continue;
-        for (TextColumn* column : {&store.TermIDs, &store.TermNames, &store.TermStarts, &store.TermEnds})
-            column->removeAt(i);
+        for (TextColumn* column : kTermBinding.columns(store)) column->removeAt(i);
     }
     for (int i = store.ClassTermLinks.count(); i >= 1; --i) {
         if (store.ClassTermLinks(i) != termID) continue;
-        for (TextColumn* column : {&store.ClassIDs, &store.ClassTermLinks, &store.ClassNames, &store.ClassForeColors,
-                                   &store.ClassBackColors, &store.ClassNotes})
-            column->removeAt(i);
+        for (TextColumn* column : kClassBinding.columns(store)) column->removeAt(i);
     }
 }
 

@@ -116,6 +116,18 @@ std::vector<std::string> RecordBinding<Buffer>::valuesOf(const Buffer& buffer) c
 }
 
 template <class Buffer>
+void RecordBinding<Buffer>::appendRow(RecordStore& store, const Buffer& buffer) const {
+    for (const FieldBinding<Buffer>& f : fields)
+        if (f.column) (store.*f.column).append(f.fromBuffer(buffer));
+}
+
+template <class Buffer>
+void RecordBinding<Buffer>::storeRow(RecordStore& store, int row, const Buffer& buffer) const {
+    for (const FieldBinding<Buffer>& f : fields)
+        if (f.column) (store.*f.column)(row) = f.fromBuffer(buffer);
+}
+
+template <class Buffer>
 std::vector<std::string> RecordBinding<Buffer>::valuesOfRow(const RecordStore& store, int row) const {
     std::vector<std::string> values;
     values.reserve(fields.size());

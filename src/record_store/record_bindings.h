@@ -35,6 +35,10 @@ struct RecordBinding {
     std::vector<TextColumn*> columns(RecordStore& store) const;
     // The values of one record from the buffer, in file order.
     std::vector<std::string> valuesOf(const Buffer& buffer) const;
+    // A record from the buffer as a new last row of the store's columns, or over row `row`
+    // (record number and ID included); fields without a column are left out.
+    void appendRow(RecordStore& store, const Buffer& buffer) const;
+    void storeRow(RecordStore& store, int row, const Buffer& buffer) const;
     // The values of row `row` of the store's columns, in file order.
     std::vector<std::string> valuesOfRow(const RecordStore& store, int row) const;
     // The place of a field among the values (reserved fields not counted); an unknown

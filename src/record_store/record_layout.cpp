@@ -108,6 +108,12 @@ int RecordLayout::valueCount() const {
     return n;
 }
 
+int RecordLayout::width(std::string_view field) const {
+    for (const FieldSpec& spec : fields)
+        if (spec.name == field) return spec.width;
+    throw std::invalid_argument("no field " + std::string(field) + " in " + std::string(fileName));
+}
+
 std::string buildRecord(const RecordLayout& layout, std::span<const std::string> values) {
     if (int(values.size()) != layout.valueCount())
         throw std::invalid_argument("wrong number of values for " + std::string(layout.fileName));

@@ -35,6 +35,9 @@ struct RecordLayout {
 
     // Number of fields that carry a value (all but the reserved ones).
     int valueCount() const;
+    // The width of the field of that name; an unknown name is a programming error
+    // (std::invalid_argument).
+    int width(std::string_view field) const;
 };
 
 extern const RecordLayout kTermsLayout;          // Terms.txt, 100

@@ -33,6 +33,30 @@ TEST(RecordBindings, EveryKindBindsEachValueFieldOfItsFileInOrder) {
     EXPECT_EQ(boundFieldsOf(kEventBinding), valueFieldsOf(kEventsLayout));
     EXPECT_EQ(kEventBinding.position("Description"), 3u);
     EXPECT_THROW((void)kTaskBinding.position("Grade"), std::invalid_argument);
+    EXPECT_EQ(kNotesLayout.width("Text"), 1450);
+    EXPECT_THROW((void)kAssignmentsLayout.width("Notes"), std::invalid_argument);
+}
+
+// An editor's record goes into the columns through the binding: appended as a new last
+// row of every bound column, or over one row and no other.
+TEST(RecordBindings, ARecordGoesIntoItsRowOfEveryBoundColumn) {
+    const auto event = [](const std::string& tag) {
+        return EventBuffer{tag + "no",    tag + "id",  tag + "date", tag + "desc",  tag + "type",
+                           tag + "time",  tag + "rec", tag + "same", tag + "num",   tag + "day",
+                           tag + "daily", tag + "end", tag + "endd", tag + "notes", tag + "rem"};
+    };
+    RecordStore store;
+    kEventBinding.appendRow(store, event("a"));
+    kEventBinding.appendRow(store, event("b"));
+    kEventBinding.storeRow(store, 1, event("c"));
+    for (TextColumn* column : kEventBinding.columns(store)) EXPECT_EQ(column->count(), 2);
+    EXPECT_EQ(kEventBinding.valuesOfRow(store, 1), kEventBinding.valuesOf(event("c")));
+    EXPECT_EQ(kEventBinding.valuesOfRow(store, 2), kEventBinding.valuesOf(event("b")));
+
+    // A note's text has no column: only its number and link are appended.
+    kNoteBinding.appendRow(store, NoteBuffer{"7", "3", "kept on disk"});
+    EXPECT_EQ(store.NoteRecordNos.count(), 1);
+    EXPECT_EQ(store.NoteLinkIDs(1), "3");
 }
 
 }  // namespace
