@@ -9,7 +9,7 @@
 #include "editors/frm_event.h"
 #include "editors/frm_task.h"
 #include "support/main_window_fixture.h"
-#include "support/task_event_records.h"
+#include "support/record_fields.h"
 
 namespace qh {
 namespace {
@@ -41,17 +41,11 @@ struct Events : LoadedMainWindow {
         load();
     }
     void run(int row, const Step& step) {
-        fake.windowing.modalUsers["frmEvent"].push_back([step](Form& form) { step(static_cast<FrmEvent&>(form)); });
+        drive<FrmEvent>("frmEvent", step);
         if (row == 0)
             window->NewEvent();
         else
             window->EditEvent(row);
-    }
-    std::string eventsFile() { return fake.bytesOf(fake.dataDirectory() + "/Events.txt"); }
-    std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
-        return texts;
     }
     std::string longDate(int year, int month, int day) { return fake.locale.longDate(dateFromYmd(year, month, day)); }
 };
@@ -122,7 +116,7 @@ TEST(EventEditor, EachKindOfSaveWritesTheRecordByteForByte) {
         SCOPED_TRACE(c.name);
         Events events(c.before);
         events.run(c.row, c.step);
-        EXPECT_EQ(events.eventsFile(), c.after);
+        EXPECT_EQ(events.dataFile("Events.txt"), c.after);
     }
 }
 
@@ -219,7 +213,7 @@ TEST(EventEditor, ThePanelTakesTheDefaultsOfItsDate) {
         EXPECT_GT(w.c("FrameMonthly").z, w.c("FrameYearly").z);
         w.click("ButtonCancel");
     });
-    EXPECT_TRUE(stored.messages().empty());
+    EXPECT_TRUE(stored.messageTexts().empty());
 }
 
 // OK's four checks, the first failing one alone; cancel, close box and delete with their
@@ -304,10 +298,10 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
                 w.hide();
             }
         });
-        EXPECT_EQ(events.messages(), c.messages);
+        EXPECT_EQ(events.messageTexts(), c.messages);
         EXPECT_EQ(open, c.staysOpen);
         if (c.staysOpen) {
-            EXPECT_EQ(events.eventsFile(), fourEvents());
+            EXPECT_EQ(events.dataFile("Events.txt"), fourEvents());
         }
     }
 }

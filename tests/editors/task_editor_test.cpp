@@ -6,7 +6,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
 #include "support/main_window_fixture.h"
-#include "support/task_event_records.h"
+#include "support/record_fields.h"
 
 namespace qh {
 namespace {
@@ -22,17 +22,11 @@ struct Tasks : LoadedMainWindow {
     }
     // Opens the task of `row` (0 for a new one) and drives it with `step`.
     void run(int row, const Step& step) {
-        fake.windowing.modalUsers["FrmTask"].push_back([step](Form& form) { step(static_cast<FrmTask&>(form)); });
+        drive<FrmTask>("FrmTask", step);
         if (row == 0)
             window->NewTask();
         else
             window->EditTask(row);
-    }
-    std::string tasksFile() { return fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"); }
-    std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
-        return texts;
     }
 };
 
@@ -106,7 +100,7 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
         SCOPED_TRACE(c.name);
         Tasks tasks(c.before);
         tasks.run(c.row, c.step);
-        EXPECT_EQ(tasks.tasksFile(), c.after);
+        EXPECT_EQ(tasks.dataFile("Tasks.txt"), c.after);
     }
 }
 
@@ -165,9 +159,9 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
                 w.hide();
             }
         });
-        EXPECT_EQ(tasks.messages(), c.messages);
+        EXPECT_EQ(tasks.messageTexts(), c.messages);
         EXPECT_EQ(open, c.staysOpen);
-        EXPECT_EQ(tasks.tasksFile(), threeTasks());
+        EXPECT_EQ(tasks.dataFile("Tasks.txt"), threeTasks());
     }
 }
 
@@ -208,7 +202,7 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         EXPECT_FALSE(w.ChangeFlag);
         w.click("ButtonCancel");
     });
-    EXPECT_TRUE(tasks.messages().empty());
+    EXPECT_TRUE(tasks.messageTexts().empty());
 }
 
 }  // namespace

@@ -4,26 +4,14 @@
 // files byte for byte. An event shared from one drive is read into a new event on another.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "probe_session.h"
-#include "support/main_window_fixture.h"
-#include "support/task_event_records.h"
+#include "support/record_fields.h"
+#include "tools/probe_script.h"
 
 namespace qh {
 namespace {
 
-std::string runScript(FakePlatform& fake, const std::string& script) {
-    std::ostringstream out;
-    ProbeSession session(fake.drive, fake.host, out);
-    std::istringstream in(script);
-    EXPECT_TRUE(session.run(in)) << session.failedLine() << "\n" << out.str();
-    return out.str();
-}
-
-void expectLines(const std::string& text, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) EXPECT_NE(text.find(line), std::string::npos) << line << "\n" << text;
-}
+using test::expectLines;
+using test::runScript;
 
 TEST(EditorScripts, TasksWithAndWithoutADeadline) {
     FakePlatform fake;
