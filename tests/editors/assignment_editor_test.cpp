@@ -231,67 +231,10 @@ TEST(AssignmentEditor, AnEditShowsTheRecordWithItsCorrections) {
     EXPECT_TRUE(editor.messageTexts().empty());
 }
 
-// The OK checks in their order, each leaving the window open with the focus where it
-// says; a window that passes them closes.
-TEST(AssignmentEditor, OkChecksRefuseInTheirOrder) {
-    const struct {
-        const char* name;
-        Use fill;
-        std::string message, focus;
-    } cases[] = {
-        {"NoClassUsesTheTypesWord", [](FrmAssignment& w) { w.select("ComboTypeList", "Quiz"); },
-         "Select a Class for this Quiz.", ""},
-        {"EstimateUsedUp",
-         [](FrmAssignment& w) {
-             w.select("ComboClassNameList", 0);
-             addSession(w, "00 : 30");
-         },
-         "You have studied longer than the Estimated Time.\r\nIncrease the Estimated Time so the Time Left is more "
-         "than zero.",
-         "ComboEstTime"},
-        {"NoDescriptionOnceDone",
-         [](FrmAssignment& w) {
-             w.select("ComboClassNameList", 0);
-             addSession(w, "00 : 30");
-             w.click("CheckBoxDone");
-         },
-         "Add a Description to this Assignment.", "TextBoxDescription"},
-        {"AllPass",
-         [](FrmAssignment& w) {
-             w.select("ComboClassNameList", 1);
-             w.type("TextBoxDescription", "Lab report");
-         },
-         "", ""},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Editor editor;
-        bool stayedOpen = false;
-        std::string focus;
-        editor.use([&](FrmAssignment& w) {
-            c.fill(w);
-            w.SetFocus("ButtonOK");
-            w.click("ButtonOK");
-            stayedOpen = w.visible;
-            focus = w.focusedControl;
-            if (w.visible) w.hide();
-        });
-        editor.window->click("ButtonNewAssignment");
-        EXPECT_EQ(stayedOpen, !c.message.empty());
-        if (c.message.empty()) {
-            EXPECT_TRUE(editor.messageTexts().empty());
-            EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 3);
-        } else {
-            ASSERT_EQ(editor.messageTexts(), std::vector<std::string>{c.message});
-            EXPECT_EQ(focus, c.focus.empty() ? "ButtonOK" : c.focus);
-            EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);  // a hidden window saves nothing
-        }
-    }
-}
-
-// Cancel and the close box: no question without a change, the type's question with one,
-// and No keeps the window open; a cancelled dialog writes nothing and refreshes nothing.
-TEST(AssignmentEditor, CancelAsksOnlyAfterAChange) {
+// OK's refusals, each leaving the window open with the focus where it says (their order is
+// the checks' own table); cancel, the close box and delete with their questions. No row
+// writes anything or asks for a refresh.
+TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
     const struct {
         const char* name;
         bool edit;
@@ -299,27 +242,51 @@ TEST(AssignmentEditor, CancelAsksOnlyAfterAChange) {
         Use user;
         std::vector<std::string> messages;
         bool stayedOpen;
+        std::string focus;  // after a refused OK
     } cases[] = {
-        {"NoChange", true, {}, [](FrmAssignment& w) { w.click("ButtonCancel"); }, {}, false},
+        {"NoClassUsesTheTypesWord", false, {},
+         [](FrmAssignment& w) {
+             w.select("ComboTypeList", "Quiz");
+             w.click("ButtonOK");
+         },
+         {"Select a Class for this Quiz."}, true, "ButtonOK"},
+        {"EstimateUsedUp", false, {},
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", 0);
+             addSession(w, "00 : 30");
+             w.click("ButtonOK");
+         },
+         {"You have studied longer than the Estimated Time.\r\nIncrease the Estimated Time so the Time Left is more "
+          "than zero."},
+         true, "ComboEstTime"},
+        {"NoDescriptionOnceDone", false, {},
+         [](FrmAssignment& w) {
+             w.select("ComboClassNameList", 0);
+             addSession(w, "00 : 30");
+             w.click("CheckBoxDone");
+             w.click("ButtonOK");
+         },
+         {"Add a Description to this Assignment."}, true, "TextBoxDescription"},
+        {"NoChange", true, {}, [](FrmAssignment& w) { w.click("ButtonCancel"); }, {}, false, ""},
         {"CloseBoxNoChange", true, {},
-         [](FrmAssignment& w) { EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox)); }, {}, false},
+         [](FrmAssignment& w) { EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox)); }, {}, false, ""},
         {"NewChangedYes", false, {MessageAnswer::Yes},
          [](FrmAssignment& w) {
              w.select("ComboTypeList", "Project");
              w.click("ButtonCancel");
          },
-         {"Cancel this Project?"}, false},
+         {"Cancel this Project?"}, false, ""},
         {"EditChangedNo", true, {MessageAnswer::No},
          [](FrmAssignment& w) {
              w.type("TextBoxDescription", "Other");
              EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox));
          },
-         {"Cancel all changes to this Test?"}, true},
+         {"Cancel all changes to this Test?"}, true, ""},
         {"DeleteAnsweredNo", true, {MessageAnswer::Yes, MessageAnswer::No},
          [](FrmAssignment& w) { w.click("ButtonDelete"); },
          {"Are you sure you want to Delete this Test?",
           "Are you really sure? Your Study Sessions for this Test will also be deleted."},
-         true},
+         true, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -327,9 +294,13 @@ TEST(AssignmentEditor, CancelAsksOnlyAfterAChange) {
         editor.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
         editor.window->state.RefreshReason = "untouched";
         bool stayedOpen = false;
+        std::string focus;
         editor.use([&](FrmAssignment& w) {
+            w.SetFocus("ButtonOK");
             c.user(w);
             stayedOpen = w.visible;
+            focus = w.focusedControl;
+            if (w.visible) w.hide();  // a hidden window saves nothing
         });
         if (c.edit)
             editor.window->EditAssignment(1);
@@ -337,9 +308,12 @@ TEST(AssignmentEditor, CancelAsksOnlyAfterAChange) {
             editor.window->click("ButtonNewAssignment");
         EXPECT_EQ(editor.messageTexts(), c.messages);
         EXPECT_EQ(stayedOpen, c.stayedOpen);
+        if (!c.focus.empty()) {
+            EXPECT_EQ(focus, c.focus);
+        }
         EXPECT_TRUE(editor.recordWrites().empty());
         EXPECT_EQ(editor.window->state.RefreshReason, "untouched");
-        EXPECT_TRUE(editor.store.AssignmentDescriptions.count() == 2);
+        EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);
     }
     // A close at the program's end is let through.
     Editor editor;
