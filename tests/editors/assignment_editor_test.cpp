@@ -189,35 +189,27 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
     }
 }
 
-// What an edit shows of the stored record: the class by its ID, the corrected grade and
-// weight, the note, the sessions newest first with their sums.
+// What an edit shows of the stored record that no save reads back: the due date and the
+// sums in words, the term over the classes, the sessions newest first; the class looked
+// up by its ID. (What a save reads back is held by the save table, the caption, grade
+// and session count by the probe's end-to-end test.) The second showing starts afresh.
 TEST(AssignmentEditor, AnEditShowsTheRecordWithItsCorrections) {
     Editor editor;
     editor.store.AssignmentClassLinks(2) = "9";  // a class the list lacks
     std::map<std::string, std::string> shown;
     const auto look = [&shown](FrmAssignment& w) {
-        for (const char* key : {"ComboClassNameList", "ComboGrade", "ComboWeight", "ComboRemindMe", "TextBoxNotes",
-                                "TextboxDateDue", "TextBoxTotalTime", "TextBoxTimeLeft"})
+        for (const char* key : {"ComboClassNameList", "ComboGrade", "ComboWeight", "TextBoxNotes", "TextboxDateDue",
+                                "TextBoxTotalTime", "TextBoxTimeLeft"})
             shown[key] = w.c(key).text;
-        shown["LabelStudySessions"] = w.LabelStudySessions->caption;
         shown["LabelClass"] = w.LabelClass->caption;
-        shown["caption"] = w.caption + " " + std::to_string(w.height);
         shown["first session"] = w.ListBoxStudySessions->items.empty() ? "" : w.ListBoxStudySessions->items[0];
         w.click("ButtonCancel");
     };
     editor.use(look);
     editor.window->EditAssignment(1);
-    EXPECT_EQ(shown["ComboClassNameList"], "Algebra");
-    EXPECT_EQ(shown["ComboGrade"], "B+");
-    EXPECT_EQ(shown["ComboWeight"], "20");
-    EXPECT_EQ(shown["ComboRemindMe"], "3 Days");
-    EXPECT_EQ(shown["TextBoxNotes"], "Bring a calculator");
     EXPECT_EQ(shown["TextboxDateDue"], "Tuesday, November 24, 2026");
     EXPECT_EQ(shown["TextBoxTotalTime"], "01 : 45");
-    EXPECT_EQ(shown["TextBoxTimeLeft"], "00 : 15");
-    EXPECT_EQ(shown["LabelStudySessions"], "Study Sessions: 03");
     EXPECT_EQ(shown["LabelClass"], " Classes Fall 2026");
-    EXPECT_EQ(shown["caption"], "Quillhollow - Edit Assignment 7425");
     EXPECT_EQ(shown["first session"], "00 : 15    Friday, Nov 20, 2026");
 
     editor.use(look);
