@@ -53,33 +53,19 @@ TEST(ProbeExport, EachListAndMonthSheetIsSavedWhereChosenAndOpened) {
         const char* suggestedName;
         std::vector<std::string> inPage;
     } cases[] = {
-        {"homework",
-         "MenuExportList",
-         "Export Assignment List to HTML File",
-         "Homework List.html",
+        {"homework", "MenuExportList", "Export Assignment List to HTML File", "Homework List.html",
          {"Read &lt;Hamlet&gt; &amp; notes", "Quiz review", "Algebra", "Yes"}},
         {"sessions", "MenuExportList", "Export Study Sessions to HTML File", "Study Time List.html", {}},
         {"tasks", "MenuExportList", "Export Tasks to HTML File", "Task List.html", {"Return &lt;library&gt; books"}},
-        {"reminders",
-         "MenuExportList",
-         "Export Reminder List to HTML File",
-         "Reminder List.html",
+        {"reminders", "MenuExportList", "Export Reminder List to HTML File", "Reminder List.html",
          {"Return &lt;library&gt; books", "2 Days"}},
         {"events", "MenuExportList", "Export Event List to HTML File", "Event List.html", {"Choir &amp; band concert"}},
-        {"homework",
-         "MenuExportCalendar",
-         "Export Assignments to HTML Calendar File",
+        {"homework", "MenuExportCalendar", "Export Assignments to HTML Calendar File",
          "November Homework Calendar.html",
          {"November 2026 Homework Calendar", "Read &lt;Hamlet&gt; &amp; notes"}},
-        {"tasks",
-         "MenuExportCalendar",
-         "Export Tasks to HTML Calendar File",
-         "November Task Calendar.html",
+        {"tasks", "MenuExportCalendar", "Export Tasks to HTML Calendar File", "November Task Calendar.html",
          {"November 2026 Task Calendar", "Return &lt;library&gt; books"}},
-        {"events",
-         "MenuExportCalendar",
-         "Export Events to HTML Calendar File",
-         "November Event Calendar.html",
+        {"events", "MenuExportCalendar", "Export Events to HTML Calendar File", "November Event Calendar.html",
          {"November 2026 Event Calendar", "Choir &amp; band concert"}},
     };
     ExportDrive drive;
@@ -120,8 +106,9 @@ TEST(ProbeExport, PrintScreenPrintsOncePerAcceptedDialog) {
     std::ostringstream out;
     ProbeSession session(drive.fake.drive, drive.fake.host, out);
     EXPECT_FALSE(session.action("printer 0"));
-    std::istringstream in("printer 1\nprinter cancel\nprinter 3\n"
-                          "click MenuPrintScreen\nclick MenuPrintScreen\nclick MenuPrintScreen\nclick MenuPrintScreen\n");
+    std::string script = "printer 1\nprinter cancel\nprinter 3\n";
+    for (int click = 0; click < 4; ++click) script += "click MenuPrintScreen\n";
+    std::istringstream in(script);
     ASSERT_TRUE(session.run(in)) << session.failedLine();
     EXPECT_EQ(countOf(out.str(), "Printer dialog\n"), 4u);
     EXPECT_EQ(countOf(out.str(), "Printed window image\n"), 2u);
