@@ -33,14 +33,8 @@ struct Tasks : LoadedMainWindow {
 // The Tasks.txt of the edit cases: three records, the second a tombstone.
 const TaskFields kLaundry{.recordNo = 1, .description = "Laundry", .date = "2026/11/20", .type = "Home"};
 const TaskFields kTombstone{.recordNo = 2, .description = "DELETED RECORD", .date = "2026/11/01", .done = "True"};
-const TaskFields kEssay{.recordNo = 3,
-                        .description = "Essay outline",
-                        .dateExists = "True",
-                        .date = "2026/12/02",
-                        .type = "School",
-                        .priority = "High",
-                        .notes = "Three sources\r\nOne quote",
-                        .reminder = "3 Days"};
+const TaskFields kEssay{.recordNo = 3, .description = "Essay outline", .dateExists = "True", .date = "2026/12/02",
+                       .type = "School", .priority = "High", .notes = "Three sources\r\nOne quote", .reminder = "3 Days"};
 
 std::string threeTasks() { return taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(kEssay); }
 
