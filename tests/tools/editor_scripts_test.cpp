@@ -10,6 +10,7 @@
 namespace qh {
 namespace {
 
+using test::dataFile;
 using test::expectLines;
 using test::runScript;
 
@@ -43,7 +44,7 @@ TEST(EditorScripts, TasksWithAndWithoutADeadline) {
                        "Rows: 1 from 1\nRow 1: | 1|1 {&HFFFFFF} |  Clean desk"});
     // The 24th is marked on the calendar while the dated task lives.
     EXPECT_NE(text.find("24  000000/F0E8E2"), std::string::npos) << text;
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"),
+    EXPECT_EQ(dataFile(fake, "Tasks.txt"),
               taskRecord({.description = "DELETED RECORD", .dateExists = "True", .date = "2026/11/24", .done = "True",
                           .reminder = "2 Days"}) +
                   taskRecord({.recordNo = 2, .description = "Clean desk", .date = "2026/11/22", .priority = "High"}) +
@@ -95,7 +96,7 @@ TEST(EditorScripts, AWeeklyAMonthlyAndAYearlyEvent) {
                        "  TextboxEventDate \"Monday, November 2, 2026\"\n",
                        "Message: \"Quillhollow\" \"Are you sure you want to Delete this Event?\"\n",
                        "Rows: 2 from 1\n"});
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Events.txt"),
+    EXPECT_EQ(dataFile(fake, "Events.txt"),
               eventRecord([] {
                   // A weekly event stores the yearly controls as they stand: the birthday's.
                   EventFields gone = kSwim;
@@ -123,7 +124,7 @@ TEST(EditorScripts, AnEventSharedFromOneDriveIsReadIntoANewEventOnAnother) {
     EventFields shared = kBookGroup;
     shared.recordNo = 1;
     shared.reminder = "None";
-    EXPECT_EQ(second.bytesOf(second.dataDirectory() + "/Events.txt"), eventRecord(shared));
+    EXPECT_EQ(dataFile(second, "Events.txt"), eventRecord(shared));
 }
 
 }  // namespace

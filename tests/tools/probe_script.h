@@ -1,5 +1,6 @@
 #pragma once
-// Runs a probe script on a fake drive and looks for the lines it must have printed.
+// Runs a probe script on a fake drive and looks for the lines it must have printed, and
+// reads the record files the script left.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -20,6 +21,11 @@ inline std::string runScript(FakePlatform& fake, const std::string& script) {
 
 inline void expectLines(const std::string& text, const std::vector<std::string>& lines) {
     for (const std::string& line : lines) EXPECT_NE(text.find(line), std::string::npos) << line << "\n" << text;
+}
+
+// The bytes of a record file in the drive's data directory: bare name -> bytes.
+inline std::string dataFile(FakePlatform& fake, const std::string& name) {
+    return fake.bytesOf(fake.dataDirectory() + "/" + name);
 }
 
 }  // namespace qh::test

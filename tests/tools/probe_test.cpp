@@ -7,6 +7,7 @@
 namespace qh {
 namespace {
 
+using test::dataFile;
 using test::expectLines;
 using test::runScript;
 
@@ -96,8 +97,8 @@ TEST(Probe, MakesATermWithClassesEndToEnd) {
                  "Message: \"Quillhollow\" \"There is already a class with this name.\"\n",
                  "Term: \"Winter 2026\" \"125 Days Left in Term\"\n",
                  "ComboGPA: \"GPA\" of [GPA, Total , Algebra , Biology , History ]\n"});
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Terms.txt"), termRecord(1, "Winter 2026", "2027/01/11", "2027/03/26"));
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Classes.txt"),
+    EXPECT_EQ(dataFile(fake, "Terms.txt"), termRecord(1, "Winter 2026", "2027/01/11", "2027/03/26"));
+    EXPECT_EQ(dataFile(fake, "Classes.txt"),
               classRecord(1, 1, "Algebra", "Black", "MistyRose") + classRecord(2, 1, "Biology", "SeaShell", "MediumBlue") +
                   classRecord(3, 1, "History", "Black", "White"));
 
@@ -131,21 +132,21 @@ TEST(Probe, MakesAnAssignmentWithStudySessionsEndToEnd) {
                  "00:00 {&HFFFFFF} | 24-Nov-26 {&HFFFFFF} |  {&HFFFFFF} <Checked> | A- {&HFFFFFF}",
                  "24* FFFFFF/A88A76",  // the due day marked in the class's colour
                  "TextBoxStudySessions: \"3\"", "TextBoxStudyTime: \"02:05\"", "19  000000/F0E8E2"});
-    const auto dataFile = [&fake](const char* name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); };
-    EXPECT_EQ(dataFile("Assignments.txt"), assignmentRecord({.classLink = 2, .date = "2026/11/24", .type = "Quiz",
-                                                             .estTime = "02 : 30", .description = "Cells and tissues",
-                                                             .done = "True", .grade = "A-"}));
-    EXPECT_EQ(dataFile("Notes.txt"), noteRecord(1, 1, "Chapter 3\r\nBring the lab book"));
-    EXPECT_EQ(dataFile("StudySessions.txt"), sessionRecord(1, "1", "00 : 20", "2026/11/21") +
-                                                 sessionRecord(2, "1", "01 : 00", "2026/11/20") +
-                                                 sessionRecord(3, "1", "00 : 45", "2026/11/19"));
+    const AssignmentFields quiz{.classLink = 2, .date = "2026/11/24", .type = "Quiz", .estTime = "02 : 30",
+                                .description = "Cells and tissues", .done = "True", .grade = "A-"};
+    EXPECT_EQ(dataFile(fake, "Assignments.txt"), assignmentRecord(quiz));
+    EXPECT_EQ(dataFile(fake, "Notes.txt"), noteRecord(1, 1, "Chapter 3\r\nBring the lab book"));
+    EXPECT_EQ(dataFile(fake, "StudySessions.txt"), sessionRecord(1, "1", "00 : 20", "2026/11/21") +
+                                                       sessionRecord(2, "1", "01 : 00", "2026/11/20") +
+                                                       sessionRecord(3, "1", "00 : 45", "2026/11/19"));
 
     expectLines(runScript(fake, "clock 2026-11-22 09:00\nrow 1\nprint\nclick ButtonCancel\n"
                                 "row 1\nanswer yes\nanswer yes\nclick ButtonDelete\nprint\n"),
                 {"Window frmAssignment \"Quillhollow - Edit Assignment\" 6360 x 7425",
                  "  ComboGrade \"A-\" entries=14", "  LabelStudySessions \"Study Sessions: 03\"",
-                 "  TextBoxTimeLeft \"00 : 25\" fore=Black back=Honeydew", "  ComboClassNameList \"Biology\"", "Rows: 0 from 1"});
-    EXPECT_EQ(dataFile("Notes.txt"), noteRecord(1, 0, ""));  // the note let go with its assignment
+                 "  TextBoxTimeLeft \"00 : 25\" fore=Black back=Honeydew", "  ComboClassNameList \"Biology\"",
+                 "Rows: 0 from 1"});
+    EXPECT_EQ(dataFile(fake, "Notes.txt"), noteRecord(1, 0, ""));  // the note let go with its assignment
 }
 
 }  // namespace

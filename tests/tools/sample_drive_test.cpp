@@ -14,6 +14,7 @@
 #include "record_store/color_vocabulary.h"
 #include "sample_content.h"
 #include "support/fake_platform.h"
+#include "tools/probe_script.h"
 
 namespace qh {
 namespace {
@@ -136,7 +137,7 @@ TEST(SampleDrive, TheSameSeedMakesTheSameBytesAndAFullFolderIsRefused) {
     sample::MakeSampleDrive(first.drive, DriveSize::Realistic, kToday);
     sample::MakeSampleDrive(again.drive, DriveSize::Realistic, kToday);
     sample::MakeSampleDrive(other.drive, DriveSize::Realistic, kToday, 7);
-    auto bytes = [](FakePlatform& fake, const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); };
+    const auto& bytes = test::dataFile;
     for (const char* name : kFiles) EXPECT_EQ(bytes(first, name), bytes(again, name)) << name;
     EXPECT_NE(bytes(first, "Assignments.txt"), bytes(other, "Assignments.txt"));
     EXPECT_NE(bytes(first, "Events.txt"), bytes(other, "Events.txt"));
