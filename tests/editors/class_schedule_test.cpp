@@ -27,17 +27,9 @@ struct Schedule : LoadedMainWindow {
     // Runs the schedule: the selection window answered by `choose`, then the schedule
     // window by `edit`.
     void run(const std::function<void(FrmSelectCourseSchedule&)>& choose, const Step& edit) {
-        fake.windowing.modalUsers["frmSelectCourseSchedule"].push_back(
-            [choose](Form& form) { choose(static_cast<FrmSelectCourseSchedule&>(form)); });
-        fake.windowing.modalUsers["frmCourseSchedule"].push_back(
-            [edit](Form& form) { edit(static_cast<FrmCourseSchedule&>(form)); });
+        drive<FrmSelectCourseSchedule>("frmSelectCourseSchedule", choose);
+        drive<FrmCourseSchedule>("frmCourseSchedule", edit);
         window->click("ButtonSelectTerm");
-    }
-    std::string bytes(const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); }
-    std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
-        return texts;
     }
 };
 
@@ -102,8 +94,8 @@ TEST(ClassSchedule, EachKindOfSaveWritesTheFilesByteForByte) {
         SCOPED_TRACE(c.name);
         Schedule schedule;
         schedule.run(c.choose, c.edit);
-        EXPECT_EQ(schedule.bytes("Terms.txt"), c.terms);
-        EXPECT_EQ(schedule.bytes("Classes.txt"), c.classes);
+        EXPECT_EQ(schedule.dataFile("Terms.txt"), c.terms);
+        EXPECT_EQ(schedule.dataFile("Classes.txt"), c.classes);
         EXPECT_EQ(schedule.store.CurrentTermName, c.activeTerm);
     }
 }
@@ -186,7 +178,7 @@ TEST(ClassSchedule, ChecksRefuseWhatTheyMustAndAskBeforeARename) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Schedule schedule;
-        const std::string before = schedule.bytes("Classes.txt");
+        const std::string before = schedule.dataFile("Classes.txt");
         schedule.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
         std::string lines;
         schedule.run([](auto& s) { pickTerm(s, "Fall 2026", "ButtonEdit"); },
@@ -194,10 +186,10 @@ TEST(ClassSchedule, ChecksRefuseWhatTheyMustAndAskBeforeARename) {
                          c.edit(w);
                          for (const std::string& item : w.ComboBoxClassList->items) lines += (lines.empty() ? "" : "|") + item;
                      });
-        EXPECT_EQ(schedule.messages(), c.messages);
+        EXPECT_EQ(schedule.messageTexts(), c.messages);
         EXPECT_EQ(lines, c.classList);
         if (std::string(c.name) != "OneDayTermEmptyNameAndTakenName") {
-            EXPECT_EQ(schedule.bytes("Classes.txt"), before);  // nothing saved
+            EXPECT_EQ(schedule.dataFile("Classes.txt"), before);  // nothing saved
         }
     }
 }

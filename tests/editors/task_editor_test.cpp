@@ -6,7 +6,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
 #include "support/main_window_fixture.h"
-#include "support/task_event_records.h"
+#include "support/record_fields.h"
 
 namespace qh {
 namespace {
@@ -22,31 +22,19 @@ struct Tasks : LoadedMainWindow {
     }
     // Opens the task of `row` (0 for a new one) and drives it with `step`.
     void run(int row, const Step& step) {
-        fake.windowing.modalUsers["FrmTask"].push_back([step](Form& form) { step(static_cast<FrmTask&>(form)); });
+        drive<FrmTask>("FrmTask", step);
         if (row == 0)
             window->NewTask();
         else
             window->EditTask(row);
-    }
-    std::string tasksFile() { return fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"); }
-    std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
-        return texts;
     }
 };
 
 // The Tasks.txt of the edit cases: three records, the second a tombstone.
 const TaskFields kLaundry{.recordNo = 1, .description = "Laundry", .date = "2026/11/20", .type = "Home"};
 const TaskFields kTombstone{.recordNo = 2, .description = "DELETED RECORD", .date = "2026/11/01", .done = "True"};
-const TaskFields kEssay{.recordNo = 3,
-                        .description = "Essay outline",
-                        .dateExists = "True",
-                        .date = "2026/12/02",
-                        .type = "School",
-                        .priority = "High",
-                        .notes = "Three sources\r\nOne quote",
-                        .reminder = "3 Days"};
+const TaskFields kEssay{.recordNo = 3, .description = "Essay outline", .dateExists = "True", .date = "2026/12/02",
+                       .type = "School", .priority = "High", .notes = "Three sources\r\nOne quote", .reminder = "3 Days"};
 
 std::string threeTasks() { return taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(kEssay); }
 
@@ -106,7 +94,7 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
         SCOPED_TRACE(c.name);
         Tasks tasks(c.before);
         tasks.run(c.row, c.step);
-        EXPECT_EQ(tasks.tasksFile(), c.after);
+        EXPECT_EQ(tasks.dataFile("Tasks.txt"), c.after);
     }
 }
 
@@ -165,9 +153,9 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
                 w.hide();
             }
         });
-        EXPECT_EQ(tasks.messages(), c.messages);
+        EXPECT_EQ(tasks.messageTexts(), c.messages);
         EXPECT_EQ(open, c.staysOpen);
-        EXPECT_EQ(tasks.tasksFile(), threeTasks());
+        EXPECT_EQ(tasks.dataFile("Tasks.txt"), threeTasks());
     }
 }
 
@@ -208,7 +196,7 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         EXPECT_FALSE(w.ChangeFlag);
         w.click("ButtonCancel");
     });
-    EXPECT_TRUE(tasks.messages().empty());
+    EXPECT_TRUE(tasks.messageTexts().empty());
 }
 
 }  // namespace

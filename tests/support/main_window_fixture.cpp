@@ -1,5 +1,7 @@
 #include "support/main_window_fixture.h"
 
+#include "support/record_fields.h"
+
 namespace qh {
 namespace {
 
@@ -24,10 +26,16 @@ std::string classRecord(int id, int termLink, const std::string& name, const std
 
 std::string assignmentRecord(int recordNo, int classLink, const std::string& date, const std::string& description,
                              bool done, const std::string& estTime) {
-    return field(std::to_string(recordNo), 5) + field(std::to_string(recordNo), 5) + field(std::to_string(classLink), 5) +
-           field(date, 15) + field("Homework", 10) + field("Medium", 10) + field(estTime, 7) + field(description, 50) +
-           field(done ? "True" : "False", 5) + field(" ", 5) + field("100", 3) + field("None", 20) +
-           std::string(20, '\0');
+    return assignmentRecord(AssignmentFields{.recordNo = recordNo,
+                                             .classLink = classLink,
+                                             .date = date,
+                                             .type = "Homework",
+                                             .difficulty = "Medium",
+                                             .estTime = estTime,
+                                             .description = description,
+                                             .done = done ? "True" : "False",
+                                             .weight = "100",
+                                             .reminder = "None"});
 }
 
 }  // namespace qh

@@ -1,5 +1,6 @@
 #pragma once
 // A main window loaded on a fake platform and a fresh drive, as a test starts it.
+#include <functional>
 #include <memory>
 
 #include "platform/form.h"
@@ -22,6 +23,19 @@ struct LoadedMainWindow {
         window = std::make_unique<MainWindow>(store, fake.platform);
         window->Form_Load();
         return *window;
+    }
+    // The bytes of a record file in the data directory: bare name -> bytes.
+    std::string dataFile(const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); }
+    // The texts of the messages shown so far, in order.
+    std::vector<std::string> messageTexts() const {
+        std::vector<std::string> texts;
+        for (const ShownMessage& shown : fake.messages.shown) texts.push_back(shown.text);
+        return texts;
+    }
+    // The next showing of window `name` is driven by `user`, given the window as its class.
+    template <class Window>
+    void drive(const std::string& name, std::function<void(Window&)> user) {
+        fake.windowing.modalUsers[name].push_back([user](Form& form) { user(static_cast<Window&>(form)); });
     }
 };
 

@@ -4,26 +4,15 @@
 // files byte for byte. An event shared from one drive is read into a new event on another.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "probe_session.h"
-#include "support/main_window_fixture.h"
-#include "support/task_event_records.h"
+#include "support/record_fields.h"
+#include "tools/probe_script.h"
 
 namespace qh {
 namespace {
 
-std::string runScript(FakePlatform& fake, const std::string& script) {
-    std::ostringstream out;
-    ProbeSession session(fake.drive, fake.host, out);
-    std::istringstream in(script);
-    EXPECT_TRUE(session.run(in)) << session.failedLine() << "\n" << out.str();
-    return out.str();
-}
-
-void expectLines(const std::string& text, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) EXPECT_NE(text.find(line), std::string::npos) << line << "\n" << text;
-}
+using test::dataFile;
+using test::expectLines;
+using test::runScript;
 
 TEST(EditorScripts, TasksWithAndWithoutADeadline) {
     FakePlatform fake;
@@ -55,7 +44,7 @@ TEST(EditorScripts, TasksWithAndWithoutADeadline) {
                        "Rows: 1 from 1\nRow 1: | 1|1 {&HFFFFFF} |  Clean desk"});
     // The 24th is marked on the calendar while the dated task lives.
     EXPECT_NE(text.find("24  000000/F0E8E2"), std::string::npos) << text;
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Tasks.txt"),
+    EXPECT_EQ(dataFile(fake, "Tasks.txt"),
               taskRecord({.description = "DELETED RECORD", .dateExists = "True", .date = "2026/11/24", .done = "True",
                           .reminder = "2 Days"}) +
                   taskRecord({.recordNo = 2, .description = "Clean desk", .date = "2026/11/22", .priority = "High"}) +
@@ -107,7 +96,7 @@ TEST(EditorScripts, AWeeklyAMonthlyAndAYearlyEvent) {
                        "  TextboxEventDate \"Monday, November 2, 2026\"\n",
                        "Message: \"Quillhollow\" \"Are you sure you want to Delete this Event?\"\n",
                        "Rows: 2 from 1\n"});
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Events.txt"),
+    EXPECT_EQ(dataFile(fake, "Events.txt"),
               eventRecord([] {
                   // A weekly event stores the yearly controls as they stand: the birthday's.
                   EventFields gone = kSwim;
@@ -135,7 +124,7 @@ TEST(EditorScripts, AnEventSharedFromOneDriveIsReadIntoANewEventOnAnother) {
     EventFields shared = kBookGroup;
     shared.recordNo = 1;
     shared.reminder = "None";
-    EXPECT_EQ(second.bytesOf(second.dataDirectory() + "/Events.txt"), eventRecord(shared));
+    EXPECT_EQ(dataFile(second, "Events.txt"), eventRecord(shared));
 }
 
 }  // namespace

@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "probe_session.h"
 #include "support/main_window_fixture.h"
+#include "support/record_fields.h"
+#include "tools/probe_script.h"
 
 namespace qh {
 namespace {
+
+using test::dataFile;
+using test::expectLines;
+using test::runScript;
 
 // Scripts run on a drive with one term, one class and two assignments, one of them done;
 // each must print the lines given.
@@ -32,11 +35,7 @@ TEST(Probe, RunsAScriptOnARealDriveAndPrintsWhatTheWindowShows) {
         fake.writeBytes(data + "/Classes.txt", classRecord(1, 1, "Algebra", "Black", "MistyRose"));
         fake.writeBytes(data + "/Assignments.txt", assignmentRecord(1, 1, "2026/11/24", "Problem set 7", false) +
                                                        assignmentRecord(2, 1, "2026/11/25", "Quiz review", true));
-        std::ostringstream out;
-        ProbeSession session(fake.drive, fake.host, out);
-        std::istringstream in(c.script);
-        EXPECT_TRUE(session.run(in));
-        for (const std::string& line : c.lines) EXPECT_NE(out.str().find(line), std::string::npos) << line << "\n" << out.str();
+        expectLines(runScript(fake, c.script), c.lines);
     }
 }
 
@@ -93,28 +92,18 @@ TEST(Probe, MakesATermWithClassesEndToEnd) {
         "check OptionBackColor on\npress picColorGrid 75 1275\nclick ButtonOKClass\n"
         "click ButtonAddClass\nset TextBoxClassName  algebra \nclick ButtonOKClass\n"
         "set TextBoxClassName History\nclick ButtonOKClass\nclick ButtonOK\nprint\nexit\n";
-    std::ostringstream out;
-    {
-        ProbeSession session(fake.drive, fake.host, out);
-        std::istringstream in(script);
-        ASSERT_TRUE(session.run(in)) << session.failedLine();
-    }
-    const std::string text = out.str();
-    for (const char* line : {"  TextBoxTermName \"Winter 2026\"\n", "  TextboxTermEnd \"Saturday, January 30, 2027\"\n",
-                             "Message: \"Quillhollow\" \"There is already a class with this name.\"\n",
-                             "Term: \"Winter 2026\" \"125 Days Left in Term\"\n",
-                             "ComboGPA: \"GPA\" of [GPA, Total , Algebra , Biology , History ]\n"})
-        EXPECT_NE(text.find(line), std::string::npos) << line << text;
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Terms.txt"), termRecord(1, "Winter 2026", "2027/01/11", "2027/03/26"));
-    EXPECT_EQ(fake.bytesOf(fake.dataDirectory() + "/Classes.txt"),
+    expectLines(runScript(fake, script),
+                {"  TextBoxTermName \"Winter 2026\"\n", "  TextboxTermEnd \"Saturday, January 30, 2027\"\n",
+                 "Message: \"Quillhollow\" \"There is already a class with this name.\"\n",
+                 "Term: \"Winter 2026\" \"125 Days Left in Term\"\n",
+                 "ComboGPA: \"GPA\" of [GPA, Total , Algebra , Biology , History ]\n"});
+    EXPECT_EQ(dataFile(fake, "Terms.txt"), termRecord(1, "Winter 2026", "2027/01/11", "2027/03/26"));
+    EXPECT_EQ(dataFile(fake, "Classes.txt"),
               classRecord(1, 1, "Algebra", "Black", "MistyRose") + classRecord(2, 1, "Biology", "SeaShell", "MediumBlue") +
                   classRecord(3, 1, "History", "Black", "White"));
 
-    std::ostringstream again;
-    ProbeSession restarted(fake.drive, fake.host, again);
-    std::istringstream in("clock 2026-11-22 09:00\nprint\n");
-    ASSERT_TRUE(restarted.run(in));
-    EXPECT_NE(again.str().find("Term: \"Winter 2026\" \"124 Days Left in Term\""), std::string::npos) << again.str();
+    expectLines(runScript(fake, "clock 2026-11-22 09:00\nprint\n"),
+                {"Term: \"Winter 2026\" \"124 Days Left in Term\""});
 }
 
 // From an empty drive: a term with two classes, a day clicked, a new quiz with a note and
@@ -136,50 +125,28 @@ TEST(Probe, MakesAnAssignmentWithStudySessionsEndToEnd) {
         "choose ComboSessionLength 01 : 00\npick TextboxSessionDate 2026-11-20\nclick ButtonSessionAdd\n"
         "choose ComboSessionLength 00 : 20\npick TextboxSessionDate 2026-11-21\nclick ButtonSessionAdd\n"
         "check CheckBoxDone on\nchoose ComboGrade A-\nclick ButtonOK\nprint\nmode sessions\nprint\nexit\n";
-    std::ostringstream out;
-    {
-        ProbeSession session(fake.drive, fake.host, out);
-        std::istringstream in(script);
-        ASSERT_TRUE(session.run(in)) << session.failedLine();
-    }
-    const std::string text = out.str();
-    for (const char* line :
-         {"TextBoxTotalAssignments: \"1\"", "ComboGPA: \"GPA\" of [GPA, Total 3.70 (A-)  , Algebra , Biology 3.70 (A-)  ]",
-          "Row 1: | 1 |  Biology {&HFFFFFF} | Quiz {&HFFFFFF} |  Cells and tissues {&HFFFFFF} | Average {&HFFFFFF} | "
-          "00:00 {&HFFFFFF} | 24-Nov-26 {&HFFFFFF} |  {&HFFFFFF} <Checked> | A- {&HFFFFFF}",
-          "24* FFFFFF/A88A76",  // the due day marked in the class's colour
-          "TextBoxStudySessions: \"3\"", "TextBoxStudyTime: \"02:05\"", "19  000000/F0E8E2"})
-        EXPECT_NE(text.find(line), std::string::npos) << line << "\n" << text;
-    const auto field = [](const std::string& value, std::size_t width) {
-        std::string padded = value;
-        padded.resize(width, ' ');
-        return padded;
-    };
-    const std::string nuls(20, '\0');
-    const std::string data = fake.dataDirectory() + "/";
-    EXPECT_EQ(fake.bytesOf(data + "Assignments.txt"),
-              field("1", 5) + field("1", 5) + field("2", 5) + field("2026/11/24", 15) + field("Quiz", 10) +
-                  field("Average", 10) + "02 : 30" + field("Cells and tissues", 50) + "True " + field("A-", 5) +
-                  field("5", 3) + field("1 Day", 20) + nuls);
-    EXPECT_EQ(fake.bytesOf(data + "Notes.txt"),
-              field("1", 5) + field("1", 5) + nuls + nuls + field("Chapter 3\r\nBring the lab book", 1450));
-    EXPECT_EQ(fake.bytesOf(data + "StudySessions.txt"),
-              field("1", 5) + field("1", 5) + field("00 : 20", 10) + field("2026/11/21", 15) + nuls +
-                  field("2", 5) + field("1", 5) + field("01 : 00", 10) + field("2026/11/20", 15) + nuls +
-                  field("3", 5) + field("1", 5) + field("00 : 45", 10) + field("2026/11/19", 15) + nuls);
+    expectLines(runScript(fake, script),
+                {"TextBoxTotalAssignments: \"1\"",
+                 "ComboGPA: \"GPA\" of [GPA, Total 3.70 (A-)  , Algebra , Biology 3.70 (A-)  ]",
+                 "Row 1: | 1 |  Biology {&HFFFFFF} | Quiz {&HFFFFFF} |  Cells and tissues {&HFFFFFF} | Average {&HFFFFFF} | "
+                 "00:00 {&HFFFFFF} | 24-Nov-26 {&HFFFFFF} |  {&HFFFFFF} <Checked> | A- {&HFFFFFF}",
+                 "24* FFFFFF/A88A76",  // the due day marked in the class's colour
+                 "TextBoxStudySessions: \"3\"", "TextBoxStudyTime: \"02:05\"", "19  000000/F0E8E2"});
+    const AssignmentFields quiz{.classLink = 2, .date = "2026/11/24", .type = "Quiz", .estTime = "02 : 30",
+                                .description = "Cells and tissues", .done = "True", .grade = "A-"};
+    EXPECT_EQ(dataFile(fake, "Assignments.txt"), assignmentRecord(quiz));
+    EXPECT_EQ(dataFile(fake, "Notes.txt"), noteRecord(1, 1, "Chapter 3\r\nBring the lab book"));
+    EXPECT_EQ(dataFile(fake, "StudySessions.txt"), sessionRecord(1, "1", "00 : 20", "2026/11/21") +
+                                                       sessionRecord(2, "1", "01 : 00", "2026/11/20") +
+                                                       sessionRecord(3, "1", "00 : 45", "2026/11/19"));
 
-    std::ostringstream again;
-    ProbeSession restarted(fake.drive, fake.host, again);
-    std::istringstream in("clock 2026-11-22 09:00\nrow 1\nprint\nclick ButtonCancel\n"
-                          "row 1\nanswer yes\nanswer yes\nclick ButtonDelete\nprint\n");
-    ASSERT_TRUE(restarted.run(in)) << restarted.failedLine();
-    const std::string second = again.str();
-    for (const char* line : {"Window frmAssignment \"Quillhollow - Edit Assignment\" 6360 x 7425",
-                             "  ComboGrade \"A-\" entries=14", "  LabelStudySessions \"Study Sessions: 03\"",
-                             "  TextBoxTimeLeft \"00 : 25\" fore=Black back=Honeydew", "  ComboClassNameList \"Biology\"",
-                             "Rows: 0 from 1"})
-        EXPECT_NE(second.find(line), std::string::npos) << line << "\n" << second;
-    EXPECT_EQ(fake.bytesOf(data + "Notes.txt").substr(0, 10), field("1", 5) + field("0", 5));
+    expectLines(runScript(fake, "clock 2026-11-22 09:00\nrow 1\nprint\nclick ButtonCancel\n"
+                                "row 1\nanswer yes\nanswer yes\nclick ButtonDelete\nprint\n"),
+                {"Window frmAssignment \"Quillhollow - Edit Assignment\" 6360 x 7425",
+                 "  ComboGrade \"A-\" entries=14", "  LabelStudySessions \"Study Sessions: 03\"",
+                 "  TextBoxTimeLeft \"00 : 25\" fore=Black back=Honeydew", "  ComboClassNameList \"Biology\"",
+                 "Rows: 0 from 1"});
+    EXPECT_EQ(dataFile(fake, "Notes.txt"), noteRecord(1, 0, ""));  // the note let go with its assignment
 }
 
 }  // namespace

@@ -7,12 +7,14 @@
 #include <sstream>
 #include <tuple>
 
+#include "editors/event_rule_fit.h"
 #include "export/calendar_export.h"
 #include "export/list_export.h"
 #include "probe_session.h"
 #include "record_store/color_vocabulary.h"
 #include "sample_content.h"
 #include "support/fake_platform.h"
+#include "tools/probe_script.h"
 
 namespace qh {
 namespace {
@@ -33,29 +35,6 @@ EventKind kindOf(const RecordStore& s, int i) {
     if (s.EventSameDates(i) == "True") return yearly ? EventKind::YearlySameDate : EventKind::MonthlySameDate;
     if (s.EventRepeatDays(i) == "Day") return yearly ? EventKind::YearlyDayNumber : EventKind::MonthlyDayNumber;
     return yearly ? EventKind::YearlyWeekday : EventKind::MonthlyWeekday;
-}
-
-// The event editor's own test of a monthly or yearly rule against its first date: the
-// ordinal must name the week of the month the date lies in, or its day number.
-bool ruleFitsItsDate(const std::string& number, const std::string& day, Date first) {
-    static const char* const kDays[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-    const Ymd ymd = ymdOf(first);
-    const int last = daysInMonth(ymd.year, ymd.month);
-    if (day == "Day") {
-        if (number == "Last") return ymd.day == last;
-        const int wanted = number == "First"    ? 1
-                           : number == "Second" ? 2
-                           : number == "Third"  ? 3
-                           : number == "Fourth" ? 4
-                                                : 0;
-        return ymd.day == wanted;
-    }
-    if (day != kDays[weekdayOf(first) - 1]) return false;
-    if (ymd.day <= 7) return number == "First";
-    if (ymd.day <= 14) return number == "Second";
-    if (ymd.day <= 21) return number == "Third";
-    if (ymd.day <= 28) return number == "Fourth" || number == "Last";
-    return number == "Last";
 }
 
 // A realistic drive, and the planner started on it as the probe starts it.
@@ -133,7 +112,7 @@ TEST(SampleDrive, HomeworkAndEventsLieAroundTodayInRulesTheEditorsAccept) {
         if (kind == EventKind::Weekly) {
             EXPECT_NE(letters.find('T'), std::string::npos) << "a weekly event with no day, row " << i;
         } else if (s.EventSameDates(i) == "False" && kind != EventKind::Once) {
-            EXPECT_TRUE(ruleFitsItsDate(s.EventRepeatNumbers(i), s.EventRepeatDays(i), first))
+            EXPECT_TRUE(RuleFitsStartDate(s.EventRepeatNumbers(i), s.EventRepeatDays(i), first))
                 << s.EventDescriptions(i) << " " << s.EventDates(i) << " " << s.EventRepeatNumbers(i) << " "
                 << s.EventRepeatDays(i);
             (s.EventRecurrences(i) == "Month" ? monthlyOrdinals : yearlyOrdinals).insert(s.EventRepeatNumbers(i));
@@ -158,7 +137,7 @@ TEST(SampleDrive, TheSameSeedMakesTheSameBytesAndAFullFolderIsRefused) {
     sample::MakeSampleDrive(first.drive, DriveSize::Realistic, kToday);
     sample::MakeSampleDrive(again.drive, DriveSize::Realistic, kToday);
     sample::MakeSampleDrive(other.drive, DriveSize::Realistic, kToday, 7);
-    auto bytes = [](FakePlatform& fake, const std::string& name) { return fake.bytesOf(fake.dataDirectory() + "/" + name); };
+    const auto& bytes = test::dataFile;
     for (const char* name : kFiles) EXPECT_EQ(bytes(first, name), bytes(again, name)) << name;
     EXPECT_NE(bytes(first, "Assignments.txt"), bytes(other, "Assignments.txt"));
     EXPECT_NE(bytes(first, "Events.txt"), bytes(other, "Events.txt"));
