@@ -67,14 +67,14 @@ void FrmCourseSchedule::buildControls() {
     };
     label("LabelTermName", 240, 180, 3000, "Term Name");
     add(ControlKind::TextBox, "TextBoxTermName", "", 240, 420, 6120, 315).border = true;
-    label("LabelStartDate", 240, 840, 3000, "Start Date");
-    label("LabelEndDate", 3720, 840, 2640, "End Date");
+    label("LabelStartDate", 240, 720, 3000, "Start Date");
+    label("LabelEndDate", 3720, 720, 2640, "End Date");
     for (const auto& [box, pick, left, width] :
          {std::tuple{"TextboxTermStart", "ButtonTermStart", 240, 2940}, {"TextboxTermEnd", "ButtonTermEnd", 3720, 2340}}) {
-        Control& field = add(ControlKind::TextBox, box, "", left, 1080, width, 315);
+        Control& field = add(ControlKind::TextBox, box, "", left, 960, width, 315);
         field.locked = true;
         field.border = true;
-        Control& small = add(ControlKind::CommandButton, pick, "", left + width, 1080, 300, 315);
+        Control& small = add(ControlKind::CommandButton, pick, "", left + width, 960, 300, 315);
         small.caption = "...";
         small.tabStop = false;
     }

@@ -7,7 +7,9 @@
 namespace qh {
 namespace {
 
-constexpr int kPanelLeft = 1560, kPanelTop = 3720, kPanelWidth = 4530, kPanelHeight = 1560;
+// The panel starts below the small window's client area (4305 - 510 twips), so no edge of
+// it shows until the window grows.
+constexpr int kPanelLeft = 1560, kPanelTop = 3840, kPanelWidth = 4530, kPanelHeight = 1560;
 
 struct RecurrenceChoice {
     const char* radio;
@@ -39,8 +41,8 @@ void FrmEvent::buildRecurrencePanel() {
         control.backColor = kButtonFace;
         return control;
     };
-    onFace(add(ControlKind::Label, "LabelRecurrence", "", 240, 3780, 1200, 255)).caption = "Recurrence:";
-    int top = 4080;
+    onFace(add(ControlKind::Label, "LabelRecurrence", "", 240, 3900, 1200, 255)).caption = "Recurrence:";
+    int top = 4200;
     for (const RecurrenceChoice& choice : kChoices) {
         onFace(add(ControlKind::RadioButton, choice.radio, "", 240, top, 1200, 255)).caption = choice.caption;
         onFace(add(ControlKind::Frame, choice.frame, "", kPanelLeft, kPanelTop, kPanelWidth, kPanelHeight));
@@ -68,16 +70,16 @@ void FrmEvent::buildRecurrencePanel() {
         tail.opaque = false;
     }
 
-    Control& endFrame = onFace(add(ControlKind::Frame, "FrameEndDate", "", 3840, 5400, 2250, 600));
+    Control& endFrame = onFace(add(ControlKind::Frame, "FrameEndDate", "", 3840, 5520, 2250, 600));
     endFrame.visible = false;
     onFace(add(ControlKind::RadioButton, "RadioEndNone", "FrameEndDate", 60, 60, 1800, 255)).caption = "No End";
     onFace(add(ControlKind::RadioButton, "RadioEndOn", "FrameEndDate", 60, 330, 1800, 255)).caption = "Set End Date";
-    onFace(add(ControlKind::Label, "LabelEndDate", "", 600, 5400, 2700, 255)).caption = "No End Date";
-    onFace(add(ControlKind::CheckBox, "CheckboxEndDate", "", 240, 5685, 285, 285));
-    Control& end = add(ControlKind::TextBox, "TextboxEndDate", "", 600, 5670, 2700, 315);
+    onFace(add(ControlKind::Label, "LabelEndDate", "", 600, 5520, 2700, 255)).caption = "No End Date";
+    onFace(add(ControlKind::CheckBox, "CheckboxEndDate", "", 240, 5805, 285, 285));
+    Control& end = add(ControlKind::TextBox, "TextboxEndDate", "", 600, 5790, 2700, 315);
     end.locked = true;
     end.border = true;
-    Control& pick = add(ControlKind::CommandButton, "picButtonEndDate", "", 3300, 5670, 300, 315);
+    Control& pick = add(ControlKind::CommandButton, "picButtonEndDate", "", 3300, 5790, 300, 315);
     pick.caption = "...";
     pick.tabStop = false;
 }
