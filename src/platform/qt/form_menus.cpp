@@ -6,13 +6,9 @@
 #include <set>
 
 #include "platform/qt/form_view.h"
+#include "platform/qt/qt_text.h"
 
 namespace qh {
-namespace {
-
-QString qs(const std::string& text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
-
-}  // namespace
 
 void FormWindow::rebuildMenus() {
     menuKeys_.clear();
