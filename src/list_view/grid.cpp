@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "common/text.h"
+#include "list_view/grid_keys.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
@@ -82,12 +83,14 @@ GridRows MeasureGridRows(int canvasHeight, int headerTwips, int rowPitchPixels) 
     rows.headerTwips = headerTwips;
     rows.pitchTwips = rowPitchPixels * kTwipsPerPixel;
     if (rows.pitchTwips <= 0) return rows;
-    rows.bottomTwips = canvasHeight - canvasHeight % rows.pitchTwips;
     const int below = canvasHeight - headerTwips;
     // A remainder takes the sign of the height, so a canvas lower than its header strip
     // has no rows rather than a negative count.
     rows.rowsVisible = (below - below % rows.pitchTwips) / rows.pitchTwips;
     if (rows.rowsVisible < 0) rows.rowsVisible = 0;
+    // The rules and the paint limit end under the last whole row, counted from the header
+    // strip: every row the scroll bar counts as visible is ruled and painted.
+    rows.bottomTwips = headerTwips + rows.rowsVisible * rows.pitchTwips;
     return rows;
 }
 
@@ -122,8 +125,19 @@ bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p) {
     return true;
 }
 
-void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
-                   const std::function<GridRow(int position)>& rowAt) {
+std::string RowSpokenText(int position, const GridRow& row) {
+    std::string text = std::to_string(position);
+    for (const GridCell& cell : row.cells) {
+        const std::string value = cell.kind == CellKind::Check ? (cell.checked ? "checked" : "not checked")
+                                                              : trim(cell.text);
+        if (!value.empty()) text += ", " + value;
+    }
+    return text;
+}
+
+std::vector<std::string> PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
+                                       const std::function<GridRow(int position)>& rowAt) {
+    std::vector<std::string> spoken;
     CanvasFont font;
     font.name = "Arial";
     font.size = 9;
@@ -135,6 +149,7 @@ void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCo
         if (p < 1 || p > rowCount) break;
         if (!PaintNumberCell(canvas, frame, v, p)) break;
         const GridRow row = rowAt(p);
+        spoken.push_back(RowSpokenText(p, row));
         const int r = (v - 1) * frame.rowPitch;
         const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
         const int bottom = (r + frame.headerHeight + 21) * kTwipsPerPixel;
@@ -163,6 +178,21 @@ void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCo
             }
             if (!text.empty()) canvas.printText(x, textY, text);
         }
+    }
+    return spoken;
+}
+
+void PaintKeyboardRow(Canvas& canvas, const GridFrame& frame, int row, int gridWidth) {
+    if (row < 1) return;
+    const int r = (row - 1) * frame.rowPitch;
+    const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
+    const int bottom = (r + frame.headerHeight + frame.rowPitch - 1) * kTwipsPerPixel;
+    const int left = kTwipsPerPixel, right = gridWidth - kScrollBarWidth - 2 * kTwipsPerPixel;
+    for (int inset : {0, kTwipsPerPixel}) {
+        canvas.line(left + inset, top + inset, right - inset, top + inset, kKeyboardRowFrame);
+        canvas.line(left + inset, bottom - inset, right - inset, bottom - inset, kKeyboardRowFrame);
+        canvas.line(left + inset, top + inset, left + inset, bottom - inset, kKeyboardRowFrame);
+        canvas.line(right - inset, top + inset, right - inset, bottom - inset, kKeyboardRowFrame);
     }
 }
 
@@ -197,6 +227,8 @@ void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
         canvas.setFont(font);
         canvas.setForeColor(kBlack);
         canvas.printText(45, 45, trim(titles[c]));
+        header.accessibleName = c == 0 ? "Row number" : trim(titles[c]);
+        header.toolTip = c == 0 ? "" : "Sort by " + trim(titles[c]);
     }
 }
 
@@ -262,7 +294,12 @@ void PaintList(MainWindow& window, std::span<const char* const> titles,
                const std::function<GridRow(int position)>& rowAt) {
     PaintGridHeaders(window, titles);
     const GridFrame frame = CurrentGridFrame(window, int(titles.size()));
-    PaintGridRows(*window.c("picGrid").canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
+    Control& grid = window.c("picGrid");
+    grid.items = PaintGridRows(*grid.canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
+    const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
+                                        window.state.RowsVisible);
+    window.state.KeyboardRow = toInt16(view.keyboardRow);
+    if (window.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
 }
 
 // ---------------------------------------------------------------------------------------

@@ -160,6 +160,17 @@ void Form::press(const std::string& key, const EventArgs& args) {
 }
 void Form::release(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseUp, args); }
 
+void Form::wheel(const std::string& key, int notches) {
+    EventArgs args;
+    args.notches = notches;
+    for (std::string at = key; has(at); at = c(at).container) {
+        if (handles(at, FormEvent::MouseWheel)) {
+            if (c(at).enabled && c(at).visible) fire(at, FormEvent::MouseWheel, args);
+            return;
+        }
+    }
+}
+
 void Form::tick(const std::string& timerKey) {
     if (find(timerKey).enabled) fire(timerKey, FormEvent::Timer);
 }

@@ -28,6 +28,7 @@
 namespace qh {
 
 class RecordFiles;
+struct GridView;
 class FrmTip;
 class FrmAbout;
 struct ColorVocabulary;
@@ -142,6 +143,8 @@ private:
     void buildControls();
     void buildMenus();
     void bindHandlers();
+    void bindKeyboardAndWheel();
+    void showGridView(const GridView& view);
     void bindFileMenu();
     void applyModeTable(Mode mode);
     void calendarButtonPressed(const std::string& button);

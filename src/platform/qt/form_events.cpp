@@ -13,7 +13,8 @@
 namespace qh {
 
 // The key codes of the windowing layer the models speak: letters as capitals, digits,
-// Enter 13, Escape 27, Tab 9, the arrows 37 to 40, F1 to F12 from 112.
+// Enter 13, Escape 27, Tab 9, Page Up and Down 33 and 34, End 35, Home 36, the arrows 37
+// to 40, F1 to F12 from 112.
 static int keyCodeOf(const QKeyEvent& event) {
     const int key = event.key();
     if (key == Qt::Key_Return || key == Qt::Key_Enter) return kKeyReturn;
@@ -21,6 +22,10 @@ static int keyCodeOf(const QKeyEvent& event) {
     if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return kKeyTab;
     if (key == Qt::Key_Backspace) return 8;
     if (key == Qt::Key_Delete) return 46;
+    if (key == Qt::Key_PageUp) return kKeyPageUp;
+    if (key == Qt::Key_PageDown) return kKeyPageDown;
+    if (key == Qt::Key_End) return kKeyEnd;
+    if (key == Qt::Key_Home) return kKeyHome;
     if (key >= Qt::Key_Left && key <= Qt::Key_Down) return 37 + (key - Qt::Key_Left);
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return 112 + (key - Qt::Key_F1);
     if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z) || key == Qt::Key_Space)
@@ -46,7 +51,9 @@ bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
         form_.focusTo(key);
         form_.pressKey(code, character, shift);
     });
-    return enter || escape;
+    // A box that takes keys (the calendar, the grid) has them all; no widget moves behind it.
+    const bool keyBox = form_.has(key) && form_.c(key).kind == ControlKind::PictureBox && form_.handles(key, FormEvent::KeyDown);
+    return enter || escape || keyBox;
 }
 
 

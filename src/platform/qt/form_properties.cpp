@@ -67,13 +67,22 @@ void setColors(QWidget* widget, const Control& control, QPalette::ColorRole back
 
 }  // namespace
 
+// Tab visits the model's stops; a control that is no stop still takes the focus by a
+// click, and a box that takes no focus never has it.
+void FormWindow::applyFocusPolicy(QWidget* widget, const Control& control) {
+    if (!control.canTakeFocus()) {
+        if (control.kind == ControlKind::PictureBox || control.kind == ControlKind::Label)
+            widget->setFocusPolicy(Qt::NoFocus);
+        return;
+    }
+    const bool stop = control.tabStop && !(control.kind == ControlKind::TextBox && control.locked);
+    widget->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 void FormWindow::applyTabOrder() {
     const std::vector<std::string> order = form_.tabOrder();
-    const std::set<std::string> stops(order.begin(), order.end());
-    for (auto& [key, view] : views_) {
-        if (!view.widget || !form_.has(key) || !form_.c(key).canTakeFocus()) continue;
-        view.widget->setFocusPolicy(stops.count(key) ? Qt::StrongFocus : Qt::ClickFocus);
-    }
+    for (auto& [key, view] : views_)
+        if (view.widget && form_.has(key)) applyFocusPolicy(view.widget, form_.c(key));
     QWidget* previous = nullptr;
     for (const std::string& key : order) {
         QWidget* next = widget(key);
@@ -98,6 +107,9 @@ void FormWindow::applyCommon(QWidget* widget, const Control& now, const Control*
         widget->setFont(qtFont(now.fontName, now.fontSize, now.bold, now.italic, now.underline));
     if (!before || before->helpContextId != now.helpContextId)
         widget->setWhatsThis(now.helpContextId ? QStringLiteral("Help topic %1").arg(now.helpContextId) : QString());
+    if (!before || before->tabStop != now.tabStop || before->locked != now.locked || before->focusable != now.focusable)
+        applyFocusPolicy(widget, now);
+    applyAccessibility(widget, now, before);
 }
 
 void FormWindow::applyControl(View& view, const Control& now, const std::string&) {

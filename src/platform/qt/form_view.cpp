@@ -14,6 +14,7 @@ namespace qh {
 
 FormWindow::FormWindow(FormRenderer& renderer, Form& form)
     : QWidget(nullptr, Qt::Window), renderer_(renderer), form_(form) {
+    installAccessibility();
     setObjectName(qs(form.name()));
     menuBar_ = new QMenuBar(this);
     menuBar_->setObjectName(QStringLiteral("_menuBar"));

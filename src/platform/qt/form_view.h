@@ -90,6 +90,9 @@ private:
     void applyCommon(QWidget* widget, const Control& now, const Control* before);
     void rebuildMenus();
     void applyMenu(View& view, const Control& control);
+    QString menuText(const Control& control) const;
+    void applyFocusPolicy(QWidget* widget, const Control& control);
+    void applyAccessibility(QWidget* widget, const Control& now, const Control* before);
     void applyWindow();
     void restack(const std::string& containerKey);
     void applyTabOrder();

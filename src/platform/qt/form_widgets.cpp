@@ -31,6 +31,11 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
             handlers.doubleClick = [this, key](const EventArgs& args) {
                 forward([this, key, args] { form_.fire(key, FormEvent::DblClick, args); });
             };
+            handlers.wheel = [this, key](int notches) {
+                if (!form_.handles(key, FormEvent::MouseWheel)) return false;
+                if (notches != 0) forward([this, key, notches] { form_.wheel(key, notches); });
+                return true;
+            };
             box->setHandlers(std::move(handlers));
             widget = box;
             break;
