@@ -234,6 +234,33 @@ bool Form::isInside(const std::string& key, const std::string& containerKey) con
     return false;
 }
 
+std::string Form::labelOf(const std::string& key) const {
+    // How far a label may stand from its field: a line's gap above, a short gap left.
+    constexpr int kAboveGap = 300, kLeftGap = 600, kOverlapSlack = 60;
+    const Control& field = c(key);
+    std::string best;
+    int bestGap = 1 << 30;
+    for (const std::string& other : order_) {
+        const Control& label = c(other);
+        if (label.kind != ControlKind::Label || !label.visible || label.caption.empty() ||
+            label.container != field.container)
+            continue;
+        const bool across = label.left < field.left + field.width && field.left < label.left + label.width;
+        const bool inHeight = label.top < field.top + field.height && field.top < label.top + label.height;
+        int gap = -1;
+        if (across && label.top < field.top && field.top - (label.top + label.height) <= kAboveGap)
+            gap = std::max(0, field.top - (label.top + label.height));
+        else if (inHeight && label.left + label.width <= field.left + kOverlapSlack &&
+                 field.left - (label.left + label.width) <= kLeftGap)
+            gap = std::max(0, field.left - (label.left + label.width));
+        if (gap >= 0 && gap < bestGap) {
+            bestGap = gap;
+            best = label.caption;
+        }
+    }
+    return best;
+}
+
 std::vector<std::string> Form::tabOrder(const std::string& alsoKey) const {
     struct Stop {
         int top, left;

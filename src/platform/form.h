@@ -141,6 +141,12 @@ public:
     // at any depth.
     bool isInside(const std::string& key, const std::string& containerKey) const;
 
+    // The caption of the label that names a field for the eye: the nearest visible label
+    // of the same container just above it (overlapping it across) or just left of it
+    // (overlapping it in height); empty when there is none. Screen readers call the field
+    // by it, as a person reads the window.
+    std::string labelOf(const std::string& key) const;
+
     // Z-order within the container.
     void bringToFront(const std::string& key);
     void sendToBack(const std::string& key);

@@ -4,6 +4,7 @@
 // the model draws.
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QPointer>
 
 #include "platform/qt/control_widgets.h"
@@ -107,7 +108,23 @@ public:
     }
 };
 
-QAccessibleInterface* paintedBoxFactory(const QString& className, QObject* object) {
+// A drop-down list. Qt on this desktop calls a combo box by its value and leaves the name
+// to a label widget beside it; the planner's labels are painted, so the combo box says
+// its own name, and its value as the value.
+class ComboBoxInterface : public QAccessibleWidget {
+public:
+    explicit ComboBoxInterface(QComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
+    QString text(QAccessible::Text t) const override {
+        auto* combo = static_cast<QComboBox*>(widget());
+        if (t == QAccessible::Name) return combo->accessibleName();
+        if (t == QAccessible::Value) return combo->currentText();
+        return QAccessibleWidget::text(t);
+    }
+};
+
+QAccessibleInterface* plannerInterfaces(const QString& className, QObject* object) {
+    if (className == QLatin1String("QComboBox"))
+        if (auto* combo = qobject_cast<QComboBox*>(object)) return new ComboBoxInterface(combo);
     // The box has no meta-object of its own: it is asked for as a plain widget.
     if (className == QLatin1String("QWidget"))
         if (auto* box = dynamic_cast<PaintedBox*>(object)) return new PaintedBoxInterface(box);
@@ -120,7 +137,7 @@ void installAccessibility() {
     static bool installed = false;
     if (installed) return;
     installed = true;
-    QAccessible::installFactory(paintedBoxFactory);
+    QAccessible::installFactory(plannerInterfaces);
 }
 
 // The name a control is called by: its own, else its caption, else its tooltip.
@@ -132,9 +149,16 @@ QString accessibleNameOf(const Control& control) {
 
 void FormWindow::applyAccessibility(QWidget* widget, const Control& now, const Control* before) {
     if (!before || before->toolTip != now.toolTip) widget->setToolTip(qs(now.toolTip));
-    if (!before || before->accessibleName != now.accessibleName || before->caption != now.caption ||
-        before->toolTip != now.toolTip)
-        widget->setAccessibleName(accessibleNameOf(now));
+    QString name = accessibleNameOf(now);
+    // A field is called by the label a person reads beside it, without its colon.
+    const bool field = now.kind == ControlKind::TextBox || now.kind == ControlKind::ComboBox ||
+                       now.kind == ControlKind::ListBox || now.kind == ControlKind::ColorGrid ||
+                       (now.kind == ControlKind::PictureBox && now.drawable);
+    if (name.isEmpty() && field) {
+        name = withoutMnemonic(form_.labelOf(now.key()));
+        if (name.endsWith(QLatin1Char(':'))) name.chop(1);
+    }
+    if (widget->accessibleName() != name) widget->setAccessibleName(name);
     if (auto* box = dynamic_cast<PaintedBox*>(widget))
         box->setClickable(form_.handles(now.key(), FormEvent::Click) || form_.handles(now.key(), FormEvent::MouseDown));
 }

@@ -30,15 +30,17 @@ FormWindow::FormWindow(FormRenderer& renderer, Form& form)
 }
 
 FormWindow::~FormWindow() {
-    // Nothing the widgets say while they go may reach the model.
+    // Nothing the widgets say while they go may reach the model. Only the window's own
+    // connections go: others (the accessibility cache's watch on each widget's end) must
+    // still hear of it, or a later widget at the same address inherits a dead interface.
     retired_ = true;
     for (auto& [key, view] : views_) {
-        if (view.widget) QObject::disconnect(view.widget, nullptr, nullptr, nullptr);
+        if (view.widget) QObject::disconnect(view.widget, nullptr, this, nullptr);
         if (view.timer) {
             view.timer->stop();
-            QObject::disconnect(view.timer, nullptr, nullptr, nullptr);
+            QObject::disconnect(view.timer, nullptr, this, nullptr);
         }
-        if (view.action) QObject::disconnect(view.action, nullptr, nullptr, nullptr);
+        if (view.action) QObject::disconnect(view.action, nullptr, this, nullptr);
     }
     delete client_;
     client_ = nullptr;
