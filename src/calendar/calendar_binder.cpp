@@ -4,6 +4,7 @@ namespace qh {
 namespace {
 
 constexpr const char* kDayHeaderLetters = "MTWTFSS";
+constexpr Color kMonthBarBlue = 0x7F4F2F;
 
 Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
                int height, const std::string& caption, int index = -1) {
@@ -23,9 +24,11 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     calendar.accessibleName = "Calendar";
     Control& monthDown = form.add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270);
     monthDown.picture = "CalMonthLeftUp";
+    // Where an arrow's picture ends, its box shows the bar's blue: one bar, no notch.
+    monthDown.backColor = kMonthBarBlue;
     monthDown.toolTip = "Previous month";
     Control& monthBar = form.add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270);
-    monthBar.backColor = 0x7F4F2F;
+    monthBar.backColor = kMonthBarBlue;
     monthBar.accessibleName = "Month";
     Control& month = label(form, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
     month.alignment = Alignment::Center;
@@ -34,6 +37,7 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     month.bold = true;
     Control& monthUp = form.add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270);
     monthUp.picture = "CalMonthRightUp";
+    monthUp.backColor = kMonthBarBlue;
     monthUp.toolTip = "Next month";
     Control& dayBackground = label(form, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
     dayBackground.opaque = true;

@@ -63,6 +63,7 @@ public:
     WindowState windowState = WindowState::Normal;
     bool visible = false;
     bool fixedSize = false;  // a dialog that can't be resized
+    bool titleBar = true;    // false for a window of no frame at all (the splash)
     int minWidth = 0, minHeight = 0;  // outer size the user can't drag the window below; 0 for none
     // The control that holds the keyboard focus, empty for none. Models move it with
     // SetFocus, never by assigning it.

@@ -230,13 +230,16 @@ void FormWindow::applyWindow() {
         const int h = form_.minHeight > 0 ? toPixels(std::max(0, form_.minHeight - Form::kFrameHeight - menuTwips)) : 0;
         setMinimumSize(w, h > 0 ? h + bar : 0);
     }
-    if (applied_.fixedFrame != form_.fixedSize) {
-        // A window that can't be resized offers no maximise or minimise either.
+    if (applied_.fixedFrame != form_.fixedSize || applied_.titleBar != form_.titleBar) {
+        // A window that can't be resized offers no maximise or minimise either; one without
+        // a title bar is a splash, with no frame at all.
         applied_.fixedFrame = form_.fixedSize;
+        applied_.titleBar = form_.titleBar;
         const bool wasVisible = isVisible();
-        setWindowFlags(form_.fixedSize ? Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+        setWindowFlags(!form_.titleBar     ? Qt::SplashScreen | Qt::FramelessWindowHint
+                       : form_.fixedSize ? Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                              Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint
-                                       : Qt::Window);
+                                         : Qt::Window);
         if (wasVisible) show();
     }
     const int clientWidth = toPixels(clientWidthTwips), clientHeight = toPixels(clientHeightTwips);

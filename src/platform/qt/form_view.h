@@ -79,7 +79,7 @@ private:
         std::string caption;
         int left = 0, top = 0, clientWidth = -1, clientHeight = -1, minWidth = -1, minHeight = -1;
         WindowState state = WindowState::Normal;
-        bool visible = false, fixedSize = false, fixedFrame = false;
+        bool visible = false, fixedSize = false, fixedFrame = false, titleBar = true;
         std::string focused;
         unsigned focusRequests = 0;
     };
