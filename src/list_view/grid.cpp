@@ -23,7 +23,6 @@ constexpr std::array<float, 7> kReminderWidths{28, 75, 0.3f, 80, 0.695f, 90, 70}
 
 constexpr int kHeaderCount = 9;
 
-std::string headerKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
 
 // The start of the last whole UTF-8 character of a non-empty text.
 std::size_t lastCharacterStart(const std::string& text) {
@@ -32,12 +31,14 @@ std::size_t lastCharacterStart(const std::string& text) {
     return pos;
 }
 
-GridRows currentRows(const MainWindow& window) {
-    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(headerKey(0)).height,
+}  // namespace
+
+std::string GridHeaderKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
+
+GridRows CurrentGridRows(const MainWindow& window) {
+    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(GridHeaderKey(0)).height,
                            window.state.RowPitch);
 }
-
-}  // namespace
 
 std::span<const float> GridWidthTable(Mode mode) {
     switch (mode) {
@@ -205,7 +206,7 @@ std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
 GridFrame CurrentGridFrame(const MainWindow& window, int columnCount) {
     GridFrame frame;
     for (int i = 0; i < columnCount && i < kHeaderCount; ++i) {
-        const Control& header = window.c(headerKey(i));
+        const Control& header = window.c(GridHeaderKey(i));
         frame.columns.push_back({header.left, header.width});
     }
     frame.headerHeight = window.state.HeaderHeight;
@@ -220,7 +221,7 @@ void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
     font.size = 8;
     font.bold = true;
     for (std::size_t c = 0; c < titles.size() && c < std::size_t(kHeaderCount); ++c) {
-        Control& header = window.c(headerKey(int(c)));
+        Control& header = window.c(GridHeaderKey(int(c)));
         header.picture = HeaderPicture(int(c), window.state.SortColumn, window.state.SortDirection);
         Canvas& canvas = *header.canvas;
         canvas.clear(header.backColor);
@@ -247,7 +248,7 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
     if (table.empty()) return;
     const int n = int(table.size());
     for (int i = 0; i < kHeaderCount; ++i) {
-        Control& header = window.c(headerKey(i));
+        Control& header = window.c(GridHeaderKey(i));
         header.visible = header.enabled = i < n;
     }
 
@@ -264,13 +265,13 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
 
     const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.c("picGrid").width, scroll.width);
     for (int i = 0; i < n; ++i) {
-        Control& header = window.c(headerKey(i));
+        Control& header = window.c(GridHeaderKey(i));
         window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width, header.height);
         header.picture = "GridTitle";
     }
 
     canvas.clear(kWhite);
-    const GridRows rows = currentRows(window);
+    const GridRows rows = CurrentGridRows(window);
     const int b = rows.bottomTwips, w = canvas.scaleWidth();
     const int numberRule = n > 1 ? spans[1].left : 0;
     for (int i = 1; i < n; ++i) canvas.line(spans[std::size_t(i)].left, 0, spans[std::size_t(i)].left, b, kLightRule);
@@ -300,114 +301,6 @@ void PaintList(MainWindow& window, std::span<const char* const> titles,
                                         window.state.RowsVisible);
     window.state.KeyboardRow = toInt16(view.keyboardRow);
     if (window.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
-}
-
-// ---------------------------------------------------------------------------------------
-// Members of the main window.
-
-void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
-
-void MainWindow::BuildList(Mode mode) {
-    switch (mode) {
-        case Mode::Homework:
-            BuildHomeworkList(*this);
-            break;
-        case Mode::Events:
-            BuildEventList(*this);
-            break;
-        case Mode::Reminders:
-            BuildReminderList(*this);
-            break;
-        case Mode::StudySessions:
-            BuildStudySessionList(*this);
-            break;
-        case Mode::Tasks:
-            BuildTaskList(*this);
-            break;
-        default:
-            break;
-    }
-}
-
-void MainWindow::UpdateGridScroll() {
-    Control& scroll = c("VSGridScroll");
-    if (state.RowCount > state.RowsVisible) {
-        scroll.enabled = true;
-        scroll.minimum = 1;
-        scroll.maximum = state.RowCount - state.RowsVisible + 1;
-        scroll.smallChange = 1;
-        // A step of a page keeps one row in sight; a grid of a single row still moves.
-        scroll.largeChange = std::max(1, state.RowsVisible - 1);
-        // A list that shrank under a scrolled grid: the bar's value falls to its new
-        // maximum, and the list shows from there, as the bar's own change would make it.
-        if (scroll.value > scroll.maximum) {
-            scroll.value = scroll.maximum;
-            state.TopRow = toInt16(scroll.value);
-        }
-        if (scroll.value < 1) scroll.value = 1;
-    } else {
-        state.TopRow = 1;
-        scroll.enabled = false;
-        scroll.value = 1;
-    }
-}
-
-void MainWindow::RefillGrid() {
-    state.TopRow = toInt16(c("VSGridScroll").value);
-    const Mode mode = CurrentMode();
-    if (mode == Mode::None) return;
-    LayoutGrid(mode);
-    UpdateGridScroll();
-    BuildList(mode);
-}
-
-void MainWindow::ResetGridScroll() {
-    Control& scroll = c("VSGridScroll");
-    if (scroll.value != 1) {
-        // The bar's change event rebuilds the list.
-        scroll.value = 1;
-        fire("VSGridScroll", FormEvent::Change);
-        return;
-    }
-    const Mode mode = CurrentMode();
-    if (mode == Mode::None) return;
-    LayoutGrid(mode);
-    BuildList(mode);
-}
-
-void MainWindow::HighlightGridRow(int row, bool on) {
-    if (row > state.RowCount || row < 1) return;
-    Canvas& canvas = *c("picGrid").canvas;
-    CanvasFont font;
-    font.name = "Arial";
-    font.size = 9;
-    canvas.setFont(font);
-    canvas.setForeColor(on ? kWhite : kBlack);
-    const Control& number = c(headerKey(0));
-    const int r = (row - 1) * state.RowPitch;
-    canvas.filledBox(number.left + 15, (r + state.HeaderHeight + 1) * kTwipsPerPixel, number.left + number.width - 30,
-                     (r + state.HeaderHeight + 21) * kTwipsPerPixel, on ? kBlack : kWhite);
-    const std::string position = std::to_string(state.TopRow - 1 + row);
-    canvas.printText(345 - canvas.textWidth(position), r * kTwipsPerPixel + state.HeaderHeight * kTwipsPerPixel + 60,
-                     position);
-}
-
-void MainWindow::picGridMouseDown(const EventArgs& args) {
-    state.PressedRow = toInt16(RowPressedAt(currentRows(*this), c("picGrid").canvas->scaleWidth(), args.x, args.y));
-}
-
-void MainWindow::picGridMouseUp(const EventArgs& args) {
-    const int k = RowReleasedAt(currentRows(*this), args.y);
-    // Dragging off the pressed row, or a press on the header strip, drops the click.
-    if (k != state.PressedRow) return;
-    GridRowClicked(k);
-}
-
-void MainWindow::headerClicked(int index) {
-    if (index == 0) return;  // the "#" column doesn't sort
-    if (index == state.SortColumn) state.SortDirection = state.SortDirection == 1 ? 2 : 1;
-    state.SortColumn = toInt16(index);
-    ResetGridScroll();
 }
 
 }  // namespace qh

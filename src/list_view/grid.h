@@ -10,8 +10,8 @@
 // a visible row k (1 at the top of the grid). p = TopRow - 1 + k.
 //
 // The geometry is kept as pure functions with their inverses (where a row is painted, and
-// which row a mouse position hits) so that both can be tested without a window; the
-// MainWindow members in grid.cpp only read and write the controls.
+// which row a mouse position hits) so that both can be tested without a window; the main
+// window's members that use them (shell/list_grid.cpp) only read and write the controls.
 #include <functional>
 #include <span>
 #include <string>
@@ -136,6 +136,10 @@ std::string HeaderPicture(int column, int sortColumn, int sortDirection);
 // ---------------------------------------------------------------------------------------
 // Window glue, used by the list builders.
 
+// The key of header c ("picColHeader(c)").
+std::string GridHeaderKey(int index);
+// The vertical measures of the grid as the window stands.
+GridRows CurrentGridRows(const MainWindow& window);
 // The frame of the grid as the last layout left it, for a list of `columnCount` columns.
 GridFrame CurrentGridFrame(const MainWindow& window, int columnCount);
 // Sets the header pictures and prints the titles, "Verdana" 8 bold, black.
