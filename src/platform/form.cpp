@@ -160,15 +160,18 @@ void Form::press(const std::string& key, const EventArgs& args) {
 }
 void Form::release(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseUp, args); }
 
+std::string Form::wheelTarget(const std::string& key) const {
+    for (std::string at = key; has(at); at = c(at).container)
+        if (handles(at, FormEvent::MouseWheel)) return at;
+    return "";
+}
+
 void Form::wheel(const std::string& key, int notches) {
+    const std::string target = wheelTarget(key);
+    if (target.empty() || !c(target).enabled || !c(target).visible) return;
     EventArgs args;
     args.notches = notches;
-    for (std::string at = key; has(at); at = c(at).container) {
-        if (handles(at, FormEvent::MouseWheel)) {
-            if (c(at).enabled && c(at).visible) fire(at, FormEvent::MouseWheel, args);
-            return;
-        }
-    }
+    fire(target, FormEvent::MouseWheel, args);
 }
 
 void Form::tick(const std::string& timerKey) {

@@ -119,6 +119,9 @@ public:
     // The mouse wheel turned over a control: MouseWheel on the innermost control under
     // the pointer that handles it, going out through its containers.
     void wheel(const std::string& key, int notches);
+    // The control a turn over `key` reaches: it or its nearest container that takes the
+    // wheel; empty for none.
+    std::string wheelTarget(const std::string& key) const;
     void tick(const std::string& timerKey);
     // A key pressed while the window has the focus: KeyDown on the focused control, then
     // KeyPress for a character; Enter clicks the default button (unless a multi-line box

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "editors/editor_windows.h"
 #include "platform/fake/recording_canvas.h"
@@ -70,6 +71,22 @@ TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), today);
     EXPECT_EQ(widget("LabelCalDate(" + std::to_string(cell) + ")")->accessibleName(),
               "Saturday, November 21, 2026, today, selected");
+}
+
+TEST_F(MainWindowQt, AWheelTurnOverADayCellStepsTheCalendarsMonth) {
+    QWidget* cell = widget("LabelCalDate(30)");
+    const auto turn = [&](int eighths) {
+        const QPointF at(5, 5);
+        QWheelEvent event(at, cell->mapToGlobal(at), QPoint(), QPoint(0, eighths), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(cell, &event);
+    };
+    turn(120);  // a notch up: a month back
+    EXPECT_EQ(window->state.ClickedDate, dateFromYmd(2026, 10, 21));
+    turn(-60);  // half a notch of a touchpad does nothing yet, the other half steps
+    EXPECT_EQ(window->state.ClickedDate, dateFromYmd(2026, 10, 21));
+    turn(-60);
+    EXPECT_EQ(window->state.ClickedDate, dateFromYmd(2026, 11, 21));
 }
 
 TEST_F(MainWindowQt, TheMenusHaveLettersAndTheUsualShortcutsChooseTheModes) {

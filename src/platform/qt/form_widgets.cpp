@@ -32,7 +32,7 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
                 forward([this, key, args] { form_.fire(key, FormEvent::DblClick, args); });
             };
             handlers.wheel = [this, key](int notches) {
-                if (!form_.handles(key, FormEvent::MouseWheel)) return false;
+                if (form_.wheelTarget(key).empty()) return false;
                 if (notches != 0) forward([this, key, notches] { form_.wheel(key, notches); });
                 return true;
             };
