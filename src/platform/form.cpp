@@ -189,7 +189,12 @@ void Form::pressKey(int keyCode, int character, int shift) {
         fire(target, FormEvent::KeyPress, args);
     }
     const bool multiLineFocused = has(target) && c(target).kind == ControlKind::TextBox && c(target).multiLine;
-    if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused) click(defaultButton);
+    // Enter presses the focused button, else the window's default one.
+    const bool buttonFocused = has(target) && c(target).kind == ControlKind::CommandButton;
+    if (keyCode == kKeyReturn && buttonFocused)
+        click(target);
+    else if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused)
+        click(defaultButton);
     if (keyCode == kKeyEscape && !cancelButton.empty()) click(cancelButton);
     if (keyCode == kKeyTab) {
         // From a control that is no tab stop (a read-only box clicked into), Tab goes on

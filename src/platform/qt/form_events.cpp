@@ -43,7 +43,8 @@ bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
     if (event->modifiers() & Qt::ControlModifier) shift |= 2;
     if (event->modifiers() & Qt::AltModifier) shift |= 4;
     const bool multiLine = form_.has(key) && form_.c(key).kind == ControlKind::TextBox && form_.c(key).multiLine;
-    const bool enter = code == kKeyReturn && !form_.defaultButton.empty() && !multiLine;
+    const bool button = form_.has(key) && form_.c(key).kind == ControlKind::CommandButton;
+    const bool enter = code == kKeyReturn && (button || (!form_.defaultButton.empty() && !multiLine));
     const bool escape = code == kKeyEscape && !form_.cancelButton.empty();
     if (!enter && !escape && !form_.handles(key, FormEvent::KeyDown) && !form_.handles(key, FormEvent::KeyPress))
         return false;
