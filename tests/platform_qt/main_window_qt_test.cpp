@@ -233,7 +233,8 @@ TEST_F(MainWindowQt, TheStopwatchShowsItsLongFormWhole) {
 TEST_F(MainWindowQt, TodaysCellHasABlackFrameAllRound) {
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), main.fake.clock.today());
     QWidget* calendar = widget("picCalendar");
-    const QImage image = calendar->grab().toImage();
+    // Looked at in the widget's own pixels, whatever the screen's density.
+    const QImage image = calendar->grab().toImage().scaled(calendar->size());
     const QRect today = widget("LabelCalDate(" + std::to_string(cell) + ")")->geometry();
     int black = 0, ring = 0;
     for (int x = today.left() - 1; x <= today.right() + 1; ++x)
@@ -249,20 +250,22 @@ TEST_F(MainWindowQt, TodaysCellHasABlackFrameAllRound) {
     EXPECT_EQ(black, ring);
 }
 
-// The box the sort arrow takes in a header picture of a size: where the sorted picture
-// differs from the plain one.
-QRect arrowIn(const QString& picture, QSize size) {
-    QImage plain(size, QImage::Format_ARGB32), sorted(size, QImage::Format_ARGB32);
+// The box the sort arrow takes in a header picture of a size, drawn at the screen's
+// density: where the sorted picture differs from the plain one, in the header's pixels.
+QRectF arrowIn(const QString& picture, QSize size, double ratio) {
+    const QSize device(int(size.width() * ratio), int(size.height() * ratio));
+    QImage plain(device, QImage::Format_ARGB32), sorted(device, QImage::Format_ARGB32);
     for (auto [image, name] : {std::pair{&plain, QStringLiteral("GridTitle")}, std::pair{&sorted, picture}}) {
+        image->setDevicePixelRatio(ratio);
         image->fill(Qt::white);
         QPainter painter(image);
         drawPicture(painter, name, QRectF(QPointF(0, 0), QSizeF(size)));
     }
     QRect box;
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
+    for (int y = 0; y < device.height(); ++y)
+        for (int x = 0; x < device.width(); ++x)
             if (plain.pixel(x, y) != sorted.pixel(x, y)) box |= QRect(x, y, 1, 1);
-    return box;
+    return QRectF(box.x() / ratio, box.y() / ratio, box.width() / ratio, box.height() / ratio);
 }
 
 TEST_F(MainWindowQt, TheSortArrowNeverCoversAHeaderTitle) {
@@ -278,11 +281,12 @@ TEST_F(MainWindowQt, TheSortArrowNeverCoversAHeaderTitle) {
             for (const CanvasCall& call : canvas.calls())
                 if (call.kind == CanvasCall::Text) title = call.text;
             const CanvasFont& font = canvas.font();
-            const QFontMetrics metrics(qtFont(font.name, font.size, font.bold, font.italic, font.underline));
-            const QRect text = metrics.tightBoundingRect(QString::fromStdString(title)).translated(3, 3 + metrics.ascent());
+            const QFontMetricsF metrics(qtFont(font.name, font.size, font.bold, font.italic, font.underline), header);
+            const QRectF text =
+                metrics.tightBoundingRect(QString::fromStdString(title)).translated(3, 3 + metrics.ascent());
             narrowest = std::min(narrowest, header->width());
             for (const QString& picture : {QStringLiteral("GridTitleUp"), QStringLiteral("GridTitleDown")}) {
-                const QRect arrow = arrowIn(picture, header->size());
+                const QRectF arrow = arrowIn(picture, header->size(), header->devicePixelRatioF());
                 EXPECT_FALSE(arrow.isEmpty()) << title;
                 EXPECT_FALSE(arrow.intersects(text)) << mode << " " << title << " in " << header->width() << " pixels";
             }
