@@ -18,6 +18,7 @@
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_canvas.h"
 #include "qt_test_support.h"
+#include "list_view/list_fixture.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -211,6 +212,28 @@ TEST_F(MainWindowQt, PicturesAndCombosAreCalledByWhatTheyAreNotByWhatTheyShow) {
         EXPECT_EQ(node->role(), e.role) << e.key;
     }
     EXPECT_EQ(widget("PictureBarTasks")->toolTip(), "Tasks");
+}
+
+TEST_F(MainWindowQt, AScreenReaderReadsTheGridRowByRowAndEnterOpensTheRowOfTheKeys) {
+    for (const char* description : {"Buy paper", "Call home"})
+        testing::addTask(main.store, {.description = description, .dated = false, .priority = "High"});
+    key(frame, Qt::Key_4, Qt::ControlModifier);  // Tasks
+    QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(widget("picGrid"));
+    ASSERT_NE(grid, nullptr);
+    QStringList lines;
+    for (int i = 0; i < grid->childCount(); ++i)
+        if (QAccessibleInterface* child = grid->child(i); child && child->role() == QAccessible::ListItem) {
+            lines << child->text(QAccessible::Name);
+            EXPECT_EQ(grid->indexOfChild(child), i);
+        }
+    EXPECT_EQ(lines.join("|").toStdString(), "1, Buy paper, Personal, High, not checked|2, Call home, Personal, High, not checked");
+
+    // Down twice stands on the second row; the frame shows round it while the grid has the keys.
+    widget("picGrid")->setFocus();
+    key(widget("picGrid"), Qt::Key_Down);
+    key(widget("picGrid"), Qt::Key_Down);
+    EXPECT_EQ(window->state.KeyboardRow, 2);
+    EXPECT_TRUE(widget("picGrid")->hasFocus());
 }
 
 // --- What shows ------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 #include <QAccessibleWidget>
 #include <QComboBox>
 #include <QPointer>
+#include <vector>
 
 #include "platform/qt/control_widgets.h"
 #include "platform/qt/form_view.h"
@@ -92,20 +93,24 @@ public:
     QAccessibleInterface* child(int index) const override {
         const int widgets = QAccessibleWidget::childCount();
         if (index < widgets) return QAccessibleWidget::child(index);
-        if (index - widgets >= lines()) return nullptr;
-        auto* line = new DrawnLine(box(), index - widgets);
-        QAccessible::registerAccessibleInterface(line);
-        return line;
+        const int line = index - widgets;
+        if (line >= lines()) return nullptr;
+        // One interface a line, made when first asked for and kept while the box lives.
+        while (int(lineIds_.size()) <= line)
+            lineIds_.push_back(QAccessible::registerAccessibleInterface(new DrawnLine(box(), int(lineIds_.size()))));
+        return QAccessible::accessibleInterface(lineIds_[std::size_t(line)]);
+    }
+    ~PaintedBoxInterface() override {
+        for (QAccessible::Id id : lineIds_) QAccessible::deleteAccessibleInterface(id);
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        if (auto* line = dynamic_cast<const DrawnLine*>(child)) {
-            for (int i = 0; i < lines(); ++i)
-                if (line->text(QAccessible::Name) == qs(control().items[std::size_t(i)]))
-                    return QAccessibleWidget::childCount() + i;
-            return -1;
-        }
+        for (std::size_t i = 0; i < lineIds_.size(); ++i)
+            if (QAccessible::accessibleInterface(lineIds_[i]) == child) return QAccessibleWidget::childCount() + int(i);
         return QAccessibleWidget::indexOfChild(child);
     }
+
+private:
+    mutable std::vector<QAccessible::Id> lineIds_;
 };
 
 // A drop-down list. Qt on this desktop calls a combo box by its value and leaves the name
