@@ -4,6 +4,7 @@ namespace qh {
 namespace {
 
 constexpr const char* kDayHeaderLetters = "MTWTFSS";
+constexpr Color kMonthBarBlue = 0x7F4F2F;
 
 Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
                int height, const std::string& caption, int index = -1) {
@@ -20,14 +21,24 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     Control& calendar = form.add(ControlKind::PictureBox, "picCalendar", container, left, top, 2640, 2520);
     calendar.backColor = kWhite;
     calendar.border = true;
-    form.add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270).picture = "CalMonthLeftUp";
-    form.add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270).backColor = 0x7F4F2F;
+    calendar.accessibleName = "Calendar";
+    Control& monthDown = form.add(ControlKind::PictureBox, "picCalMonthDown", "picCalendar", 0, 0, 180, 270);
+    monthDown.picture = "CalMonthLeftUp";
+    // Where an arrow's picture ends, its box shows the bar's blue: one bar, no notch.
+    monthDown.backColor = kMonthBarBlue;
+    monthDown.toolTip = "Previous month";
+    Control& monthBar = form.add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270);
+    monthBar.backColor = kMonthBarBlue;
+    monthBar.accessibleName = "Month";
     Control& month = label(form, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
     month.alignment = Alignment::Center;
     month.foreColor = kWhite;
     month.fontName = "Verdana";
     month.bold = true;
-    form.add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270).picture = "CalMonthRightUp";
+    Control& monthUp = form.add(ControlKind::PictureBox, "picCalMonthUp", "picCalendar", 2310, 0, 330, 270);
+    monthUp.picture = "CalMonthRightUp";
+    monthUp.backColor = kMonthBarBlue;
+    monthUp.toolTip = "Next month";
     Control& dayBackground = label(form, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
     dayBackground.opaque = true;
     dayBackground.backColor = 0xEEE6DD;
@@ -38,9 +49,11 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
         header.fontName = "Verdana";
         header.bold = true;
     }
+    // Today's frame: a black tile a pixel larger than a cell all round, lying under it.
     Control& tile = label(form, "LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
     tile.alignment = Alignment::Center;
-    tile.border = true;
+    tile.opaque = true;
+    tile.backColor = kBlack;
     tile.visible = false;
     for (int i = 0; i < 42; ++i) {
         Control& cell = label(form, "LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7), cellWidth,
@@ -53,9 +66,13 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
         cell.tag = std::to_string(i);
     }
     form.sendToBack("LabelCalTileBorder");
-    form.add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240).picture = "TodayUp";
+    Control& today = form.add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240);
+    today.picture = "TodayUp";
+    today.accessibleName = "Go to today";
     label(form, "LabelToday", "picToday", 0, 15, 750, 240, "Today").alignment = Alignment::Center;
-    form.add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240).picture = "TomorrowUp";
+    Control& tomorrow = form.add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240);
+    tomorrow.picture = "TomorrowUp";
+    tomorrow.accessibleName = "Go to tomorrow";
     label(form, "LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow").alignment = Alignment::Center;
 }
 
@@ -79,6 +96,18 @@ void PaintMonthCells(Form& form, const MonthCells& cells, const std::string& mon
     }
 }
 
+void NameMonthCells(Form& form, const MonthCells& cells, const std::array<bool, 42>& marked,
+                    const std::function<std::string(Date)>& longDate, const std::string& markName) {
+    for (int i = 0; i < 42; ++i) {
+        const std::size_t k = std::size_t(i);
+        std::string name = longDate(cells.CalendarDates[k]);
+        if (cells.CalendarDates[k] == cells.CalendarDates[42]) name += ", today";
+        if (cells.CellBold[k]) name += ", selected";
+        if (marked[k] && !markName.empty()) name += ", " + markName;
+        form.c("LabelCalDate", i).accessibleName = name;
+    }
+}
+
 const char* ApplyDayHeaders(Form& form, const std::string& startDayOfWeek) {
     static const char* const order[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
     int first = 0;  // index into order of the first header
@@ -98,6 +127,7 @@ const char* ApplyDayHeaders(Form& form, const std::string& startDayOfWeek) {
         const std::string day = order[(first + i) % 7];
         header.caption = day.substr(0, 1);
         header.tag = day;
+        header.accessibleName = day;
         header.underline = i == offers.first || i == offers.second;
     }
     return menu;

@@ -3,6 +3,8 @@
 // editor's picker carry the same controls under the same names (picCalendar, LabelMonth,
 // LabelCalDay(0..6), LabelCalDate(0..41), LabelCalTileBorder, picToday/LabelToday,
 // picTomorrow/LabelTomorrow, picCalMonthUp/Down with their labels).
+#include <array>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -20,6 +22,11 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
 // Copies the cells to the 42 labels, puts the frame round today's cell (hidden when the
 // month shown has no today) and sets LabelMonth to `monthCaption`.
 void PaintMonthCells(Form& form, const MonthCells& cells, const std::string& monthCaption);
+
+// Names the 42 cells for screen readers by their whole date ("Tuesday, November 24,
+// 2026"), then ", today", ", selected" and ", " `markName` for a marked cell, as they apply.
+void NameMonthCells(Form& form, const MonthCells& cells, const std::array<bool, 42>& marked,
+                    const std::function<std::string(Date)>& longDate, const std::string& markName);
 
 // Lays out the seven headers for a first day of the week: the first letter as caption,
 // the whole name as tag, the two other possible start days underlined. Returns the menu

@@ -90,6 +90,7 @@ void FrmAssignment::buildControls() {
     Control& help = add(ControlKind::PictureBox, "picHelp", "", 5805, 60, 315, 240);
     help.picture = "Help";
     help.tabStop = false;
+    help.accessibleName = "What's This?";
 
     label("LabelType", 120, 780, 1440, "Type");
     combo("ComboTypeList", 120, 1020, 1440);

@@ -60,10 +60,14 @@ void FrmEvent::buildRecurrencePanel() {
         const std::string name = period;
         onFace(add(ControlKind::RadioButton, "Radio" + name + "ThisDate", frame, 120, 300, 3600, 255)).caption =
             "This Date Every " + std::string(name == "Monthly" ? "Month" : "Year");
-        onFace(add(ControlKind::RadioButton, "Radio" + name + "User", frame, 120, 810, 270, 255));
+        // The rule's line reads as one sentence on screen; a screen reader gets each part's role.
+        onFace(add(ControlKind::RadioButton, "Radio" + name + "User", frame, 120, 810, 270, 255)).accessibleName =
+            "By rule";
         Control& number = add(ControlKind::ComboBox, "Combo" + name + "Number", frame, 420, 780, 1020, 315);
+        number.accessibleName = "Which";
         for (const std::string_view entry : kRepeatNumberChoices) number.addItem(std::string(entry));
         Control& day = add(ControlKind::ComboBox, "Combo" + name + "Day", frame, 1500, 780, 1260, 315);
+        day.accessibleName = "Day";
         for (const std::string_view entry : kRepeatDayChoices) day.addItem(std::string(entry));
         Control& tail = add(ControlKind::Label, label, frame, 2820, 810, 1620, 255);
         tail.caption = text;
@@ -75,7 +79,7 @@ void FrmEvent::buildRecurrencePanel() {
     onFace(add(ControlKind::RadioButton, "RadioEndNone", "FrameEndDate", 60, 60, 1800, 255)).caption = "No End";
     onFace(add(ControlKind::RadioButton, "RadioEndOn", "FrameEndDate", 60, 330, 1800, 255)).caption = "Set End Date";
     onFace(add(ControlKind::Label, "LabelEndDate", "", 600, 5520, 2700, 255)).caption = "No End Date";
-    onFace(add(ControlKind::CheckBox, "CheckboxEndDate", "", 240, 5805, 285, 285));
+    onFace(add(ControlKind::CheckBox, "CheckboxEndDate", "", 240, 5805, 285, 285)).accessibleName = "Set End Date";
     Control& end = add(ControlKind::TextBox, "TextboxEndDate", "", 600, 5790, 2700, 315);
     end.locked = true;
     end.border = true;

@@ -34,6 +34,7 @@ void FrmTask::buildControls() {
     };
     label("LabelDeadline", 600, 120, 2940, "No Date Set");
     Control& deadline = add(ControlKind::CheckBox, "CheckBoxDeadline", "", 240, 375, 285, 285);
+    deadline.accessibleName = "Deadline";
     deadline.backColor = kButtonFace;
     Control& date = add(ControlKind::TextBox, "TextboxTaskDate", "", 600, 360, 2940, 315);
     date.locked = true;
@@ -62,6 +63,7 @@ void FrmTask::buildControls() {
     Control& help = add(ControlKind::PictureBox, "picHelp", "", 240, 3780, 315, 240);
     help.picture = "Help";
     help.tabStop = false;
+    help.accessibleName = "What's This?";
     button("ButtonShare", 1080, "Share");
     button("ButtonDelete", 2280, "Delete");
     button("ButtonOK", 3840, "OK");

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "common/text.h"
+#include "list_view/grid_keys.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
@@ -22,7 +23,6 @@ constexpr std::array<float, 7> kReminderWidths{28, 75, 0.3f, 80, 0.695f, 90, 70}
 
 constexpr int kHeaderCount = 9;
 
-std::string headerKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
 
 // The start of the last whole UTF-8 character of a non-empty text.
 std::size_t lastCharacterStart(const std::string& text) {
@@ -31,12 +31,14 @@ std::size_t lastCharacterStart(const std::string& text) {
     return pos;
 }
 
-GridRows currentRows(const MainWindow& window) {
-    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(headerKey(0)).height,
+}  // namespace
+
+std::string GridHeaderKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
+
+GridRows CurrentGridRows(const MainWindow& window) {
+    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(GridHeaderKey(0)).height,
                            window.state.RowPitch);
 }
-
-}  // namespace
 
 std::span<const float> GridWidthTable(Mode mode) {
     switch (mode) {
@@ -82,12 +84,14 @@ GridRows MeasureGridRows(int canvasHeight, int headerTwips, int rowPitchPixels) 
     rows.headerTwips = headerTwips;
     rows.pitchTwips = rowPitchPixels * kTwipsPerPixel;
     if (rows.pitchTwips <= 0) return rows;
-    rows.bottomTwips = canvasHeight - canvasHeight % rows.pitchTwips;
     const int below = canvasHeight - headerTwips;
     // A remainder takes the sign of the height, so a canvas lower than its header strip
     // has no rows rather than a negative count.
     rows.rowsVisible = (below - below % rows.pitchTwips) / rows.pitchTwips;
     if (rows.rowsVisible < 0) rows.rowsVisible = 0;
+    // The rules and the paint limit end under the last whole row, counted from the header
+    // strip: every row the scroll bar counts as visible is ruled and painted.
+    rows.bottomTwips = headerTwips + rows.rowsVisible * rows.pitchTwips;
     return rows;
 }
 
@@ -122,8 +126,19 @@ bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p) {
     return true;
 }
 
-void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
-                   const std::function<GridRow(int position)>& rowAt) {
+std::string RowSpokenText(int position, const GridRow& row) {
+    std::string text = std::to_string(position);
+    for (const GridCell& cell : row.cells) {
+        const std::string value = cell.kind == CellKind::Check ? (cell.checked ? "checked" : "not checked")
+                                                              : trim(cell.text);
+        if (!value.empty()) text += ", " + value;
+    }
+    return text;
+}
+
+std::vector<std::string> PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
+                                       const std::function<GridRow(int position)>& rowAt) {
+    std::vector<std::string> spoken;
     CanvasFont font;
     font.name = "Arial";
     font.size = 9;
@@ -135,6 +150,7 @@ void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCo
         if (p < 1 || p > rowCount) break;
         if (!PaintNumberCell(canvas, frame, v, p)) break;
         const GridRow row = rowAt(p);
+        spoken.push_back(RowSpokenText(p, row));
         const int r = (v - 1) * frame.rowPitch;
         const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
         const int bottom = (r + frame.headerHeight + 21) * kTwipsPerPixel;
@@ -164,6 +180,21 @@ void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCo
             if (!text.empty()) canvas.printText(x, textY, text);
         }
     }
+    return spoken;
+}
+
+void PaintKeyboardRow(Canvas& canvas, const GridFrame& frame, int row, int gridWidth) {
+    if (row < 1) return;
+    const int r = (row - 1) * frame.rowPitch;
+    const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
+    const int bottom = (r + frame.headerHeight + frame.rowPitch - 1) * kTwipsPerPixel;
+    const int left = kTwipsPerPixel, right = gridWidth - kScrollBarWidth - 2 * kTwipsPerPixel;
+    for (int inset : {0, kTwipsPerPixel}) {
+        canvas.line(left + inset, top + inset, right - inset, top + inset, kKeyboardRowFrame);
+        canvas.line(left + inset, bottom - inset, right - inset, bottom - inset, kKeyboardRowFrame);
+        canvas.line(left + inset, top + inset, left + inset, bottom - inset, kKeyboardRowFrame);
+        canvas.line(right - inset, top + inset, right - inset, bottom - inset, kKeyboardRowFrame);
+    }
 }
 
 std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
@@ -175,7 +206,7 @@ std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
 GridFrame CurrentGridFrame(const MainWindow& window, int columnCount) {
     GridFrame frame;
     for (int i = 0; i < columnCount && i < kHeaderCount; ++i) {
-        const Control& header = window.c(headerKey(i));
+        const Control& header = window.c(GridHeaderKey(i));
         frame.columns.push_back({header.left, header.width});
     }
     frame.headerHeight = window.state.HeaderHeight;
@@ -190,13 +221,15 @@ void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
     font.size = 8;
     font.bold = true;
     for (std::size_t c = 0; c < titles.size() && c < std::size_t(kHeaderCount); ++c) {
-        Control& header = window.c(headerKey(int(c)));
+        Control& header = window.c(GridHeaderKey(int(c)));
         header.picture = HeaderPicture(int(c), window.state.SortColumn, window.state.SortDirection);
         Canvas& canvas = *header.canvas;
         canvas.clear(header.backColor);
         canvas.setFont(font);
         canvas.setForeColor(kBlack);
         canvas.printText(45, 45, trim(titles[c]));
+        header.accessibleName = c == 0 ? "Row number" : trim(titles[c]);
+        header.toolTip = c == 0 ? "" : "Sort by " + trim(titles[c]);
     }
 }
 
@@ -215,7 +248,7 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
     if (table.empty()) return;
     const int n = int(table.size());
     for (int i = 0; i < kHeaderCount; ++i) {
-        Control& header = window.c(headerKey(i));
+        Control& header = window.c(GridHeaderKey(i));
         header.visible = header.enabled = i < n;
     }
 
@@ -232,13 +265,13 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
 
     const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.c("picGrid").width, scroll.width);
     for (int i = 0; i < n; ++i) {
-        Control& header = window.c(headerKey(i));
+        Control& header = window.c(GridHeaderKey(i));
         window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width, header.height);
         header.picture = "GridTitle";
     }
 
     canvas.clear(kWhite);
-    const GridRows rows = currentRows(window);
+    const GridRows rows = CurrentGridRows(window);
     const int b = rows.bottomTwips, w = canvas.scaleWidth();
     const int numberRule = n > 1 ? spans[1].left : 0;
     for (int i = 1; i < n; ++i) canvas.line(spans[std::size_t(i)].left, 0, spans[std::size_t(i)].left, b, kLightRule);
@@ -262,115 +295,12 @@ void PaintList(MainWindow& window, std::span<const char* const> titles,
                const std::function<GridRow(int position)>& rowAt) {
     PaintGridHeaders(window, titles);
     const GridFrame frame = CurrentGridFrame(window, int(titles.size()));
-    PaintGridRows(*window.c("picGrid").canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
-}
-
-// ---------------------------------------------------------------------------------------
-// Members of the main window.
-
-void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
-
-void MainWindow::BuildList(Mode mode) {
-    switch (mode) {
-        case Mode::Homework:
-            BuildHomeworkList(*this);
-            break;
-        case Mode::Events:
-            BuildEventList(*this);
-            break;
-        case Mode::Reminders:
-            BuildReminderList(*this);
-            break;
-        case Mode::StudySessions:
-            BuildStudySessionList(*this);
-            break;
-        case Mode::Tasks:
-            BuildTaskList(*this);
-            break;
-        default:
-            break;
-    }
-}
-
-void MainWindow::UpdateGridScroll() {
-    Control& scroll = c("VSGridScroll");
-    if (state.RowCount > state.RowsVisible) {
-        scroll.enabled = true;
-        scroll.minimum = 1;
-        scroll.maximum = state.RowCount - state.RowsVisible + 1;
-        scroll.smallChange = 1;
-        // A step of a page keeps one row in sight; a grid of a single row still moves.
-        scroll.largeChange = std::max(1, state.RowsVisible - 1);
-        // A list that shrank under a scrolled grid: the bar's value falls to its new
-        // maximum, and the list shows from there, as the bar's own change would make it.
-        if (scroll.value > scroll.maximum) {
-            scroll.value = scroll.maximum;
-            state.TopRow = toInt16(scroll.value);
-        }
-        if (scroll.value < 1) scroll.value = 1;
-    } else {
-        state.TopRow = 1;
-        scroll.enabled = false;
-        scroll.value = 1;
-    }
-}
-
-void MainWindow::RefillGrid() {
-    state.TopRow = toInt16(c("VSGridScroll").value);
-    const Mode mode = CurrentMode();
-    if (mode == Mode::None) return;
-    LayoutGrid(mode);
-    UpdateGridScroll();
-    BuildList(mode);
-}
-
-void MainWindow::ResetGridScroll() {
-    Control& scroll = c("VSGridScroll");
-    if (scroll.value != 1) {
-        // The bar's change event rebuilds the list.
-        scroll.value = 1;
-        fire("VSGridScroll", FormEvent::Change);
-        return;
-    }
-    const Mode mode = CurrentMode();
-    if (mode == Mode::None) return;
-    LayoutGrid(mode);
-    BuildList(mode);
-}
-
-void MainWindow::HighlightGridRow(int row, bool on) {
-    if (row > state.RowCount || row < 1) return;
-    Canvas& canvas = *c("picGrid").canvas;
-    CanvasFont font;
-    font.name = "Arial";
-    font.size = 9;
-    canvas.setFont(font);
-    canvas.setForeColor(on ? kWhite : kBlack);
-    const Control& number = c(headerKey(0));
-    const int r = (row - 1) * state.RowPitch;
-    canvas.filledBox(number.left + 15, (r + state.HeaderHeight + 1) * kTwipsPerPixel, number.left + number.width - 30,
-                     (r + state.HeaderHeight + 21) * kTwipsPerPixel, on ? kBlack : kWhite);
-    const std::string position = std::to_string(state.TopRow - 1 + row);
-    canvas.printText(345 - canvas.textWidth(position), r * kTwipsPerPixel + state.HeaderHeight * kTwipsPerPixel + 60,
-                     position);
-}
-
-void MainWindow::picGridMouseDown(const EventArgs& args) {
-    state.PressedRow = toInt16(RowPressedAt(currentRows(*this), c("picGrid").canvas->scaleWidth(), args.x, args.y));
-}
-
-void MainWindow::picGridMouseUp(const EventArgs& args) {
-    const int k = RowReleasedAt(currentRows(*this), args.y);
-    // Dragging off the pressed row, or a press on the header strip, drops the click.
-    if (k != state.PressedRow) return;
-    GridRowClicked(k);
-}
-
-void MainWindow::headerClicked(int index) {
-    if (index == 0) return;  // the "#" column doesn't sort
-    if (index == state.SortColumn) state.SortDirection = state.SortDirection == 1 ? 2 : 1;
-    state.SortColumn = toInt16(index);
-    ResetGridScroll();
+    Control& grid = window.c("picGrid");
+    grid.items = PaintGridRows(*grid.canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
+    const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
+                                        window.state.RowsVisible);
+    window.state.KeyboardRow = toInt16(view.keyboardRow);
+    if (window.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
 }
 
 }  // namespace qh

@@ -10,8 +10,8 @@
 // a visible row k (1 at the top of the grid). p = TopRow - 1 + k.
 //
 // The geometry is kept as pure functions with their inverses (where a row is painted, and
-// which row a mouse position hits) so that both can be tested without a window; the
-// MainWindow members in grid.cpp only read and write the controls.
+// which row a mouse position hits) so that both can be tested without a window; the main
+// window's members that use them (shell/list_grid.cpp) only read and write the controls.
 #include <functional>
 #include <span>
 #include <string>
@@ -59,7 +59,7 @@ std::vector<ColumnSpan> PlaceGridColumns(std::span<const float> widths, int grid
 struct GridRows {
     int headerTwips = 0;  // height of header 0
     int pitchTwips = 0;   // row pitch
-    int bottomTwips = 0;  // B: the canvas height rounded down to a multiple of the pitch
+    int bottomTwips = 0;  // B: the lower edge of the last whole row under the header strip
     int rowsVisible = 0;  // whole rows between the header strip and the lower edge
 
     int headerHeight() const { return headerTwips / kTwipsPerPixel; }  // pixels
@@ -117,9 +117,18 @@ bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p);
 
 // Paints the rows from list position `topRow` on into the visible rows, as far as the
 // paint limit and the end of the list allow. `rowAt(p)` gives the cells of position p; it
-// is asked only for rows that are painted. Sets the canvas font to Arial 9 first.
-void PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
+// is asked only for rows that are painted. Sets the canvas font to Arial 9 first. Returns
+// what a screen reader says of each painted row: its position and its cells' texts.
+std::vector<std::string> PaintGridRows(Canvas& canvas, const GridFrame& frame, int topRow, int rowCount,
                    const std::function<GridRow(int position)>& rowAt);
+
+// A row as a screen reader says it: the list position, then the cells that show a text,
+// a check box as "checked" or "not checked", separated by commas.
+std::string RowSpokenText(int position, const GridRow& row);
+// The frame round the visible row the keyboard stands on, inside the row's rules and left
+// of the scroll bar strip of a grid `gridWidth` twips wide; nothing for row 0.
+void PaintKeyboardRow(Canvas& canvas, const GridFrame& frame, int row, int gridWidth);
+inline constexpr Color kKeyboardRowFrame = rgb(28, 95, 200);
 
 // The header picture of column c under the sort state.
 std::string HeaderPicture(int column, int sortColumn, int sortDirection);
@@ -127,6 +136,10 @@ std::string HeaderPicture(int column, int sortColumn, int sortDirection);
 // ---------------------------------------------------------------------------------------
 // Window glue, used by the list builders.
 
+// The key of header c ("picColHeader(c)").
+std::string GridHeaderKey(int index);
+// The vertical measures of the grid as the window stands.
+GridRows CurrentGridRows(const MainWindow& window);
 // The frame of the grid as the last layout left it, for a list of `columnCount` columns.
 GridFrame CurrentGridFrame(const MainWindow& window, int columnCount);
 // Sets the header pictures and prints the titles, "Verdana" 8 bold, black.

@@ -39,6 +39,9 @@ struct MainWindowState {
     Int16 GridBottom = 0;
     Int16 RowsVisible = 0;
     Int16 RowCount = 0;
+    // The visible row the keyboard stands on in the grid (framed while the grid has the
+    // focus); 0 before the first arrow key.
+    Int16 KeyboardRow = 0;
     Int16 CalendarCellWidth = 300;
     Int16 CalendarCellHeight = 225;
     Int16 ButtonRepeatInterval = 300;

@@ -37,6 +37,7 @@ bool Control::canTakeFocus() const {
         case ControlKind::RadioButton:
         case ControlKind::CommandButton:
         case ControlKind::ScrollBar: return true;
+        case ControlKind::PictureBox: return focusable;
         default: return false;
     }
 }

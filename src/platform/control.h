@@ -65,6 +65,15 @@ struct Control {
     int z = 0;  // stacking order among siblings: higher lies on top
 
     bool tabStop = true;  // Tab visits it (when it can take the focus at all)
+    // A picture box that takes the keyboard focus and its keys (the calendar, the grid).
+    bool focusable = false;
+
+    // What a pointer resting on it says, and what a screen reader calls it. Without a
+    // name of its own a control is called by its caption, then by its tooltip.
+    std::string toolTip;
+    std::string accessibleName;
+    // Menu entries: the key combination that chooses them, as "Ctrl+N" or "F1".
+    std::string shortcut;
 
     int helpContextId = 0;
     int interval = 0;  // timer period in ms; the timer runs while `enabled`

@@ -160,6 +160,20 @@ void Form::press(const std::string& key, const EventArgs& args) {
 }
 void Form::release(const std::string& key, const EventArgs& args) { fire(key, FormEvent::MouseUp, args); }
 
+std::string Form::wheelTarget(const std::string& key) const {
+    for (std::string at = key; has(at); at = c(at).container)
+        if (handles(at, FormEvent::MouseWheel)) return at;
+    return "";
+}
+
+void Form::wheel(const std::string& key, int notches) {
+    const std::string target = wheelTarget(key);
+    if (target.empty() || !c(target).enabled || !c(target).visible) return;
+    EventArgs args;
+    args.notches = notches;
+    fire(target, FormEvent::MouseWheel, args);
+}
+
 void Form::tick(const std::string& timerKey) {
     if (find(timerKey).enabled) fire(timerKey, FormEvent::Timer);
 }
@@ -175,7 +189,12 @@ void Form::pressKey(int keyCode, int character, int shift) {
         fire(target, FormEvent::KeyPress, args);
     }
     const bool multiLineFocused = has(target) && c(target).kind == ControlKind::TextBox && c(target).multiLine;
-    if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused) click(defaultButton);
+    // Enter presses the focused button, else the window's default one.
+    const bool buttonFocused = has(target) && c(target).kind == ControlKind::CommandButton;
+    if (keyCode == kKeyReturn && buttonFocused)
+        click(target);
+    else if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused)
+        click(defaultButton);
     if (keyCode == kKeyEscape && !cancelButton.empty()) click(cancelButton);
     if (keyCode == kKeyTab) {
         // From a control that is no tab stop (a read-only box clicked into), Tab goes on
@@ -221,6 +240,33 @@ bool Form::isInside(const std::string& key, const std::string& containerKey) con
         at = control.container;
     }
     return false;
+}
+
+std::string Form::labelOf(const std::string& key) const {
+    // How far a label may stand from its field: a line's gap above, a short gap left.
+    constexpr int kAboveGap = 300, kLeftGap = 600, kOverlapSlack = 60;
+    const Control& field = c(key);
+    std::string best;
+    int bestGap = 1 << 30;
+    for (const std::string& other : order_) {
+        const Control& label = c(other);
+        if (label.kind != ControlKind::Label || !label.visible || label.caption.empty() ||
+            label.container != field.container)
+            continue;
+        const bool across = label.left < field.left + field.width && field.left < label.left + label.width;
+        const bool inHeight = label.top < field.top + field.height && field.top < label.top + label.height;
+        int gap = -1;
+        if (across && label.top < field.top && field.top - (label.top + label.height) <= kAboveGap)
+            gap = std::max(0, field.top - (label.top + label.height));
+        else if (inHeight && label.left + label.width <= field.left + kOverlapSlack &&
+                 field.left - (label.left + label.width) <= kLeftGap)
+            gap = std::max(0, field.left - (label.left + label.width));
+        if (gap >= 0 && gap < bestGap) {
+            bestGap = gap;
+            best = label.caption;
+        }
+    }
+    return best;
 }
 
 std::vector<std::string> Form::tabOrder(const std::string& alsoKey) const {

@@ -14,13 +14,14 @@ namespace qh {
 
 class CanvasFactory;
 
-enum class FormEvent { Click, DblClick, Change, MouseDown, MouseUp, Timer, GotFocus, LostFocus, KeyDown, KeyPress, Scroll };
+enum class FormEvent { Click, DblClick, Change, MouseDown, MouseUp, Timer, GotFocus, LostFocus, KeyDown, KeyPress, Scroll, MouseWheel };
 
 struct EventArgs {
     int button = 1;  // 1 left, 2 right
     int shift = 0;   // 1 shift, 2 control, 4 alt
     int x = 0, y = 0;  // twips inside the control
     int keyCode = 0;   // KeyDown: the key's code (13 Enter, 27 Escape, 'A' for a or A); KeyPress: the character
+    int notches = 0;   // MouseWheel: notches turned, positive away from the user (up)
 };
 
 // Where a request to close a window comes from. A window may refuse a close by its close
@@ -31,6 +32,15 @@ enum class UnloadMode { CloseBox = 0, Code = 1, ProgramEnd = 2 };
 constexpr int kKeyReturn = 13;
 constexpr int kKeyEscape = 27;
 constexpr int kKeyTab = 9;
+// Keys the planner's own controls move by.
+constexpr int kKeyPageUp = 33;
+constexpr int kKeyPageDown = 34;
+constexpr int kKeyEnd = 35;
+constexpr int kKeyHome = 36;
+constexpr int kKeyLeft = 37;
+constexpr int kKeyUp = 38;
+constexpr int kKeyRight = 39;
+constexpr int kKeyDown = 40;
 
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -53,6 +63,7 @@ public:
     WindowState windowState = WindowState::Normal;
     bool visible = false;
     bool fixedSize = false;  // a dialog that can't be resized
+    bool titleBar = true;    // false for a window of no frame at all (the splash)
     int minWidth = 0, minHeight = 0;  // outer size the user can't drag the window below; 0 for none
     // The control that holds the keyboard focus, empty for none. Models move it with
     // SetFocus, never by assigning it.
@@ -105,10 +116,16 @@ public:
     void scrollTo(const std::string& key, int value);
     void press(const std::string& key, const EventArgs& args = {});
     void release(const std::string& key, const EventArgs& args = {});
+    // The mouse wheel turned over a control: MouseWheel on the innermost control under
+    // the pointer that handles it, going out through its containers.
+    void wheel(const std::string& key, int notches);
+    // The control a turn over `key` reaches: it or its nearest container that takes the
+    // wheel; empty for none.
+    std::string wheelTarget(const std::string& key) const;
     void tick(const std::string& timerKey);
     // A key pressed while the window has the focus: KeyDown on the focused control, then
-    // KeyPress for a character; Enter clicks the default button (unless a multi-line box
-    // has the focus) and Escape the cancel button.
+    // KeyPress for a character; Enter clicks the focused button, else the default button
+    // (unless a multi-line box has the focus), and Escape the cancel button.
     void pressKey(int keyCode, int character = 0, int shift = 0);
 
     // The focus. focusTo is the gesture (a click, Tab, the toolkit's own focus change): it
@@ -127,6 +144,12 @@ public:
     // The controls a press inside `containerKey` may fall on: true when `key` lies in it,
     // at any depth.
     bool isInside(const std::string& key, const std::string& containerKey) const;
+
+    // The caption of the label that names a field for the eye: the nearest visible label
+    // of the same container just above it (overlapping it across) or just left of it
+    // (overlapping it in height); empty when there is none. Screen readers call the field
+    // by it, as a person reads the window.
+    std::string labelOf(const std::string& key) const;
 
     // Z-order within the container.
     void bringToFront(const std::string& key);

@@ -28,6 +28,12 @@ public:
     virtual void paintPending() = 0;
     virtual int screenWidthTwips() const = 0;
     virtual int screenHeightTwips() const = 0;
+    // The part of the screens a window may take (without task bars), in twips; by default
+    // the whole of the one screen.
+    struct Area {
+        int left = 0, top = 0, width = 0, height = 0;
+    };
+    virtual Area availableArea() const { return Area{0, 0, screenWidthTwips(), screenHeightTwips()}; }
     // The next control clicked shows its context help.
     virtual void enterWhatsThisMode() = 0;
     // Prints the image of the window on the chosen printer, `copies` full pages in one job,

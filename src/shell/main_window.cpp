@@ -131,7 +131,7 @@ void MainWindow::bindHandlers() {
     on("VSGridScroll", FormEvent::Change, [this](const EventArgs&) { RefillGrid(); });
     on("VSGridScroll", FormEvent::Scroll, [this](const EventArgs&) { RefillGrid(); });
     // The keyboard belongs to the grid: the scroll bar hands on the focus it gets.
-    on("VSGridScroll", FormEvent::GotFocus, [this](const EventArgs&) { focusedControl = "picGrid"; });
+    on("VSGridScroll", FormEvent::GotFocus, [this](const EventArgs&) { SetFocus("picGrid"); });
 
     onClick("ButtonNewAssignment", [this] { NewAssignment(); });
     onClick("MenuNewAssignment", [this] { NewAssignment(); });
@@ -144,6 +144,7 @@ void MainWindow::bindHandlers() {
     onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
     bindHelpHandlers();
     bindFileMenu();
+    bindKeyboardAndWheel();
 }
 
 }  // namespace qh

@@ -12,6 +12,8 @@
 //   file_menu.cpp        the list and calendar exports, Print Screen
 //   window_layout.cpp    the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
+//   list_grid.cpp        the grid's layout, scrolling, pressed row and header clicks
+//   keyboard_and_wheel.cpp  the calendar's and the grid's keys and mouse wheel
 //   list_view/*          the grid layouts, list builders and hit testing
 //   calendar_days/*      which days are marked
 #include <cstdint>
@@ -28,6 +30,7 @@
 namespace qh {
 
 class RecordFiles;
+struct GridView;
 class FrmTip;
 class FrmAbout;
 struct ColorVocabulary;
@@ -142,6 +145,8 @@ private:
     void buildControls();
     void buildMenus();
     void bindHandlers();
+    void bindKeyboardAndWheel();
+    void showGridView(const GridView& view);
     void bindFileMenu();
     void applyModeTable(Mode mode);
     void calendarButtonPressed(const std::string& button);

@@ -1,5 +1,6 @@
 // The controls and menus of the main window at their load places (twips, client area).
 #include "calendar/calendar_binder.h"
+#include "common/text.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -63,6 +64,15 @@ void MainWindow::buildMenus() {
     addMenu("MenuHelpSep1", "MenuHelp", "-");
     addMenu("MenuShowTips", "MenuHelp", "Show Tips at Startup...");
     addMenu("MenuAbout", "MenuHelp", "About Quillhollow...");
+
+    // The usual keys; the menus show them beside the entries. Ctrl+N makes a record of the
+    // mode: only the entry of the mode is enabled at any time.
+    const std::pair<const char*, const char*> shortcuts[] = {
+        {"MenuReminders", "Ctrl+1"},     {"MenuHomework", "Ctrl+2"},      {"MenuStudySessions", "Ctrl+3"},
+        {"MenuTasks", "Ctrl+4"},         {"MenuEvents", "Ctrl+5"},        {"MenuPrintScreen", "Ctrl+P"},
+        {"MenuExportList", "Ctrl+E"},    {"MenuExit", "Ctrl+Q"},          {"MenuNewAssignment", "Ctrl+N"},
+        {"MenuNewTask", "Ctrl+N"},       {"MenuNewEvent", "Ctrl+N"},      {"MenuHelpDB", "F1"}};
+    for (const auto& [menu, keys] : shortcuts) c(menu).shortcut = keys;
 }
 
 void MainWindow::buildControls() {
@@ -74,9 +84,15 @@ void MainWindow::buildControls() {
         Control& bar = add(ControlKind::PictureBox, bars[i], "", 120 + 600 * i, 15, 465, 345);
         bar.tag = tips[i];
         bar.backColor = kButtonFace;
+        bar.toolTip = trim(tips[i]);
     }
-    add(ControlKind::PictureBox, "PictureBarWeb", "", 5580, 15, 465, 345).picture = "Web";
-    add(ControlKind::PictureBox, "picHelp", "", 6285, 30, 315, 240).picture = "Help";
+    Control& web = add(ControlKind::PictureBox, "PictureBarWeb", "", 5580, 15, 465, 345);
+    web.picture = "Web";
+    web.toolTip = "Online Homework Help";
+    Control& help = add(ControlKind::PictureBox, "picHelp", "", 6285, 30, 315, 240);
+    help.picture = "Help";
+    help.toolTip = "What's This? Click here, then on any part of the window";
+    help.accessibleName = "What's This?";
     Control& top = add(ControlKind::PictureBox, "picTop", "", 240, 480, 6225, 330);
     top.backColor = 0x7F4F2F;
     Control& labelTop = label(*this, "LabelTop", "picTop", 0, 45, 6225, 285, "");
@@ -86,14 +102,21 @@ void MainWindow::buildControls() {
     labelTop.bold = true;
     labelTop.alignment = Alignment::Center;
     // The day arrows lie over the ends of the title bar.
-    add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330).picture = "CalDayLeftUp";
-    add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330).picture = "CalDayRightUp";
+    Control& dayDown = add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330);
+    dayDown.picture = "CalDayLeftUp";
+    dayDown.toolTip = "Previous day";
+    Control& dayUp = add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330);
+    dayUp.picture = "CalDayRightUp";
+    dayUp.toolTip = "Next day";
+    top.accessibleName = "Selected date";
 
     // The month calendar.
     AddMonthCalendarControls(*this, "", 6760, 30, state.CalendarCellWidth, state.CalendarCellHeight);
     Control& lock = add(ControlKind::PictureBox, "picLock", "picCalendar", 2355, 2130, 240, 270);
     lock.picture = "Lock";
     lock.visible = false;
+    lock.toolTip = "The date stays today in this mode";
+    c("picCalendar").focusable = true;
 
     // The mode's button and panels at the left.
     const std::pair<const char*, const char*> buttons[] = {
@@ -107,6 +130,7 @@ void MainWindow::buildControls() {
     sessions.visible = false;
     sessions.backColor = kButtonFace;
     sessions.border = true;
+    sessions.accessibleName = "Stopwatch";
     Control& time = label(*this, "LabelTime", "PictureBoxStudySessions", 45, 90, 975, 330, "00:00");
     time.fontName = "Courier";
     time.fontSize = 14;
@@ -120,6 +144,7 @@ void MainWindow::buildControls() {
     reminders.picture = "RemindersPanel";
     reminders.backColor = kButtonFace;
     reminders.border = true;
+    reminders.accessibleName = "Today's Reminders";
 
     // The summary labels and boxes; each mode places and shows its own.
     label(*this, "LabelTotalAssignments", "", 1410, 990, 1830, 255, "Total Assignments:");
@@ -135,17 +160,19 @@ void MainWindow::buildControls() {
     Control& term = add(ControlKind::PictureBox, "PictureBoxTerm", "", 4530, 930, 2055, 1605);
     term.backColor = kButtonFace;
     term.border = true;
+    term.accessibleName = "Term";
     Control& termName = label(*this, "LabelTerm", "PictureBoxTerm", 90, 60, 1875, 255, "");
     termName.bold = true;
     termName.fontName = "Verdana";
     label(*this, "LabelDaysLeft", "PictureBoxTerm", 90, 330, 1875, 255, "");
     add(ControlKind::CommandButton, "ButtonSelectTerm", "PictureBoxTerm", 210, 600, 1305, 375).caption =
         "Select Term";
-    add(ControlKind::ComboBox, "ComboGPA", "PictureBoxTerm", 120, 1140, 1815, 315);
+    add(ControlKind::ComboBox, "ComboGPA", "PictureBoxTerm", 120, 1140, 1815, 315).accessibleName = "GPA";
     Control& studyTime = add(ControlKind::PictureBox, "PictureBoxStudyTime", "", 4530, 930, 2055, 1605);
     studyTime.visible = false;
     studyTime.backColor = kButtonFace;
     studyTime.border = true;
+    studyTime.accessibleName = "Study Time Today";
     label(*this, "LabelStudyTimeToday", "PictureBoxStudyTime", 90, 90, 1875, 255, "Study Time Today").bold = true;
     label(*this, "LabelMinimum", "PictureBoxStudyTime", 90, 555, 900, 255, "Minimum:");
     label(*this, "LabelSuggested", "PictureBoxStudyTime", 90, 1005, 900, 255, "Suggested:");
@@ -156,26 +183,31 @@ void MainWindow::buildControls() {
         box.fontName = "Verdana";
         box.bold = true;
         box.text = "00:00";
+        box.accessibleName = std::string(name).substr(7);  // "Minimum", "Suggested"
     }
 
     // The two filter combos.
     Control& views = add(ControlKind::PictureBox, "PictureBoxViewMenus", "", 105, 2235, 4275, 405);
     views.visible = false;
     views.backColor = 0xF0E8E2;
+    views.accessibleName = "List filters";
     label(*this, "LabelList", "PictureBoxViewMenus", 60, 75, 495, 255, "List:");
-    add(ControlKind::ComboBox, "ComboList", "PictureBoxViewMenus", 570, 15, 1335, 315);
+    add(ControlKind::ComboBox, "ComboList", "PictureBoxViewMenus", 570, 15, 1335, 315).accessibleName = "List";
     label(*this, "LabelDateRange", "PictureBoxViewMenus", 2040, 75, 615, 255, "Range:");
-    add(ControlKind::ComboBox, "ComboDateRange", "PictureBoxViewMenus", 2670, 15, 1425, 315);
+    add(ControlKind::ComboBox, "ComboDateRange", "PictureBoxViewMenus", 2670, 15, 1425, 315).accessibleName = "Range";
 
     // The list grid, its headers and scroll bar, and the status bar; the layouts of the
     // list view place them by the window's size.
-    addDrawable("picGrid", "", 100, 2650, 9280, 3355);
+    Control& grid = addDrawable("picGrid", "", 100, 2650, 9280, 3355);
+    grid.focusable = true;
+    grid.accessibleName = "List";
     for (int i = 0; i < 9; ++i) addDrawable("picColHeader", "picGrid", 0, 0, 600, 300, i);
     Control& scroll = add(ControlKind::ScrollBar, "VSGridScroll", "picGrid", 9025, 0, 255, 3355);
     scroll.minimum = 1;
     scroll.maximum = 1;
     scroll.value = 1;
     scroll.enabled = false;
+    scroll.accessibleName = "Scroll the list";
     addDrawable("picStatusBar", "", 0, 6105, 9480, 300);
 
     Control& statusTimer = add(ControlKind::Timer, "TimerStatusBar", "", 0, 0, 0, 0);

@@ -157,6 +157,8 @@ void MainWindow::applyModeTable(Mode mode) {
     bringToFront(m.frontItem);
     c(m.frontItem).visible = true;
     c("ButtonNewAssignment").visible = m.buttonNewAssignment;
+    // Under the study panel the button shows at no point, so Tab passes it by.
+    c("ButtonNewAssignment").tabStop = std::string(m.frontItem) == "ButtonNewAssignment";
     c("ButtonNewTask").visible = m.buttonNewTask;
     c("ButtonNewEvent").visible = m.buttonNewEvent;
     c("PictureBoxStudySessions").visible = m.boxStudySessions;
@@ -184,6 +186,8 @@ void MainWindow::applyModeTable(Mode mode) {
         label.visible = true;
         Control& box = c(field.box);
         box.top = field.boxTop;
+        // A screen reader calls the figure by its label, without the colon.
+        box.accessibleName = std::string(field.caption).substr(0, std::string(field.caption).find(':'));
         box.visible = true;
     }
 

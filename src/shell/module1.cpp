@@ -19,7 +19,7 @@ bool Module1::Main() {
                                 MessageIcon::Information);
         return false;
     }
-    FrmSplash splash;
+    FrmSplash splash(platform_.windowing.availableArea());
     platform_.windowing.show(splash);
     platform_.windowing.processEvents();
 

@@ -29,6 +29,20 @@ void MainWindow::BuildCalendar() {
     state.DisplayedDate = state.ClickedDate;
     UpdateQuickDateButtons();
     PaintMonthCells(*this, cells, platform.locale.monthName(clicked.month) + " " + std::to_string(clicked.year));
+    NameMonthCells(*this, cells, state.CellMarked, [this](Date date) { return platform.locale.longDate(date); },
+                   DayMarkName(CurrentMode()));
+}
+
+std::string DayMarkName(Mode mode) {
+    switch (mode) {
+        case Mode::Homework: return "homework due";
+        case Mode::StudySessions: return "study session";
+        case Mode::Tasks: return "task due";
+        case Mode::Events: return "event";
+        case Mode::Reminders: return "reminder";
+        case Mode::None: break;
+    }
+    return "";
 }
 
 void MainWindow::PaintCalendarCells() {

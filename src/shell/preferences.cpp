@@ -1,5 +1,7 @@
 #include "shell/preferences.h"
 
+#include <algorithm>
+
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -72,6 +74,15 @@ void applyGeometry(std::string_view text, int screenPixels, int& twips) {
 bool startsWith(std::string_view line, std::string_view key) { return line.substr(0, key.size()) == key; }
 
 }  // namespace
+
+WindowPlacement ClampToArea(WindowPlacement window, const Windowing::Area& area) {
+    if (window.state != 0 || area.width <= 0 || area.height <= 0) return window;
+    window.width = std::min(window.width, area.width);
+    window.height = std::min(window.height, area.height);
+    window.left = std::clamp(window.left, area.left, area.left + area.width - window.width);
+    window.top = std::clamp(window.top, area.top, area.top + area.height - window.height);
+    return window;
+}
 
 std::string PreferencesText(const WindowPlacement& window, const PreferenceValues& values) {
     std::string text = "[Window Position]\r\n";

@@ -24,6 +24,11 @@ struct PreferenceValues {
     Int16 CurrentTip = 0;
 };
 
+// A placement brought onto the area a window may take: no larger than the area, and moved
+// so that all of it lies inside (a position saved at another scale or on a screen that is
+// gone would put the window out of reach). Maximised and minimised windows keep theirs.
+WindowPlacement ClampToArea(WindowPlacement window, const Windowing::Area& area);
+
 // The whole file. A window that is not in the normal state writes its geometry as four
 // zeros; a normal one writes each value in pixels (twips / 15) as a single-precision
 // number's shortest text: "640", "42.66667".

@@ -110,6 +110,7 @@ void MainWindow::Form_Load() {
                                  state.CurrentTip};
     ReadPreferences(platform, store, platform.windowing.screenWidthTwips() / 15,
                     platform.windowing.screenHeightTwips() / 15, placement, preferences);
+    placement = ClampToArea(placement, platform.windowing.availableArea());
     windowState = placement.state == 2 ? WindowState::Maximized : WindowState::Normal;
     left = placement.left;
     top = placement.top;

@@ -62,6 +62,7 @@ void MainWindow::PaintStatusBar() {
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
     bar.printText(w - bar.textWidth(right) - 150, 90, right);
+    c("picStatusBar").accessibleName = state.StatusBarText + ", " + right;
 }
 
 }  // namespace qh

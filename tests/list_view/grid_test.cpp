@@ -27,8 +27,12 @@ TEST(GridColumns, FixedColumnsTakePixelsAndSharesSplitTheRestOnWholePixels) {
 
 TEST(GridRows, TheBottomIsTheLastWholeRowAndTheHeaderStripIsNotARow) {
     const GridRows rows = MeasureGridRows(3355, 300, 22);
-    EXPECT_EQ(rows.bottomTwips, 3300);
+    EXPECT_EQ(rows.bottomTwips, 300 + 9 * 330);
     EXPECT_EQ(rows.rowsVisible, 9);
+    // A height whose rows end off the pitch from the top: the limit still closes the
+    // tenth row, all of which fits (the grid of a window 7470 twips high).
+    EXPECT_EQ(MeasureGridRows(3610, 300, 22).rowsVisible, 10);
+    EXPECT_EQ(MeasureGridRows(3610, 300, 22).bottomTwips, 3600);
     // One twip less and the last row no longer fits whole under the header strip.
     EXPECT_EQ(MeasureGridRows(3269, 300, 22).rowsVisible, 8);
     EXPECT_EQ(MeasureGridRows(200, 300, 22).rowsVisible, 0);
@@ -140,8 +144,8 @@ TEST_F(GridWindowTest, LayoutRulesTheEmptyLinesLightAndTheNumberColumnDark) {
     // The header strip's edge and nine row borders across, one rule down per column.
     EXPECT_EQ(rules, (std::map<std::string, int>{{"across light to " + width, 10},
                                                  {"across dark to 405", 10},
-                                                 {"down light to 3300", 8},
-                                                 {"down dark to 3300", 1}}));
+                                                 {"down light to 3270", 8},
+                                                 {"down dark to 3270", 1}}));
 }
 
 TEST_F(GridWindowTest, ScrollBarIsOffWhileTheListFitsAndSpansTheRestOtherwise) {

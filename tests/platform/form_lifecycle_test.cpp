@@ -108,6 +108,11 @@ TEST(FormLifecycle, FocusMovesWithClicksAndSetFocusAndKeysReachTheDefaultAndCanc
               "press ButtonCancel;out TextBoxNotes;in ButtonCancel;click ButtonCancel;"
               "out ButtonCancel;in TextBoxName;press ButtonOK;out TextBoxName;in ButtonOK;click ButtonOK;");
     EXPECT_EQ(window.focusRequests(), 2u);
+    // A focused button is the one Enter presses, not the default one.
+    window.log.clear();
+    window.SetFocus("ButtonCancel");
+    window.pressKey(kKeyReturn);
+    EXPECT_EQ(window.log, "out ButtonOK;in ButtonCancel;press ButtonCancel;click ButtonCancel;");
     // By place: top first, then left; frames add their own place.
     EXPECT_EQ(window.tabOrder(), (std::vector<std::string>{"TextBoxName", "TextBoxNotes", "OptionFore", "RadioDaily",
                                                            "OptionBack", "RadioWeekly", "ListSessions", "ButtonOK",

@@ -88,5 +88,33 @@ TEST(FormKit, PictureBoxCanvasesFollowTheirSizeAndZOrderMovesWithinTheWindow) {
     EXPECT_LT(window.c("ButtonOK").z, window.c("TextBoxName").z);
 }
 
+TEST(FormKit, AFieldIsNamedByTheLabelAboveOrLeftOfIt) {
+    Form form("frmFields");
+    const auto label = [&](const char* name, int left, int top, int width, const char* caption) {
+        Control& l = form.add(ControlKind::Label, name, "", left, top, width, 255);
+        l.caption = caption;
+        return &l;
+    };
+    label("LabelName", 240, 180, 3000, "Term Name");
+    form.add(ControlKind::TextBox, "TextName", "", 240, 420, 3000, 315);
+    label("LabelList", 60, 1075, 495, "List:");
+    form.add(ControlKind::ComboBox, "ComboList", "", 570, 1015, 1335, 315);
+    label("LabelFar", 240, 2000, 1000, "Too far above");
+    form.add(ControlKind::TextBox, "TextLone", "", 240, 2700, 1000, 315);
+    Control* hidden = label("LabelHidden", 240, 3300, 1000, "Hidden");
+    hidden->visible = false;
+    form.add(ControlKind::TextBox, "TextUnderHidden", "", 240, 3600, 1000, 315);
+    // Both a label above and one left: the nearer one names the field.
+    label("LabelAbove", 4000, 3400, 1000, "Above");
+    label("LabelLeft", 2900, 3700, 1000, "Left");
+    form.add(ControlKind::TextBox, "TextBoth", "", 4000, 3700, 1000, 315);
+
+    EXPECT_EQ(form.labelOf("TextName"), "Term Name");
+    EXPECT_EQ(form.labelOf("ComboList"), "List:");
+    EXPECT_EQ(form.labelOf("TextLone"), "");
+    EXPECT_EQ(form.labelOf("TextUnderHidden"), "");
+    EXPECT_EQ(form.labelOf("TextBoth"), "Above");
+}
+
 }  // namespace
 }  // namespace qh

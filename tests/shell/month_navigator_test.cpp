@@ -132,5 +132,42 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     }
 }
 
+TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSayTheirDay) {
+    window->SetFocus("picCalendar");
+    window->pressKey(kKeyRight);
+    EXPECT_EQ(clicked(), (Ymd{2026, 11, 22}));
+    // A turn over a date cell reaches the calendar it lies in: up a notch is a month back.
+    window->wheel("LabelCalDate(30)", 1);
+    EXPECT_EQ(clicked(), (Ymd{2026, 10, 22}));
+    window->wheel("LabelCalDate(30)", -2);
+    EXPECT_EQ(clicked(), (Ymd{2026, 12, 22}));
+    window->pressKey(kKeyHome);
+    EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
+
+    // Each cell says its whole date; today's, the selected one's and marked ones say so.
+    main.store.AssignmentDates.append("2026/11/24");
+    for (auto* column : {&main.store.AssignmentRecordNos, &main.store.AssignmentIDs, &main.store.AssignmentClassLinks})
+        column->append("1");
+    for (auto* column : {&main.store.AssignmentTypes, &main.store.AssignmentDifficulties, &main.store.AssignmentEstTimes,
+                         &main.store.AssignmentDescriptions, &main.store.AssignmentGrades, &main.store.AssignmentWeights})
+        column->append("");
+    main.store.AssignmentDones.append("False");
+    main.store.AssignmentReminders.append("None");
+    window->state.DisplayedMonth = 13;  // the marks are made again when the month is built anew
+    window->Refresh("Calendar");
+    const Date first = FirstCellDate(2026, 11, window->state.StartDayOfWeek);
+    const auto nameOf = [&](int day) {
+        return window->c("LabelCalDate", int(dateFromYmd(2026, 11, day) - first)).accessibleName;
+    };
+    EXPECT_EQ(nameOf(21), "Saturday, November 21, 2026, today, selected");
+    EXPECT_EQ(nameOf(24), "Tuesday, November 24, 2026, homework due");
+    EXPECT_EQ(nameOf(25), "Wednesday, November 25, 2026");
+
+    window->click("MenuReminders");
+    window->pressKey(kKeyRight);
+    window->wheel("picCalendar", 1);
+    EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
+}
+
 }  // namespace
 }  // namespace qh

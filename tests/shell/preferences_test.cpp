@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "record_store/storage_locations.h"
 #include "support/fake_platform.h"
 
@@ -83,6 +85,35 @@ TEST(Preferences, TheFileOnTheDriveIsInTheCodePageAndOptional) {
     fake.files.failPath("Preferences.ini");
     EXPECT_FALSE(WritePreferences(fake.platform, store, kCentred, {"x", "Sunday", "Yes", 1}));
     EXPECT_TRUE(fake.messages.shown.empty());
+}
+
+TEST(WindowPlacementClamp, ASavedWindowComesBackWhollyInsideTheAvailableArea) {
+    // A 1600 x 1200 screen whose task bar takes the lowest 40 pixels, in twips; the same
+    // screen at double scale offers half of each; a second screen stands to the right.
+    const Windowing::Area screen{0, 0, 24000, 17400}, doubled{0, 0, 12000, 8700}, second{24000, 0, 19200, 16200};
+    const struct {
+        const char* name;
+        WindowPlacement saved;
+        Windowing::Area area;
+        WindowPlacement restored;
+    } cases[] = {
+        {"inside stays", {0, 3000, 2000, 9600, 7215}, screen, {0, 3000, 2000, 9600, 7215}},
+        {"off the left edge", {0, -5000, 2000, 9600, 7215}, screen, {0, 0, 2000, 9600, 7215}},
+        {"off the right edge", {0, 20000, 2000, 9600, 7215}, screen, {0, 14400, 2000, 9600, 7215}},
+        {"off the top edge", {0, 3000, -900, 9600, 7215}, screen, {0, 3000, 0, 9600, 7215}},
+        {"under the task bar", {0, 3000, 15000, 9600, 7215}, screen, {0, 3000, 10185, 9600, 7215}},
+        {"saved at 1x, shown at 2x", {0, 13500, 6000, 9600, 7215}, doubled, {0, 2400, 1485, 9600, 7215}},
+        {"larger than the area at 2x", {0, 0, 0, 15000, 12000}, doubled, {0, 0, 0, 12000, 8700}},
+        {"on a screen that is gone", {0, 30000, 2000, 9600, 7215}, screen, {0, 14400, 2000, 9600, 7215}},
+        {"on the second screen", {0, 30000, 2000, 9600, 7215}, second, {0, 30000, 2000, 9600, 7215}},
+        {"maximised keeps its values", {2, -5000, -5000, 0, 0}, screen, {2, -5000, -5000, 0, 0}},
+    };
+    for (const auto& c : cases) {
+        const WindowPlacement got = ClampToArea(c.saved, c.area);
+        EXPECT_EQ(std::tie(got.state, got.left, got.top, got.width, got.height),
+                  std::tie(c.restored.state, c.restored.left, c.restored.top, c.restored.width, c.restored.height))
+            << c.name;
+    }
 }
 
 }  // namespace

@@ -27,6 +27,10 @@ TEST(Probe, RunsAScriptOnARealDriveAndPrintsWhatTheWindowShows) {
          {"Calendar: March 2027", "28*",  // 31 January, month on and held: 28 March
           "== Reminders", "Calendar: January 2027",
           "ComboDateRange: \"All\" of [Day, All, With Date, Without Date]"}},
+        // The keyboard and the wheel: a day on, a month on, a wheel notch back, Home.
+        {"clock 2026-11-21 09:05\nkey picCalendar Right\nkey picCalendar PageDown\nprint\n"
+         "wheel LabelCalDate(20) 1\nprint\nkey picCalendar Home\nprint\n",
+         {"Calendar: December 2026", "22*", "Calendar: November 2026", "22*", "21*"}},
     };
     for (const auto& c : cases) {
         FakePlatform fake;
@@ -45,6 +49,9 @@ TEST(Probe, RefusesALineItDoesNotUnderstand) {
     ProbeSession session(fake.drive, fake.host, out);
     EXPECT_FALSE(session.action("fly away"));
     EXPECT_FALSE(session.action("cell 42"));
+    EXPECT_FALSE(session.action("key picCalendar Sideways"));
+    EXPECT_FALSE(session.action("key LabelMonth Right"));  // a label takes no keys
+    EXPECT_FALSE(session.action("wheel picGrid"));
     EXPECT_TRUE(session.action("cell 41"));
 }
 

@@ -1,5 +1,8 @@
 #include "probe_session.h"
 
+#include <cctype>
+#include <map>
+
 #include <sstream>
 
 #include "calendar/date_picker.h"
@@ -331,6 +334,33 @@ bool ProbeSession::windowAction(const std::string& verb, std::istringstream& wor
         if (!form.has(name) || !words) return false;
         form.press(name, at);
         form.release(name, at);
+    } else if (verb == "key") {
+        // The keyboard: focus on NAME, then a key by its name or a letter.
+        std::string name, keyName;
+        words >> name >> keyName;
+        static const std::map<std::string, int> named{
+            {"Enter", kKeyReturn}, {"Escape", kKeyEscape}, {"Tab", kKeyTab},       {"Left", kKeyLeft},
+            {"Right", kKeyRight},  {"Up", kKeyUp},         {"Down", kKeyDown},     {"PageUp", kKeyPageUp},
+            {"PageDown", kKeyPageDown}, {"Home", kKeyHome}, {"End", kKeyEnd}};
+        int code = 0, character = 0;
+        if (auto it = named.find(keyName); it != named.end()) {
+            code = it->second;
+        } else if (keyName.size() == 1 && std::isalnum(static_cast<unsigned char>(keyName[0]))) {
+            character = keyName[0];
+            code = std::toupper(character);
+        }
+        if (!form.has(name) || code == 0) return false;
+        const Control& target = form.c(name);
+        if (!target.canTakeFocus() || !target.enabled || !target.visible) return false;
+        form.focusTo(name);
+        form.pressKey(code, character);
+    } else if (verb == "wheel") {
+        // Turns the mouse wheel over NAME: N notches, positive up.
+        std::string name;
+        int notches = 0;
+        words >> name >> notches;
+        if (!form.has(name) || !words) return false;
+        form.wheel(name, notches);
     } else if (verb == "close") {
         if (&form == window_.get()) {
             windowing_.close(form, UnloadMode::CloseBox);

@@ -1,6 +1,9 @@
 #include "platform/qt/application.h"
 
 #include <QMessageBox>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTimer>
 #include <cstdlib>
 #include <exception>
@@ -9,6 +12,25 @@ namespace qh {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv), report_(&Application::showAndEnd) {
     setApplicationName(QStringLiteral("Quillhollow"));
+    applyPlannerLook(*this);
+}
+
+void applyPlannerLook(QApplication& app) {
+    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) app.setStyle(fusion);
+    // Fusion's own light palette, with the button face of the planner's panels.
+    QPalette light = app.style()->standardPalette();
+    const QColor face(0xF0, 0xF0, 0xF0);
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        light.setColor(group, QPalette::Window, face);
+        light.setColor(group, QPalette::Button, face);
+        light.setColor(group, QPalette::Base, Qt::white);
+        light.setColor(group, QPalette::Text, Qt::black);
+        light.setColor(group, QPalette::WindowText, Qt::black);
+        light.setColor(group, QPalette::ButtonText, Qt::black);
+        light.setColor(group, QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+        light.setColor(group, QPalette::ToolTipText, Qt::black);
+    }
+    app.setPalette(light);
 }
 
 std::string Application::reportText(const std::string& what) {

@@ -9,6 +9,11 @@
 
 namespace qh {
 
+// The planner draws with its own fixed colours, so its widgets must not take a desktop's
+// dark or odd theme: one style (Fusion) and a light palette of its own, the same on every
+// desktop. Set at the start of the run, before any window.
+void applyPlannerLook(QApplication& app);
+
 class Application : public QApplication {
 public:
     Application(int& argc, char** argv);

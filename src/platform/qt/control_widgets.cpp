@@ -1,6 +1,7 @@
 #include "platform/qt/control_widgets.h"
 
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QPainter>
 #include <cmath>
 
@@ -51,8 +52,7 @@ void PaintedBox::paintEvent(QPaintEvent*) {
         drawPicture(painter, qs(control_.picture), QRectF(area));
     }
     if (!control_.caption.empty()) {
-        painter.setFont(qtFont(control_.fontName, control_.fontSize, control_.bold, control_.italic,
-                               control_.underline));
+        painter.setFont(captionFont());
         painter.setPen(isEnabled() ? qtColor(control_.foreColor) : palette().color(QPalette::Disabled, QPalette::Text));
         int flags = Qt::TextHideMnemonic;
         if (control_.kind == ControlKind::PictureBox) {
@@ -76,6 +76,28 @@ void PaintedBox::paintEvent(QPaintEvent*) {
         painter.drawLine(r.bottomLeft(), r.bottomRight());
         painter.drawLine(r.topRight(), r.bottomRight());
     }
+    if (hasFocus()) {
+        // The keyboard is here: a clear frame along the box's edge.
+        painter.setPen(QPen(QColor(0x1c, 0x5f, 0xc8), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(area).adjusted(1, 1, -1, -1));
+    }
+}
+
+QFont PaintedBox::captionFont() const {
+    QFont font = qtFont(control_.fontName, control_.fontSize, control_.bold, control_.italic, control_.underline);
+    if (control_.kind != ControlKind::Label || control_.caption.empty()) return font;
+    const int room = width() - (control_.border ? 4 : 0);
+    if (room <= 0) return font;
+    const QStringList words = qs(control_.caption).remove(QLatin1Char('&')).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (double size = font.pointSizeF(); size > 4.0; size -= 0.5) {
+        font.setPointSizeF(size);
+        const QFontMetricsF metrics(font, this);
+        bool fits = true;
+        for (const QString& word : words) fits = fits && metrics.horizontalAdvance(word) <= room;
+        if (fits) break;
+    }
+    return font;
 }
 
 void PaintedBox::mousePressEvent(QMouseEvent* event) {
@@ -96,6 +118,30 @@ void PaintedBox::mouseDoubleClickEvent(QMouseEvent* event) {
     pressed_ = true;
     if (handlers_.press) handlers_.press(mouseArgs(event));
     if (handlers_.doubleClick) handlers_.doubleClick(mouseArgs(event));
+}
+
+void PaintedBox::wheelEvent(QWheelEvent* event) {
+    // Turns of a control that doesn't take them go on to its container.
+    if (!handlers_.wheel || !handlers_.wheel(0)) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    wheelEighths_ += event->angleDelta().y();
+    const int notches = wheelEighths_ / 120;
+    if (notches == 0) return;
+    wheelEighths_ -= notches * 120;
+    handlers_.wheel(notches);
+}
+
+void PaintedBox::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void PaintedBox::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 ColorGridWidget::ColorGridWidget(QWidget* parent) : QWidget(parent) {}

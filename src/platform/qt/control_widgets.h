@@ -15,6 +15,9 @@ namespace qh {
 // Mouse gestures of a painted control, in twips inside it.
 struct MouseHandlers {
     std::function<void(const EventArgs&)> press, release, click, doubleClick;
+    // Whole notches of the wheel, positive up; false when the control doesn't take them,
+    // so that its container may. Asked with 0 notches, only tells whether it takes them.
+    std::function<bool(int notches)> wheel;
 };
 
 // A label or picture box. Paints, in this order: the back colour (when opaque), the
@@ -25,17 +28,29 @@ public:
     explicit PaintedBox(QWidget* parent);
     void setControl(const Control& control);  // what to paint; repaints
     void setHandlers(MouseHandlers handlers) { handlers_ = std::move(handlers); }
+    const Control& control() const { return control_; }
+    // Whether the model acts on a click or press on it (screen readers call it a button).
+    bool clickable() const { return clickable_; }
+    void setClickable(bool clickable) { clickable_ = clickable; }
+    // The font the caption is drawn in: the control's own, made smaller where a word of a
+    // label's caption would not fit its width, so no text is ever cut off at any scale.
+    QFont captionFont() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     Control control_;
     MouseHandlers handlers_;
     bool pressed_ = false;
+    bool clickable_ = false;
+    int wheelEighths_ = 0;  // a touchpad's part turns, until they make a notch
 };
 
 // Colour swatches in square cells of 150 twips, row by row, as many to a row as the width
@@ -75,6 +90,11 @@ public:
 protected:
     bool hitButton(const QPoint& point) const override { return rect().contains(point); }
 };
+
+// Screen readers' view of the painted boxes; installed once, before the first window.
+void installAccessibility();
+// The name a screen reader gives a control: its own, else its caption, else its tooltip.
+QString accessibleNameOf(const Control& control);
 
 // Pixels for a position in twips, and the arguments of a mouse event in twips.
 int toPixels(int twips);

@@ -3,16 +3,14 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QKeySequence>
 #include <set>
 
+#include "platform/mnemonics.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/qt_text.h"
 
 namespace qh {
-namespace {
-
-QString qs(const std::string& text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
-
-}  // namespace
 
 void FormWindow::rebuildMenus() {
     menuKeys_.clear();
@@ -71,12 +69,28 @@ void FormWindow::rebuildMenus() {
     menuBar_->setVisible(anyTopLevel);
 }
 
+// The caption of a menu control with its underlined letter among those of its level.
+QString FormWindow::menuText(const Control& control) const {
+    std::vector<std::string> captions;
+    std::size_t mine = 0;
+    for (const std::string& key : menuKeys_) {
+        const Control& other = form_.c(key);
+        if (other.container != control.container) continue;
+        if (&other == &control || other.key() == control.key()) mine = captions.size();
+        captions.push_back(other.caption);
+    }
+    const std::vector<std::string> marked = WithMnemonics(captions);
+    return mine < marked.size() ? qs(marked[mine]) : qs(control.caption);
+}
+
 void FormWindow::applyMenu(View& view, const Control& control) {
     QAction* action = view.action;
     if (!action) return;
     if (!action->isSeparator()) {
-        action->setText(qs(control.caption));
-        if (view.menu) view.menu->setTitle(qs(control.caption));
+        const QString text = menuText(control);
+        action->setText(text);
+        if (view.menu) view.menu->setTitle(text);
+        if (!view.menu) action->setShortcut(QKeySequence(qs(control.shortcut)));
         // A tick shows only where one is set; an unticked entry carries no empty box.
         if (!view.menu) {
             action->setCheckable(control.checked);

@@ -79,7 +79,7 @@ private:
         std::string caption;
         int left = 0, top = 0, clientWidth = -1, clientHeight = -1, minWidth = -1, minHeight = -1;
         WindowState state = WindowState::Normal;
-        bool visible = false, fixedSize = false, fixedFrame = false;
+        bool visible = false, fixedSize = false, fixedFrame = false, titleBar = true;
         std::string focused;
         unsigned focusRequests = 0;
     };
@@ -90,6 +90,9 @@ private:
     void applyCommon(QWidget* widget, const Control& now, const Control* before);
     void rebuildMenus();
     void applyMenu(View& view, const Control& control);
+    QString menuText(const Control& control) const;
+    void applyFocusPolicy(QWidget* widget, const Control& control);
+    void applyAccessibility(QWidget* widget, const Control& now, const Control* before);
     void applyWindow();
     void restack(const std::string& containerKey);
     void applyTabOrder();

@@ -17,6 +17,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QCursor>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
@@ -230,6 +231,15 @@ int QtWindowing::screenWidthTwips() const {
 int QtWindowing::screenHeightTwips() const {
     QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->size().height() * 15 : 0;
+}
+
+Windowing::Area QtWindowing::availableArea() const {
+    // The screen the window comes back on is where the pointer is, as a window opens.
+    QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    if (!screen) return Windowing::availableArea();
+    const QRect area = screen->availableGeometry();
+    return Area{area.left() * 15, area.top() * 15, area.width() * 15, area.height() * 15};
 }
 
 void QtWindowing::enterWhatsThisMode() { QWhatsThis::enterWhatsThisMode(); }

@@ -93,6 +93,7 @@ public:
     void paintPending() override;
     int screenWidthTwips() const override;
     int screenHeightTwips() const override;
+    Area availableArea() const override;
     void enterWhatsThisMode() override;
     void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 

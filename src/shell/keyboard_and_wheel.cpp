@@ -1,0 +1,51 @@
+// The calendar and the list grid from the keyboard and the mouse wheel. The calendar
+// moves its date as its arrows and cells do; the grid scrolls as its scroll bar does and
+// opens the row the keyboard stands on as a click on it would.
+#include "calendar/calendar_keys.h"
+#include "list_view/grid.h"
+#include "list_view/grid_keys.h"
+#include "shell/main_window.h"
+
+namespace qh {
+
+void MainWindow::bindKeyboardAndWheel() {
+    on("picCalendar", FormEvent::KeyDown, [this](const EventArgs& args) {
+        if (CurrentMode() == Mode::Reminders) return;  // the date stays today
+        if (const auto date = CalendarKeyTarget(state.CalendarDates, state.ClickedDate, args.keyCode)) {
+            state.ClickedDate = *date;
+            Refresh("Calendar");
+        }
+    });
+    on("picCalendar", FormEvent::MouseWheel, [this](const EventArgs& args) {
+        if (CurrentMode() == Mode::Reminders || args.notches == 0) return;
+        state.ClickedDate = CalendarWheelTarget(state.CalendarDates, state.ClickedDate, args.notches);
+        Refresh("Calendar");
+    });
+
+    on("picGrid", FormEvent::KeyDown, [this](const EventArgs& args) {
+        if (args.keyCode == kKeyReturn) {
+            if (state.KeyboardRow > 0) GridRowClicked(state.KeyboardRow);
+            return;
+        }
+        showGridView(GridKeyStep({state.TopRow, state.KeyboardRow}, args.keyCode, state.RowCount, state.RowsVisible));
+    });
+    on("picGrid", FormEvent::MouseWheel, [this](const EventArgs& args) {
+        showGridView(GridWheelStep({state.TopRow, state.KeyboardRow}, args.notches, state.RowCount, state.RowsVisible));
+    });
+    // The keyboard's row shows only while the grid has the keys.
+    for (FormEvent event : {FormEvent::GotFocus, FormEvent::LostFocus})
+        on("picGrid", event, [this](const EventArgs&) {
+            if (state.KeyboardRow > 0) RefillGrid();
+        });
+}
+
+void MainWindow::showGridView(const GridView& view) {
+    const GridView before{state.TopRow, state.KeyboardRow};
+    if (view == before) return;
+    state.KeyboardRow = toInt16(view.keyboardRow);
+    Control& scroll = c("VSGridScroll");
+    if (scroll.enabled) scroll.value = view.topRow;
+    RefillGrid();
+}
+
+}  // namespace qh

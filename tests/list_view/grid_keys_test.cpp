@@ -1,0 +1,114 @@
+// The grid from the keyboard and the wheel, and the rows a scrolled grid paints at the
+// window heights where the last one once stayed blank.
+#include "list_view/grid_keys.h"
+
+#include <gtest/gtest.h>
+
+#include "list_view/list_fixture.h"
+
+namespace qh {
+namespace {
+
+using namespace qh::testing;
+
+TEST(GridKeys, EachKeyMovesTheRowAndTheTopWithinTheList) {
+    // A list of 60 rows in a grid of 10: the scroll bar reaches top 51.
+    const struct {
+        const char* name;
+        GridView from;
+        int key;
+        GridView to;
+    } steps[] = {
+        {"the first Down shows the row on top", {1, 0}, kKeyDown, {1, 1}},
+        {"Down moves the row", {1, 4}, kKeyDown, {1, 5}},
+        {"Down at the last visible row scrolls by one", {1, 10}, kKeyDown, {2, 10}},
+        {"Down at the end of the list stays", {51, 10}, kKeyDown, {51, 10}},
+        {"Up at the top row scrolls back", {7, 1}, kKeyUp, {6, 1}},
+        {"Up at the first position stays", {1, 1}, kKeyUp, {1, 1}},
+        {"Page Down scrolls a page less a row", {1, 3}, kKeyPageDown, {10, 3}},
+        {"Page Down near the end lands on the last row", {48, 3}, kKeyPageDown, {51, 10}},
+        {"Page Up near the top lands on the first row", {4, 6}, kKeyPageUp, {1, 1}},
+        {"Home", {30, 7}, kKeyHome, {1, 1}},
+        {"End", {3, 2}, kKeyEnd, {51, 10}},
+        {"a key the grid doesn't take", {3, 2}, 'A', {3, 2}},
+    };
+    for (const auto& step : steps) EXPECT_EQ(GridKeyStep(step.from, step.key, 60, 10), step.to) << step.name;
+
+    // A list shorter than the grid: End stands on its last row, the top stays 1.
+    EXPECT_EQ(GridKeyStep({1, 1}, kKeyEnd, 4, 10), (GridView{1, 4}));
+    EXPECT_EQ(GridKeyStep({1, 4}, kKeyDown, 4, 10), (GridView{1, 4}));
+    // An empty list has no row to stand on.
+    EXPECT_EQ(GridKeyStep({1, 0}, kKeyDown, 0, 10), (GridView{1, 0}));
+    // A list that shrank under the row: the row comes back onto the list.
+    EXPECT_EQ(ClampGridView({40, 9}, 45, 10), (GridView{36, 9}));
+    EXPECT_EQ(ClampGridView({1, 9}, 3, 10), (GridView{1, 3}));
+}
+
+TEST(GridKeys, TheWheelScrollsThreeRowsANotchAsFarAsTheScrollBarReaches) {
+    EXPECT_EQ(GridWheelStep({1, 2}, -1, 60, 10), (GridView{4, 2}));
+    EXPECT_EQ(GridWheelStep({10, 0}, 2, 60, 10), (GridView{4, 0}));
+    EXPECT_EQ(GridWheelStep({50, 0}, -1, 60, 10), (GridView{51, 0}));
+    EXPECT_EQ(GridWheelStep({2, 0}, 1, 60, 10), (GridView{1, 0}));
+    EXPECT_EQ(GridWheelStep({1, 0}, -5, 8, 10), (GridView{1, 0}));  // all of it shows
+}
+
+// Sixty tasks in a window 7470 twips high: ten whole rows under the header strip.
+class TallTaskList : public ::testing::Test {
+protected:
+    TallTaskList() : list(Mode::Tasks) {
+        list.filters("All", "All");
+        for (int i = 1; i <= 60; ++i) addTask(list.store, {.description = "Task " + std::to_string(i)});
+        list.window.setOuterSize(9600, 7470);
+        list.build();
+        list.window.UpdateGridScroll();
+        list.build();
+    }
+    ListWindow list;
+};
+
+TEST_F(TallTaskList, TheLastRowOfAScrolledGridIsPaintedAndSpoken) {
+    ASSERT_EQ(list.window.state.RowsVisible, 10);
+    list.window.scrollTo("VSGridScroll", list.window.c("VSGridScroll").maximum);
+    EXPECT_EQ(list.window.state.TopRow, 51);
+    EXPECT_EQ(list.cell(10, 0), "60");
+    EXPECT_EQ(list.cell(10, 1), " Task 60");
+    // A screen reader has each painted row by its position and texts.
+    const std::vector<std::string>& rows = list.window.c("picGrid").items;
+    ASSERT_EQ(rows.size(), 10u);
+    EXPECT_EQ(rows.back().substr(0, 12), "60, Task 60,");
+}
+
+TEST_F(TallTaskList, KeysMoveAFramedRowThatEnterOpensAndTheWheelScrolls) {
+    MainWindow& window = list.window;
+    const auto framedRows = [&] {
+        int lines = 0;
+        for (const CanvasCall& call : list.grid().calls())
+            if (call.kind == CanvasCall::Line && call.color == kKeyboardRowFrame) ++lines;
+        return lines;
+    };
+    window.SetFocus("picGrid");
+    window.pressKey(kKeyEnd);
+    EXPECT_EQ(window.state.TopRow, 51);
+    EXPECT_EQ(window.state.KeyboardRow, 10);
+    EXPECT_EQ(window.c("VSGridScroll").value, 51);  // the bar follows
+    EXPECT_EQ(framedRows(), 8);                     // two lines on each side of one row
+    window.pressKey(kKeyUp);
+    EXPECT_EQ(window.state.KeyboardRow, 9);
+
+    // Off the grid the frame goes; back on it, it shows again on the same row.
+    window.SetFocus("ComboList");
+    EXPECT_EQ(framedRows(), 0);
+    window.SetFocus("picGrid");
+    EXPECT_EQ(framedRows(), 8);
+
+    window.wheel("picGrid", 2);
+    EXPECT_EQ(window.state.TopRow, 45);
+    EXPECT_EQ(window.c("VSGridScroll").value, 45);
+    // Enter opens the record of the framed row as a click on it would: its number, 53
+    // here, printed with the row, then white on black while the editor is open, then plain.
+    window.pressKey(kKeyReturn);
+    EXPECT_EQ(list.cell(9, 0), "53|53|53");
+}
+
+}  // namespace
+}  // namespace qh
