@@ -24,6 +24,14 @@ void Form::setOuterSize(int widthTwips, int heightTwips) {
     scaleHeight = std::max(0, height - kFrameHeight - (hasMenuBar() ? kMenuBarHeight : 0));
 }
 
+void Form::centreOver(const Form& owner, int areaLeft, int areaTop, int areaWidth, int areaHeight) {
+    const auto inside = [](int position, int size, int start, int length) {
+        return std::max(start, std::min(position, start + length - size));
+    };
+    left = inside(owner.left + (owner.width - width) / 2, width, areaLeft, areaWidth);
+    top = inside(owner.top + (owner.height - height) / 2, height, areaTop, areaHeight);
+}
+
 Control& Form::add(ControlKind kind, const std::string& name, const std::string& container, int left, int top,
                    int width, int height, int index) {
     auto control = std::make_unique<Control>();

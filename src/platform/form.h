@@ -73,6 +73,9 @@ public:
 
     // Sets the outer size and derives the client area as the renderer will give it.
     void setOuterSize(int widthTwips, int heightTwips);
+    // Places the window over the middle of `owner`, kept inside the area given (the
+    // screen's usable part), as a dialog opens over the window that asked for it.
+    void centreOver(const Form& owner, int areaLeft, int areaTop, int areaWidth, int areaHeight);
     static constexpr int kFrameWidth = 120;    // borders, both sides
     static constexpr int kFrameHeight = 510;   // title bar and borders
     static constexpr int kMenuBarHeight = 300;

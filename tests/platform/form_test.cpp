@@ -116,5 +116,30 @@ TEST(FormKit, AFieldIsNamedByTheLabelAboveOrLeftOfIt) {
     EXPECT_EQ(form.labelOf("TextBoth"), "Above");
 }
 
+// A dialog opens over the middle of its owner, but never off the usable screen: a main
+// window pushed to an edge or a dialog larger than the screen still shows its top left.
+TEST(FormKit, ADialogOpensCentredOverItsOwnerAndInsideTheScreen) {
+    const struct {
+        const char* name;
+        int ownerLeft, ownerTop, dialogWidth, dialogHeight, left, top;
+    } cases[] = {
+        {"centred", 3000, 1500, 4000, 3000, 5800, 3600},
+        {"owner at the right edge", 14000, 1500, 4000, 3000, 15000, 3600},
+        {"owner above the top", 3000, -4000, 4000, 3000, 5800, 300},
+        {"dialog larger than the screen", 3000, 1500, 30000, 20000, 0, 300},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Form owner("frmMain"), dialog("frmDialog");
+        owner.left = c.ownerLeft;
+        owner.top = c.ownerTop;
+        owner.setOuterSize(9600, 7200);
+        dialog.setOuterSize(c.dialogWidth, c.dialogHeight);
+        dialog.centreOver(owner, 0, 300, 19000, 12000);
+        EXPECT_EQ(dialog.left, c.left);
+        EXPECT_EQ(dialog.top, c.top);
+    }
+}
+
 }  // namespace
 }  // namespace qh

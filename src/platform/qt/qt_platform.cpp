@@ -233,6 +233,14 @@ int QtWindowing::screenHeightTwips() const {
     return screen ? screen->size().height() * 15 : 0;
 }
 
+void QtWindowing::showModal(Form& form, Form* owner) {
+    if (owner) {
+        const Area area = availableArea();
+        form.centreOver(*owner, area.left, area.top, area.width, area.height);
+    }
+    renderer_.showModal(form, owner);
+}
+
 Windowing::Area QtWindowing::availableArea() const {
     // The screen the window comes back on is where the pointer is, as a window opens.
     QScreen* screen = QGuiApplication::screenAt(QCursor::pos());

@@ -87,7 +87,7 @@ class QtWindowing : public Windowing {
 public:
     QtWindowing(FormRenderer& renderer, PrinterChoice& choice) : renderer_(renderer), choice_(choice) {}
     void show(Form& form) override { renderer_.show(form); }
-    void showModal(Form& form, Form* owner) override { renderer_.showModal(form, owner); }
+    void showModal(Form& form, Form* owner) override;
     void close(Form& form, UnloadMode mode) override { renderer_.close(form, mode); }
     void processEvents() override;
     void paintPending() override;
