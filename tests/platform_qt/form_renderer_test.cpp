@@ -163,6 +163,9 @@ TEST_F(FormRendererTest, ControlsAppearAsNamedWidgetsPlacedAndStackedByTheModel)
     EXPECT_FALSE(widget<QComboBox>("ComboList")->isEditable());
     EXPECT_EQ(widget<QComboBox>("ComboList")->currentText(), "All");
     EXPECT_EQ(widget<QLineEdit>("TextBoxName")->maxLength(), 8);
+    // A disabled box's text fades into its background, whatever colours the model gave it.
+    const QPalette names = widget("TextBoxName")->palette();
+    EXPECT_NE(names.color(QPalette::Disabled, QPalette::Text), names.color(QPalette::Active, QPalette::Text));
     EXPECT_EQ(widget<QListWidget>("ListBoxSessions")->count(), 2);
     EXPECT_EQ(widget<QScrollBar>("VSGridScroll")->pageStep(), 3);
     EXPECT_FALSE(widget("LabelHidden")->isVisible());

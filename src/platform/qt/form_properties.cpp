@@ -60,8 +60,14 @@ QString wrappedCaption(const Control& control, const QFontMetrics& metrics) {
 
 void setColors(QWidget* widget, const Control& control, QPalette::ColorRole back, QPalette::ColorRole fore) {
     QPalette palette = widget->palette();
-    palette.setColor(back, qtColor(control.backColor));
-    palette.setColor(fore, qtColor(control.foreColor));
+    const QColor backColor = qtColor(control.backColor), foreColor = qtColor(control.foreColor);
+    palette.setColor(back, backColor);
+    palette.setColor(fore, foreColor);
+    // A control that takes no input shows its text faded halfway into its background, so
+    // a disabled box holding text never looks like one to type in.
+    palette.setColor(QPalette::Disabled, fore,
+                     QColor((foreColor.red() + backColor.red()) / 2, (foreColor.green() + backColor.green()) / 2,
+                            (foreColor.blue() + backColor.blue()) / 2));
     widget->setPalette(palette);
 }
 
