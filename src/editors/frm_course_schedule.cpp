@@ -65,8 +65,8 @@ void FrmCourseSchedule::buildControls() {
     const auto button = [this](const std::string& name, int left, int top, int width, const std::string& text) {
         add(ControlKind::CommandButton, name, "", left, top, width, 375).caption = text;
     };
-    label("LabelTermName", 240, 180, 3000, "Term Name");
-    add(ControlKind::TextBox, "TextBoxTermName", "", 240, 420, 6120, 315).border = true;
+    label("LabelTermName", 240, 120, 3000, "Term Name");
+    add(ControlKind::TextBox, "TextBoxTermName", "", 240, 360, 6120, 315).border = true;
     label("LabelStartDate", 240, 720, 3000, "Start Date");
     label("LabelEndDate", 3720, 720, 2640, "End Date");
     for (const auto& [box, pick, left, width] :
