@@ -6,6 +6,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
 
 namespace qh {
@@ -78,7 +79,22 @@ bool FormRenderer::close(Form& form, UnloadMode mode) {
 }
 
 void FormRenderer::forward(const std::function<void()>& gesture) {
-    gesture();
+    // The toolkit's own frames lie under every gesture and are not built to be unwound: a
+    // failure of the model is reported here, before it could pass through them.
+    auto* application = dynamic_cast<Application*>(QCoreApplication::instance());
+    if (!application) {
+        gesture();
+    } else {
+        try {
+            gesture();
+        } catch (const std::exception& failure) {
+            application->fail(failure.what());
+            return;
+        } catch (...) {
+            application->fail(std::string());
+            return;
+        }
+    }
     syncAll();
 }
 
