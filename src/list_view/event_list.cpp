@@ -4,11 +4,11 @@
 #include <array>
 
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "list_view/list_sort.h"
 #include "list_view/time_text.h"
 #include "recurrence/occurrence.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -23,15 +23,15 @@ std::string unlessNone(const std::string& value) { return value == "None" ? std:
 
 // The time of an event in the "Medium Time" format; a text that reads as no time of day
 // is shown as it stands.
-std::string mediumTimeOf(const MainWindow& window, const std::string& field) {
+std::string mediumTimeOf(const ListHost& window, const std::string& field) {
     if (field == "None") return {};
     const auto seconds = ParseTimeOfDay(field);
-    return seconds ? window.platform.locale.mediumTime(*seconds) : field;
+    return seconds ? window.locale.mediumTime(*seconds) : field;
 }
 
-void showSummary(MainWindow& window, const EventRows& rows) {
-    Control& classes = window.c("TextBoxClasses");
-    Control& others = window.c("TextBoxOtherEvents");
+void showSummary(const ListHost& window, const EventRows& rows) {
+    Control& classes = window.form.c("TextBoxClasses");
+    Control& others = window.form.c("TextBoxOtherEvents");
     classes.text = std::to_string(rows.EventClassCount);
     others.text = std::to_string(rows.EventOtherCount);
     // Events are neither open nor done: the boxes only count.
@@ -53,20 +53,20 @@ EventRows GatherEvents(const RecordStore& store, Date date, std::string_view fil
     return rows;
 }
 
-void BuildEventList(MainWindow& window) {
+void BuildEventList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& list = window.c("ComboList").text;
-    const std::string& range = window.c("ComboDateRange").text;
-    const Locale& locale = window.platform.locale;
+    const std::string& list = window.form.c("ComboList").text;
+    const std::string& range = window.form.c("ComboDateRange").text;
+    const Locale& locale = window.locale;
     EventRows rows;
     if (range == "Day") {
         rows = GatherEvents(store, state.ClickedDate, list);
-        window.c("LabelTop").caption = "Events for " + locale.longDate(state.ClickedDate);
+        window.form.c("LabelTop").caption = "Events for " + locale.longDate(state.ClickedDate);
     } else {
         rows = ExpandEvents(store, state.ClickedDate, range, list);
         // The title names the last date the range holds.
-        window.c("LabelTop").caption = "Events until " + locale.longDate(EventRangeEnd(state.ClickedDate, range));
+        window.form.c("LabelTop").caption = "Events until " + locale.longDate(EventRangeEnd(state.ClickedDate, range));
     }
     showSummary(window, rows);
 
@@ -78,7 +78,7 @@ void BuildEventList(MainWindow& window) {
     state.ListEventForeColors = std::move(rows.ListEventForeColors);
     state.ListEventBackColors = std::move(rows.ListEventBackColors);
     state.RowCount = toInt16(state.ListEventRows.count());
-    window.UpdateGridScroll();
+    window.updateGridScroll();
 
     PaintList(window, kTitles, [&](int p) {
         const int r = state.ListEventRows(p);

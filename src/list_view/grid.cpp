@@ -8,9 +8,9 @@
 
 #include "common/text.h"
 #include "list_view/grid_keys.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -35,8 +35,8 @@ std::size_t lastCharacterStart(const std::string& text) {
 
 std::string GridHeaderKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
 
-GridRows CurrentGridRows(const MainWindow& window) {
-    return MeasureGridRows(window.c("picGrid").canvas->scaleHeight(), window.c(GridHeaderKey(0)).height,
+GridRows CurrentGridRows(const ListHost& window) {
+    return MeasureGridRows(window.form.c("picGrid").canvas->scaleHeight(), window.form.c(GridHeaderKey(0)).height,
                            window.state.RowPitch);
 }
 
@@ -203,10 +203,10 @@ std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
     return "GridTitle";
 }
 
-GridFrame CurrentGridFrame(const MainWindow& window, int columnCount) {
+GridFrame CurrentGridFrame(const ListHost& window, int columnCount) {
     GridFrame frame;
     for (int i = 0; i < columnCount && i < kHeaderCount; ++i) {
-        const Control& header = window.c(GridHeaderKey(i));
+        const Control& header = window.form.c(GridHeaderKey(i));
         frame.columns.push_back({header.left, header.width});
     }
     frame.headerHeight = window.state.HeaderHeight;
@@ -215,13 +215,13 @@ GridFrame CurrentGridFrame(const MainWindow& window, int columnCount) {
     return frame;
 }
 
-void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
+void PaintGridHeaders(const ListHost& window, std::span<const char* const> titles) {
     CanvasFont font;
     font.name = "Verdana";
     font.size = 8;
     font.bold = true;
     for (std::size_t c = 0; c < titles.size() && c < std::size_t(kHeaderCount); ++c) {
-        Control& header = window.c(GridHeaderKey(int(c)));
+        Control& header = window.form.c(GridHeaderKey(int(c)));
         header.picture = HeaderPicture(int(c), window.state.SortColumn, window.state.SortDirection);
         Canvas& canvas = *header.canvas;
         canvas.clear(header.backColor);
@@ -233,40 +233,41 @@ void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles) {
     }
 }
 
-Color RowColor(const MainWindow& window, const std::string& name, Color fallback) {
+Color RowColor(const ListHost& window, const std::string& name, Color fallback) {
     if (name.empty()) return fallback;
-    return window.colors->ColorValues(name);
+    return window.colors.ColorValues(name);
 }
 
-std::string MediumDateOf(const MainWindow& window, const std::string& field) {
+std::string MediumDateOf(const ListHost& window, const std::string& field) {
     const auto date = parseDateText(field);
-    return date ? window.platform.locale.mediumDate(*date) : field;
+    return date ? window.locale.mediumDate(*date) : field;
 }
 
-void LayoutModeGrid(MainWindow& window, Mode mode) {
+void LayoutModeGrid(const ListHost& window, Mode mode) {
     const std::span<const float> table = GridWidthTable(mode);
     if (table.empty()) return;
     const int n = int(table.size());
     for (int i = 0; i < kHeaderCount; ++i) {
-        Control& header = window.c(GridHeaderKey(i));
+        Control& header = window.form.c(GridHeaderKey(i));
         header.visible = header.enabled = i < n;
     }
 
     window.state.GridMargin = 100;
-    const Control& statusBar = window.c("picStatusBar");
-    const int gridWidth = std::max(0, window.scaleWidth - 200);
-    const int gridHeight = std::max(0, window.scaleHeight - kGridTop - statusBar.height - 100);
-    window.move("picGrid", 100, kGridTop, gridWidth, gridHeight);
-    window.bringToFront("picGrid");
-    Canvas& canvas = *window.c("picGrid").canvas;
+    const Control& statusBar = window.form.c("picStatusBar");
+    const int gridWidth = std::max(0, window.form.scaleWidth - 200);
+    const int gridHeight = std::max(0, window.form.scaleHeight - kGridTop - statusBar.height - 100);
+    window.form.move("picGrid", 100, kGridTop, gridWidth, gridHeight);
+    window.form.bringToFront("picGrid");
+    Canvas& canvas = *window.form.c("picGrid").canvas;
 
-    Control& scroll = window.c("VSGridScroll");
-    window.move("VSGridScroll", canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
+    Control& scroll = window.form.c("VSGridScroll");
+    window.form.move("VSGridScroll", canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
 
-    const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.c("picGrid").width, scroll.width);
+    const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.form.c("picGrid").width, scroll.width);
     for (int i = 0; i < n; ++i) {
-        Control& header = window.c(GridHeaderKey(i));
-        window.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width, header.height);
+        Control& header = window.form.c(GridHeaderKey(i));
+        window.form.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width,
+                         header.height);
         header.picture = "GridTitle";
     }
 
@@ -285,22 +286,23 @@ void LayoutModeGrid(MainWindow& window, Mode mode) {
     window.state.GridBottom = toInt16(rows.gridBottom());
     window.state.RowsVisible = toInt16(rows.rowsVisible);
 
-    window.bringToFront("picGrid");
-    window.move("picStatusBar", 0, window.scaleHeight - kStatusBarHeight, window.scaleWidth, kStatusBarHeight);
-    window.bringToFront("picStatusBar");
-    window.PaintStatusBar();
+    window.form.bringToFront("picGrid");
+    window.form.move("picStatusBar", 0, window.form.scaleHeight - kStatusBarHeight, window.form.scaleWidth,
+                     kStatusBarHeight);
+    window.form.bringToFront("picStatusBar");
+    window.paintStatusBar();
 }
 
-void PaintList(MainWindow& window, std::span<const char* const> titles,
+void PaintList(const ListHost& window, std::span<const char* const> titles,
                const std::function<GridRow(int position)>& rowAt) {
     PaintGridHeaders(window, titles);
     const GridFrame frame = CurrentGridFrame(window, int(titles.size()));
-    Control& grid = window.c("picGrid");
+    Control& grid = window.form.c("picGrid");
     grid.items = PaintGridRows(*grid.canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
     const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
                                         window.state.RowsVisible);
     window.state.KeyboardRow = toInt16(view.keyboardRow);
-    if (window.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
+    if (window.form.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
 }
 
 }  // namespace qh

@@ -25,7 +25,7 @@
 namespace qh {
 
 class Canvas;
-class MainWindow;
+struct ListHost;
 
 inline constexpr int kScrollBarWidth = 255;  // twips; the strip at the grid's right edge
 inline constexpr int kGridTop = 2650;        // twips from the top of the window's client area
@@ -134,27 +134,27 @@ inline constexpr Color kKeyboardRowFrame = rgb(28, 95, 200);
 std::string HeaderPicture(int column, int sortColumn, int sortDirection);
 
 // ---------------------------------------------------------------------------------------
-// Window glue, used by the list builders.
+// Window glue, used by the list builders; the window is seen through a ListHost.
 
 // The key of header c ("picColHeader(c)").
 std::string GridHeaderKey(int index);
 // The vertical measures of the grid as the window stands.
-GridRows CurrentGridRows(const MainWindow& window);
+GridRows CurrentGridRows(const ListHost& window);
 // The frame of the grid as the last layout left it, for a list of `columnCount` columns.
-GridFrame CurrentGridFrame(const MainWindow& window, int columnCount);
+GridFrame CurrentGridFrame(const ListHost& window, int columnCount);
 // Sets the header pictures and prints the titles, "Verdana" 8 bold, black.
-void PaintGridHeaders(MainWindow& window, std::span<const char* const> titles);
+void PaintGridHeaders(const ListHost& window, std::span<const char* const> titles);
 // The value of a colour name of the vocabulary; an empty name (a row column that ran
 // short) gives `fallback`.
-Color RowColor(const MainWindow& window, const std::string& name, Color fallback);
+Color RowColor(const ListHost& window, const std::string& name, Color fallback);
 // Runs the layout of a mode (no-op for Mode::None).
-void LayoutModeGrid(MainWindow& window, Mode mode);
+void LayoutModeGrid(const ListHost& window, Mode mode);
 // Paints the headers and the visible rows of the current list, after UpdateGridScroll.
-void PaintList(MainWindow& window, std::span<const char* const> titles,
+void PaintList(const ListHost& window, std::span<const char* const> titles,
                const std::function<GridRow(int position)>& rowAt);
 
 // The date text of a record field in the "Medium Date" format; a field that holds no date
 // is shown as it stands.
-std::string MediumDateOf(const MainWindow& window, const std::string& field);
+std::string MediumDateOf(const ListHost& window, const std::string& field);
 
 }  // namespace qh

@@ -4,10 +4,10 @@
 #include <array>
 
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "list_view/list_sort.h"
 #include "list_view/record_index.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -33,10 +33,10 @@ void appendClasses(const RowsById& classes, const RecordStore& store, Int16 clas
     });
 }
 
-void showSummary(MainWindow& window, const HomeworkRows& rows) {
-    Control& total = window.c("TextBoxTotalAssignments");
-    Control& unfinished = window.c("TextBoxFinishedAssignments");
-    Control& left = window.c("TextBoxTimeRemaining");
+void showSummary(const ListHost& window, const HomeworkRows& rows) {
+    Control& total = window.form.c("TextBoxTotalAssignments");
+    Control& unfinished = window.form.c("TextBoxFinishedAssignments");
+    Control& left = window.form.c("TextBoxTimeRemaining");
     total.text = std::to_string(rows.HomeworkTotal);
     unfinished.text = std::to_string(rows.HomeworkUnfinished);
     left.text = rows.HomeworkTimeLeft;
@@ -99,32 +99,32 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
     return rows;
 }
 
-void BuildHomeworkList(MainWindow& window) {
+void BuildHomeworkList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& list = window.c("ComboList").text;
+    const std::string& list = window.form.c("ComboList").text;
     HomeworkRows rows;
     std::string title;
-    if (window.c("ComboDateRange").text == "Day") {
+    if (window.form.c("ComboDateRange").text == "Day") {
         rows = GatherHomework(store, state.ClickedDate, list);
-        title = "Homework for " + window.platform.locale.longDate(state.ClickedDate);
+        title = "Homework for " + window.locale.longDate(state.ClickedDate);
     } else {
         rows = GatherHomework(store, kAllDatesSentinel, list);
         title = "Homework for " + store.CurrentTermName;
     }
     // Only the active term's assignments are in memory: without a term there is nothing
     // to name.
-    window.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
+    window.form.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
     showSummary(window, rows);
 
-    SortHomeworkList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale, &state.ListSortRanks);
+    SortHomeworkList(rows, store, state.SortColumn, state.SortDirection, window.locale, &state.ListSortRanks);
     state.ListAssignmentRows = std::move(rows.ListAssignmentRows);
     state.ListTimes = std::move(rows.ListTimes);
     state.ListClassNames = std::move(rows.ListClassNames);
     state.ListForeColors = std::move(rows.ListForeColors);
     state.ListBackColors = std::move(rows.ListBackColors);
     state.RowCount = toInt16(state.ListAssignmentRows.count());
-    window.UpdateGridScroll();
+    window.updateGridScroll();
 
     PaintList(window, kTitles, [&](int p) {
         const int r = state.ListAssignmentRows(p);

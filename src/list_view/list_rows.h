@@ -28,7 +28,7 @@
 
 namespace qh {
 
-class MainWindow;
+struct ListHost;
 
 // 1953-08-12: given as the filter date, a gatherer applies no date filter. A real filter
 // date of that day can't be told from it.
@@ -62,7 +62,7 @@ struct HomeworkRows {
 HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_view listChoice);
 
 // Gathers for the filters of the window, shows the summary, sorts, keeps and paints.
-void BuildHomeworkList(MainWindow& window);
+void BuildHomeworkList(const ListHost& window);
 
 // --- Study sessions -------------------------------------------------------------------
 
@@ -78,7 +78,7 @@ struct StudySessionRows {
 // The sessions done on `date` (or all, with kAllDatesSentinel) whose link is not -1.
 // Deleted assignments are not looked at: only the link -1 takes a session out.
 StudySessionRows GatherStudySessions(const RecordStore& store, Date date);
-void BuildStudySessionList(MainWindow& window);
+void BuildStudySessionList(const ListHost& window);
 
 // --- Tasks ----------------------------------------------------------------------------
 
@@ -91,14 +91,14 @@ struct TaskRows {
 // `dateRange`: "Day" (dated tasks of `date`), "All", "With Date", "Without Date";
 // `listChoice`: "All", "Done", "Not Done". Deleted tasks are never counted.
 TaskRows GatherTasks(const RecordStore& store, Date date, std::string_view dateRange, std::string_view listChoice);
-void BuildTaskList(MainWindow& window);
+void BuildTaskList(const ListHost& window);
 
 // --- Events and reminders -------------------------------------------------------------
 
 // The occurrences of one day, counted before `filter` ("All", "Classes", "Other Events").
 EventRows GatherEvents(const RecordStore& store, Date date, std::string_view filter);
-void BuildEventList(MainWindow& window);
-void BuildReminderList(MainWindow& window);
+void BuildEventList(const ListHost& window);
+void BuildReminderList(const ListHost& window);
 
 // "Tomorrow", "Today", "Yesterday", "n Days", "n Days Ago".
 std::string DateWord(int days);

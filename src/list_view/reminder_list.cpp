@@ -5,9 +5,9 @@
 #include <cstdlib>
 
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "list_view/list_sort.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -16,10 +16,10 @@ const std::string kNoText;
 
 constexpr std::array<const char*, 7> kTitles{"#", "For", "Class", "Type", "Description", "When", "Date"};
 
-void showSummary(MainWindow& window, const ReminderRows& rows) {
-    Control& assignments = window.c("TextBoxAssignments");
-    Control& tasks = window.c("TextBoxTasks");
-    Control& events = window.c("TextBoxEvents");
+void showSummary(const ListHost& window, const ReminderRows& rows) {
+    Control& assignments = window.form.c("TextBoxAssignments");
+    Control& tasks = window.form.c("TextBoxTasks");
+    Control& events = window.form.c("TextBoxEvents");
     assignments.text = std::to_string(rows.HomeworkReminderCount);
     tasks.text = std::to_string(rows.TaskReminderCount);
     events.text = std::to_string(rows.EventReminderCount);
@@ -60,18 +60,18 @@ std::string DateWord(int days) {
     return std::to_string(std::abs(days)) + " Days Ago";
 }
 
-void BuildReminderList(MainWindow& window) {
+void BuildReminderList(const ListHost& window) {
     MainWindowState& state = window.state;
-    const Locale& locale = window.platform.locale;
+    const Locale& locale = window.locale;
     // The filter is applied while gathering, after counting: the boxes count every kind.
-    ReminderRows rows = GatherReminders(window.store, state.ClickedDate, window.c("ComboList").text);
-    window.c("LabelTop").caption = "Reminders for " + locale.longDate(state.ClickedDate);
+    ReminderRows rows = GatherReminders(window.store, state.ClickedDate, window.form.c("ComboList").text);
+    window.form.c("LabelTop").caption = "Reminders for " + locale.longDate(state.ClickedDate);
     showSummary(window, rows);
 
     SortReminderList(rows, state.SortColumn, state.SortDirection, locale, &state.ListSortRanks);
     keepRows(state, rows);
     state.RowCount = toInt16(state.ReminderRecords.count());
-    window.UpdateGridScroll();
+    window.updateGridScroll();
 
     PaintList(window, kTitles, [&](int p) {
         GridRow row;

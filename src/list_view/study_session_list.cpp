@@ -3,10 +3,10 @@
 #include <array>
 
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "list_view/list_sort.h"
 #include "list_view/record_index.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -64,27 +64,26 @@ StudySessionRows GatherStudySessions(const RecordStore& store, Date date) {
     return rows;
 }
 
-void BuildStudySessionList(MainWindow& window) {
+void BuildStudySessionList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
     StudySessionRows rows;
     std::string title;
-    if (window.c("ComboDateRange").text == "Day") {
+    if (window.form.c("ComboDateRange").text == "Day") {
         rows = GatherStudySessions(store, state.ClickedDate);
-        title = "Study on " + window.platform.locale.longDate(state.ClickedDate);
+        title = "Study on " + window.locale.longDate(state.ClickedDate);
     } else {
         rows = GatherStudySessions(store, kAllDatesSentinel);
         title = "Study for " + store.CurrentTermName;
     }
-    window.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
-    Control& sessions = window.c("TextBoxStudySessions");
-    Control& time = window.c("TextBoxStudyTime");
+    window.form.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
+    Control& sessions = window.form.c("TextBoxStudySessions");
+    Control& time = window.form.c("TextBoxStudyTime");
     sessions.text = std::to_string(rows.ListSessionRows.count());
     time.text = rows.StudyTimeTotal;
     sessions.backColor = time.backColor = kWhite;
 
-    SortStudySessionList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale,
-                         &state.ListSortRanks);
+    SortStudySessionList(rows, store, state.SortColumn, state.SortDirection, window.locale, &state.ListSortRanks);
     state.ListSessionRows = std::move(rows.ListSessionRows);
     state.ListSessionLengthRows = std::move(rows.ListSessionLengthRows);
     state.ListSessionDateRows = std::move(rows.ListSessionDateRows);
@@ -93,7 +92,7 @@ void BuildStudySessionList(MainWindow& window) {
     state.ListForeColors = std::move(rows.ListForeColors);
     state.ListBackColors = std::move(rows.ListBackColors);
     state.RowCount = toInt16(state.ListSessionRows.count());
-    window.UpdateGridScroll();
+    window.updateGridScroll();
 
     PaintList(window, kTitles, [&](int p) {
         // A session whose assignment is gone leaves this column short: its row shows no

@@ -2,10 +2,10 @@
 #include <array>
 
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "list_view/list_sort.h"
 #include "recurrence/type_colors.h"
-#include "shell/main_window.h"
 
 namespace qh {
 namespace {
@@ -52,24 +52,24 @@ TaskRows GatherTasks(const RecordStore& store, Date date, std::string_view dateR
     return rows;
 }
 
-void BuildTaskList(MainWindow& window) {
+void BuildTaskList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& range = window.c("ComboDateRange").text;
-    const std::string& list = window.c("ComboList").text;
+    const std::string& range = window.form.c("ComboDateRange").text;
+    const std::string& list = window.form.c("ComboList").text;
     TaskRows rows;
     // Tasks belong to no term: the title never depends on one.
     if (range == "Day") {
         rows = GatherTasks(store, state.ClickedDate, range, list);
-        window.c("LabelTop").caption = "Tasks for " + window.platform.locale.longDate(state.ClickedDate);
+        window.form.c("LabelTop").caption = "Tasks for " + window.locale.longDate(state.ClickedDate);
     } else {
         rows = GatherTasks(store, kAllDatesSentinel, range, list);
-        window.c("LabelTop").caption = range == "All"         ? "All Tasks"
-                                       : range == "With Date" ? "All Tasks with Dates"
-                                                              : "All Tasks without Dates";
+        window.form.c("LabelTop").caption = range == "All"         ? "All Tasks"
+                                            : range == "With Date" ? "All Tasks with Dates"
+                                                                   : "All Tasks without Dates";
     }
-    Control& total = window.c("TextBoxTotalTasks");
-    Control& unfinished = window.c("TextBoxFinishedTasks");
+    Control& total = window.form.c("TextBoxTotalTasks");
+    Control& unfinished = window.form.c("TextBoxFinishedTasks");
     total.text = std::to_string(rows.TaskTotal);
     unfinished.text = std::to_string(rows.TaskUnfinished);
     total.backColor = kWhite;
@@ -80,12 +80,12 @@ void BuildTaskList(MainWindow& window) {
     else
         unfinished.backColor = kAllDoneGreen;
 
-    SortTaskList(rows, store, state.SortColumn, state.SortDirection, window.platform.locale, &state.ListSortRanks);
+    SortTaskList(rows, store, state.SortColumn, state.SortDirection, window.locale, &state.ListSortRanks);
     state.ListTaskRows = std::move(rows.ListTaskRows);
     state.ListTaskForeColors = std::move(rows.ListTaskForeColors);
     state.ListTaskBackColors = std::move(rows.ListTaskBackColors);
     state.RowCount = toInt16(state.ListTaskRows.count());
-    window.UpdateGridScroll();
+    window.updateGridScroll();
 
     PaintList(window, kTitles, [&](int p) {
         const int r = state.ListTaskRows(p);

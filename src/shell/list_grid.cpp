@@ -3,29 +3,40 @@
 // geometry and the painting are the list view's (list_view/grid.h).
 #include "common/twips.h"
 #include "list_view/grid.h"
+#include "list_view/list_host.h"
 #include "list_view/list_rows.h"
 #include "shell/main_window.h"
 
 namespace qh {
 
-void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(*this, mode); }
+ListHost MainWindow::listHost() {
+    return {.form = *this,
+            .state = state,
+            .store = store,
+            .locale = platform.locale,
+            .colors = *colors,
+            .updateGridScroll = [this] { UpdateGridScroll(); },
+            .paintStatusBar = [this] { PaintStatusBar(); }};
+}
+
+void MainWindow::LayoutGrid(Mode mode) { LayoutModeGrid(listHost(), mode); }
 
 void MainWindow::BuildList(Mode mode) {
     switch (mode) {
         case Mode::Homework:
-            BuildHomeworkList(*this);
+            BuildHomeworkList(listHost());
             break;
         case Mode::Events:
-            BuildEventList(*this);
+            BuildEventList(listHost());
             break;
         case Mode::Reminders:
-            BuildReminderList(*this);
+            BuildReminderList(listHost());
             break;
         case Mode::StudySessions:
-            BuildStudySessionList(*this);
+            BuildStudySessionList(listHost());
             break;
         case Mode::Tasks:
-            BuildTaskList(*this);
+            BuildTaskList(listHost());
             break;
         default:
             break;
@@ -96,11 +107,12 @@ void MainWindow::HighlightGridRow(int row, bool on) {
 }
 
 void MainWindow::picGridMouseDown(const EventArgs& args) {
-    state.PressedRow = toInt16(RowPressedAt(CurrentGridRows(*this), c("picGrid").canvas->scaleWidth(), args.x, args.y));
+    state.PressedRow =
+        toInt16(RowPressedAt(CurrentGridRows(listHost()), c("picGrid").canvas->scaleWidth(), args.x, args.y));
 }
 
 void MainWindow::picGridMouseUp(const EventArgs& args) {
-    const int k = RowReleasedAt(CurrentGridRows(*this), args.y);
+    const int k = RowReleasedAt(CurrentGridRows(listHost()), args.y);
     // Dragging off the pressed row, or a press on the header strip, drops the click.
     if (k != state.PressedRow) return;
     GridRowClicked(k);

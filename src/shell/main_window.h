@@ -31,6 +31,7 @@ namespace qh {
 
 class RecordFiles;
 struct GridView;
+struct ListHost;
 class FrmTip;
 class FrmAbout;
 struct ColorVocabulary;
@@ -96,6 +97,8 @@ public:
     void UpdateStopwatchLabel();
 
     // The grid of the list view.
+    // What the list builders and the grid routines see of this window.
+    ListHost listHost();
     void LayoutGrid(Mode mode);
     void BuildList(Mode mode);
     void UpdateGridScroll();
