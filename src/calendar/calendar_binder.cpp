@@ -6,14 +6,6 @@ namespace {
 constexpr const char* kDayHeaderLetters = "MTWTFSS";
 constexpr Color kMonthBarBlue = 0x7F4F2F;
 
-Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
-               int height, const std::string& caption, int index = -1) {
-    Control& control = form.add(ControlKind::Label, name, container, left, top, width, height, index);
-    control.caption = caption;
-    control.opaque = false;
-    return control;
-}
-
 }  // namespace
 
 void AddMonthCalendarControls(Form& form, const std::string& container, int left, int top, int cellWidth,
@@ -30,7 +22,7 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     Control& monthBar = form.add(ControlKind::PictureBox, "picCalMonthName", "picCalendar", 180, 0, 2130, 270);
     monthBar.backColor = kMonthBarBlue;
     monthBar.accessibleName = "Month";
-    Control& month = label(form, "LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
+    Control& month = form.addLabel("LabelMonth", "picCalMonthName", 0, 0, 2130, 270, "");
     month.alignment = Alignment::Center;
     month.foreColor = kWhite;
     month.fontName = "Verdana";
@@ -39,25 +31,25 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     monthUp.picture = "CalMonthRightUp";
     monthUp.backColor = kMonthBarBlue;
     monthUp.toolTip = "Next month";
-    Control& dayBackground = label(form, "LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
+    Control& dayBackground = form.addLabel("LabelCalDayBG", "picCalendar", 0, 270, 2640, 255, "");
     dayBackground.opaque = true;
     dayBackground.backColor = 0xEEE6DD;
     for (int i = 0; i < 7; ++i) {
-        Control& header = label(form, "LabelCalDay", "picCalendar", 150 + 330 * i, 300, 300, 225,
-                                std::string(1, kDayHeaderLetters[i]), i);
+        Control& header = form.addLabel("LabelCalDay", "picCalendar", 150 + 330 * i, 300, 300, 225,
+                                        std::string(1, kDayHeaderLetters[i]), i);
         header.alignment = Alignment::Center;
         header.fontName = "Verdana";
         header.bold = true;
     }
     // Today's frame: a black tile a pixel larger than a cell all round, lying under it.
-    Control& tile = label(form, "LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
+    Control& tile = form.addLabel("LabelCalTileBorder", "picCalendar", 150, 2055, 330, 255, "");
     tile.alignment = Alignment::Center;
     tile.opaque = true;
     tile.backColor = kBlack;
     tile.visible = false;
     for (int i = 0; i < 42; ++i) {
-        Control& cell = label(form, "LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7), cellWidth,
-                              cellHeight, std::to_string(i + 1), i);
+        Control& cell = form.addLabel("LabelCalDate", "picCalendar", 150 + 330 * (i % 7), 615 + 240 * (i / 7),
+                                      cellWidth, cellHeight, std::to_string(i + 1), i);
         cell.opaque = true;
         cell.backColor = kWhite;
         cell.fontName = "Verdana";
@@ -69,11 +61,11 @@ void AddMonthCalendarControls(Form& form, const std::string& container, int left
     Control& today = form.add(ControlKind::PictureBox, "picToday", "picCalendar", 330, 2145, 750, 240);
     today.picture = "TodayUp";
     today.accessibleName = "Go to today";
-    label(form, "LabelToday", "picToday", 0, 15, 750, 240, "Today").alignment = Alignment::Center;
+    form.addLabel("LabelToday", "picToday", 0, 15, 750, 240, "Today").alignment = Alignment::Center;
     Control& tomorrow = form.add(ControlKind::PictureBox, "picTomorrow", "picCalendar", 1170, 2145, 1125, 240);
     tomorrow.picture = "TomorrowUp";
     tomorrow.accessibleName = "Go to tomorrow";
-    label(form, "LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow").alignment = Alignment::Center;
+    form.addLabel("LabelTomorrow", "picTomorrow", 0, 15, 1125, 240, "Tomorrow").alignment = Alignment::Center;
 }
 
 void PaintMonthCells(Form& form, const MonthCells& cells, const std::string& monthCaption) {

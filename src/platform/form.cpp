@@ -63,6 +63,14 @@ Control& Form::addDrawable(const std::string& name, const std::string& container
     return control;
 }
 
+Control& Form::addLabel(const std::string& name, const std::string& container, int left, int top, int width,
+                        int height, const std::string& caption, int index) {
+    Control& control = add(ControlKind::Label, name, container, left, top, width, height, index);
+    control.caption = caption;
+    control.opaque = false;
+    return control;
+}
+
 Control& Form::addMenu(const std::string& name, const std::string& parent, const std::string& caption) {
     Control& menu = add(ControlKind::Menu, name, parent, 0, 0, 0, 0);
     menu.caption = caption;

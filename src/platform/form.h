@@ -85,6 +85,10 @@ public:
     // construction of the window (see setCanvasFactory).
     Control& add(ControlKind kind, const std::string& name, const std::string& container, int left, int top,
                  int width, int height, int index = -1);
+    // A label with its caption that lets its container show through, as the main window and
+    // the calendar place their texts over painted backgrounds.
+    Control& addLabel(const std::string& name, const std::string& container, int left, int top, int width,
+                      int height, const std::string& caption, int index = -1);
     // A picture box that owns a canvas of its size.
     Control& addDrawable(const std::string& name, const std::string& container, int left, int top, int width,
                          int height, int index = -1);

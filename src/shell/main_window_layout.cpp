@@ -6,14 +6,6 @@
 namespace qh {
 namespace {
 
-Control& label(Form& form, const std::string& name, const std::string& container, int left, int top, int width,
-               int height, const std::string& caption, int index = -1) {
-    Control& control = form.add(ControlKind::Label, name, container, left, top, width, height, index);
-    control.caption = caption;
-    control.opaque = false;
-    return control;
-}
-
 Control& summaryBox(Form& form, const std::string& name, int top) {
     Control& box = form.add(ControlKind::TextBox, name, "", 3240, top, 1095, 315);
     box.locked = true;
@@ -95,7 +87,7 @@ void MainWindow::buildControls() {
     help.accessibleName = "What's This?";
     Control& top = add(ControlKind::PictureBox, "picTop", "", 240, 480, 6225, 330);
     top.backColor = 0x7F4F2F;
-    Control& labelTop = label(*this, "LabelTop", "picTop", 0, 45, 6225, 285, "");
+    Control& labelTop = addLabel("LabelTop", "picTop", 0, 45, 6225, 285, "");
     labelTop.foreColor = kWhite;
     labelTop.fontName = "Verdana";
     labelTop.fontSize = 9;
@@ -131,7 +123,7 @@ void MainWindow::buildControls() {
     sessions.backColor = kButtonFace;
     sessions.border = true;
     sessions.accessibleName = "Stopwatch";
-    Control& time = label(*this, "LabelTime", "PictureBoxStudySessions", 45, 90, 975, 330, "00:00");
+    Control& time = addLabel("LabelTime", "PictureBoxStudySessions", 45, 90, 975, 330, "00:00");
     time.fontName = "Courier";
     time.fontSize = 14;
     time.bold = true;
@@ -147,9 +139,9 @@ void MainWindow::buildControls() {
     reminders.accessibleName = "Today's Reminders";
 
     // The summary labels and boxes; each mode places and shows its own.
-    label(*this, "LabelTotalAssignments", "", 1410, 990, 1830, 255, "Total Assignments:");
-    label(*this, "LabelFinishedAssignments", "", 1410, 1380, 1830, 255, "Unfinished Assignments:");
-    label(*this, "LabelTimeRemaining", "", 1410, 1770, 1830, 255, "Time Left:");
+    addLabel("LabelTotalAssignments", "", 1410, 990, 1830, 255, "Total Assignments:");
+    addLabel("LabelFinishedAssignments", "", 1410, 1380, 1830, 255, "Unfinished Assignments:");
+    addLabel("LabelTimeRemaining", "", 1410, 1770, 1830, 255, "Time Left:");
     for (const char* name : {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining",
                              "TextBoxStudySessions", "TextBoxStudyTime", "TextBoxTotalTasks", "TextBoxFinishedTasks",
                              "TextBoxClasses", "TextBoxOtherEvents", "TextBoxAssignments", "TextBoxTasks",
@@ -161,10 +153,10 @@ void MainWindow::buildControls() {
     term.backColor = kButtonFace;
     term.border = true;
     term.accessibleName = "Term";
-    Control& termName = label(*this, "LabelTerm", "PictureBoxTerm", 90, 60, 1875, 255, "");
+    Control& termName = addLabel("LabelTerm", "PictureBoxTerm", 90, 60, 1875, 255, "");
     termName.bold = true;
     termName.fontName = "Verdana";
-    label(*this, "LabelDaysLeft", "PictureBoxTerm", 90, 330, 1875, 255, "");
+    addLabel("LabelDaysLeft", "PictureBoxTerm", 90, 330, 1875, 255, "");
     add(ControlKind::CommandButton, "ButtonSelectTerm", "PictureBoxTerm", 210, 600, 1305, 375).caption =
         "Select Term";
     add(ControlKind::ComboBox, "ComboGPA", "PictureBoxTerm", 120, 1140, 1815, 315).accessibleName = "GPA";
@@ -173,9 +165,9 @@ void MainWindow::buildControls() {
     studyTime.backColor = kButtonFace;
     studyTime.border = true;
     studyTime.accessibleName = "Study Time Today";
-    label(*this, "LabelStudyTimeToday", "PictureBoxStudyTime", 90, 90, 1875, 255, "Study Time Today").bold = true;
-    label(*this, "LabelMinimum", "PictureBoxStudyTime", 90, 555, 900, 255, "Minimum:");
-    label(*this, "LabelSuggested", "PictureBoxStudyTime", 90, 1005, 900, 255, "Suggested:");
+    addLabel("LabelStudyTimeToday", "PictureBoxStudyTime", 90, 90, 1875, 255, "Study Time Today").bold = true;
+    addLabel("LabelMinimum", "PictureBoxStudyTime", 90, 555, 900, 255, "Minimum:");
+    addLabel("LabelSuggested", "PictureBoxStudyTime", 90, 1005, 900, 255, "Suggested:");
     for (auto [name, top] : {std::pair{"TextBoxMinimum", 495}, std::pair{"TextBoxSuggested", 945}}) {
         Control& box = add(ControlKind::TextBox, name, "PictureBoxStudyTime", 1005, top, 930, 315);
         box.locked = true;
@@ -191,9 +183,9 @@ void MainWindow::buildControls() {
     views.visible = false;
     views.backColor = 0xF0E8E2;
     views.accessibleName = "List filters";
-    label(*this, "LabelList", "PictureBoxViewMenus", 60, 75, 495, 255, "List:");
+    addLabel("LabelList", "PictureBoxViewMenus", 60, 75, 495, 255, "List:");
     add(ControlKind::ComboBox, "ComboList", "PictureBoxViewMenus", 570, 15, 1335, 315).accessibleName = "List";
-    label(*this, "LabelDateRange", "PictureBoxViewMenus", 2040, 75, 615, 255, "Range:");
+    addLabel("LabelDateRange", "PictureBoxViewMenus", 2040, 75, 615, 255, "Range:");
     add(ControlKind::ComboBox, "ComboDateRange", "PictureBoxViewMenus", 2670, 15, 1425, 315).accessibleName = "Range";
 
     // The list grid, its headers and scroll bar, and the status bar; the layouts of the

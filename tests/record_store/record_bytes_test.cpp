@@ -5,16 +5,11 @@
 #include "common/day_number.h"
 #include "record_store/codepage.h"
 #include "store_fixture.h"
+#include "support/record_fields.h"
 
 namespace qh {
 namespace {
 
-// A text field as the files hold it: the (code page) bytes, padded with spaces.
-std::string field(const std::string& bytes, std::size_t width) {
-    std::string out = bytes.substr(0, width);
-    out.resize(width, ' ');
-    return out;
-}
 std::string nuls(std::size_t width) { return std::string(width, '\0'); }
 std::string spaces(std::size_t width) { return std::string(width, ' '); }
 
@@ -34,13 +29,13 @@ TEST(RecordBytes, TermsAndClassesAreRewrittenWholeWithSpacesInTheReservedFields)
     s.ClassNotes = {std::string(600, 'n')};
     ASSERT_TRUE(d.files.SaveTermsAndClasses());
 
-    const std::string terms = field("1", 5) + field("Fall 2026", 35) + field("2026/08/31", 15) +
-                              field("2026/12/18", 15) + spaces(15) + spaces(15) + field("2", 5) +
-                              field("Spring \xE9t\xE9", 35) + field("2027/01/05", 15) + field("2027/05/14", 15) +
-                              spaces(15) + spaces(15);
+    const std::string terms = padField("1", 5) + padField("Fall 2026", 35) + padField("2026/08/31", 15) +
+                              padField("2026/12/18", 15) + spaces(15) + spaces(15) + padField("2", 5) +
+                              padField("Spring \xE9t\xE9", 35) + padField("2027/01/05", 15) +
+                              padField("2027/05/14", 15) + spaces(15) + spaces(15);
     EXPECT_EQ(d.bytesOf("Terms.txt"), terms);
-    const std::string classes = field("7", 5) + field("1", 5) + field("Biology", 25) + field("Black", 20) +
-                                field("MistyRose", 20) + std::string(500, 'n') + spaces(20) + spaces(20);
+    const std::string classes = padField("7", 5) + padField("1", 5) + padField("Biology", 25) + padField("Black", 20) +
+                                padField("MistyRose", 20) + std::string(500, 'n') + spaces(20) + spaces(20);
     EXPECT_EQ(d.bytesOf("Classes.txt"), classes);
     EXPECT_EQ(s.NextTermRecord, 3);
     EXPECT_EQ(s.NextClassRecord, 2);
@@ -55,22 +50,24 @@ TEST(RecordBytes, AssignmentNoteAndSessionRecordsHoldNulsInTheReservedFields) {
                           "Homework", "Hard", "01 : 30", "Read chapter 4",
                           "False",    " ",    "100",     "1 Day Before"};
     ASSERT_TRUE(d.files.SaveAssignment(0));
-    EXPECT_EQ(d.bytesOf("Assignments.txt"), field("1", 5) + field("1", 5) + field("7", 5) + field("2026/11/30", 15) +
-                                                field("Homework", 10) + field("Hard", 10) + field("01 : 30", 7) +
-                                                field("Read chapter 4", 50) + field("False", 5) + field(" ", 5) +
-                                                field("100", 3) + field("1 Day Before", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Assignments.txt"),
+              padField("1", 5) + padField("1", 5) + padField("7", 5) + padField("2026/11/30", 15) +
+                  padField("Homework", 10) + padField("Hard", 10) + padField("01 : 30", 7) +
+                  padField("Read chapter 4", 50) + padField("False", 5) + padField(" ", 5) + padField("100", 3) +
+                  padField("1 Day Before", 20) + nuls(20));
 
     s.NoteRecord = {"1", "1", std::string(1500, 'x')};
     ASSERT_TRUE(d.files.SaveNote(0));
-    EXPECT_EQ(d.bytesOf("Notes.txt"), field("1", 5) + field("1", 5) + nuls(20) + nuls(20) + std::string(1450, 'x'));
+    EXPECT_EQ(d.bytesOf("Notes.txt"),
+              padField("1", 5) + padField("1", 5) + nuls(20) + nuls(20) + std::string(1450, 'x'));
 
     s.EditStudySessionRecordNos = {"9", "1"};
     s.EditStudySessionLinkIDs = {"9", "1"};
     s.EditStudySessionLengths = {"9", "00 : 45"};
     s.EditStudySessionDates = {"2026/01/01", "2026-11-21"};
     ASSERT_TRUE(d.files.SaveStudySession(0, 2));
-    EXPECT_EQ(d.bytesOf("StudySessions.txt"),
-              field("1", 5) + field("1", 5) + field("00 : 45", 10) + field("2026/11/21", 15) + nuls(10) + nuls(10));
+    EXPECT_EQ(d.bytesOf("StudySessions.txt"), padField("1", 5) + padField("1", 5) + padField("00 : 45", 10) +
+                                                  padField("2026/11/21", 15) + nuls(10) + nuls(10));
     EXPECT_EQ(s.NextAssignmentRecord, 2);
     EXPECT_EQ(s.NextNoteRecord, 2);
     EXPECT_EQ(s.NextStudySessionRecord, 2);
@@ -82,19 +79,20 @@ TEST(RecordBytes, TaskAndEventRecordsKeepTheirNotesInTheRecord) {
     s.TaskRecord = {"1",      "1",    "2026/12/01", "Buy a calculator",    "True",
                     "Errand", "High", "False",      std::string(900, 'a'), "On Date"};
     ASSERT_TRUE(d.files.SaveTask(0));
-    EXPECT_EQ(d.bytesOf("Tasks.txt"), field("1", 5) + field("1", 5) + field("Buy a calculator", 60) + field("True", 5) +
-                                          field("2026/12/01", 15) + field("Errand", 10) + field("High", 10) +
-                                          field("False", 5) + std::string(845, 'a') + field("On Date", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Tasks.txt"), padField("1", 5) + padField("1", 5) + padField("Buy a calculator", 60) +
+                                          padField("True", 5) + padField("2026/12/01", 15) + padField("Errand", 10) +
+                                          padField("High", 10) + padField("False", 5) + std::string(845, 'a') +
+                                          padField("On Date", 20) + nuls(20));
 
     s.EventRecord = {"1",    "1",     "2026.12.24", "Holiday party", "Social", "7:00 PM",   "Year",
                      "True", "First", "Day",        "TFFFFFT",       "False",  "2027-1-31", std::string(800, 'e'),
                      "None"};
     ASSERT_TRUE(d.files.SaveEvent(0));
-    EXPECT_EQ(d.bytesOf("Events.txt"), field("1", 5) + field("1", 5) + field("2026/12/24", 15) +
-                                           field("Holiday party", 60) + field("Social", 10) + field("7:00 PM", 10) +
-                                           field("Year", 5) + field("True", 5) + field("First", 10) + field("Day", 10) +
-                                           field("TFFFFFT", 10) + field("False", 5) + field("2027/01/31", 15) +
-                                           std::string(795, 'e') + field("None", 20) + nuls(20));
+    EXPECT_EQ(d.bytesOf("Events.txt"),
+              padField("1", 5) + padField("1", 5) + padField("2026/12/24", 15) + padField("Holiday party", 60) +
+                  padField("Social", 10) + padField("7:00 PM", 10) + padField("Year", 5) + padField("True", 5) +
+                  padField("First", 10) + padField("Day", 10) + padField("TFFFFFT", 10) + padField("False", 5) +
+                  padField("2027/01/31", 15) + std::string(795, 'e') + padField("None", 20) + nuls(20));
     EXPECT_EQ(s.TasksChanged, kTrue);
     EXPECT_EQ(s.EventsChanged, kTrue);
 }

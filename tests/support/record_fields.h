@@ -5,6 +5,9 @@
 
 namespace qh {
 
+// Pads a field with blanks (or cuts it) to its width.
+std::string padField(const std::string& value, std::size_t width);
+
 // An Assignments.txt record; the defaults are those of a new assignment saved as it opens.
 struct AssignmentFields {
     int recordNo = 1, classLink = 1;
