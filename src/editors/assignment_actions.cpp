@@ -81,7 +81,7 @@ AssignmentBuffer recordOf(const FrmAssignment& w, const std::string& recordNo, c
     record.Difficulty = stored("Difficulty", w.ComboDifficulty->text);
     record.EstTime = stored("EstTime", w.ComboEstTime->text);
     record.Description = stored("Description", w.TextBoxDescription->text);
-    record.Done = w.CheckBoxDone->checked ? "True" : "False";
+    record.Done = trueFalse(w.CheckBoxDone->checked);
     record.Grade = stored("Grade", w.ComboGrade->text);
     record.Weight = stored("Weight", w.ComboWeight->text);
     record.Reminder = stored("Reminder", w.ComboRemindMe->text);

@@ -12,8 +12,6 @@
 namespace qh {
 namespace {
 
-const char* trueFalse(bool value) { return value ? "True" : "False"; }
-
 // The event record as the window left it. The rule fields come from the monthly
 // controls for "Month" and from the yearly ones for every other kind.
 EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const std::string& id) {

@@ -104,7 +104,7 @@ public:
         line_.replace(std::size_t(field.start - 1), bytes.size(), bytes);
     }
     void putDate(Field field, Date date) { put(field, dateText(date)); }
-    void putFlag(Field field, bool value) { put(field, value ? "True" : "False"); }
+    void putFlag(Field field, bool value) { put(field, trueFalse(value)); }
     template <class Record, std::size_t N>
     void putTexts(const TextField<Record> (&fields)[N], const Record& record) {
         for (const TextField<Record>& f : fields) put(f.field, record.*f.member);

@@ -11,8 +11,6 @@
 namespace qh {
 namespace {
 
-const char* trueFalse(bool value) { return value ? "True" : "False"; }
-
 // The task record as the window left it. An undated task keeps a date all the same:
 // today's, so that every record has one in the file.
 TaskBuffer recordOf(const FrmTask& form, Date today, const std::string& recordNo, const std::string& id) {

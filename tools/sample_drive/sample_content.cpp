@@ -324,7 +324,7 @@ AssignmentPlan makeAssignment(Dice& dice, Date today, const std::string& classId
                       : due < today    ? dice.percent(85)
                       : due == today   ? dice.percent(40)
                                        : dice.percent(10);
-    a.Done = done ? "True" : "False";
+    a.Done = trueFalse(done);
     const bool graded =
         done && (a.Type != "Assignment" && a.Type != "Reading" && a.Type != "Study" ? true : dice.percent(30));
     a.Grade = graded ? dice.pick(kGrades) : " ";
@@ -378,7 +378,7 @@ TaskPlan makeTask(Dice& dice, Date today) {
     const bool dated = dice.percent(75);
     const Date date = dated ? near(dice, today, -90, 45) : near(dice, today, -90, 0);
     t.Description = dice.pick(kTaskDescriptions);
-    t.DateExists = dated ? "True" : "False";
+    t.DateExists = trueFalse(dated);
     t.Date = dateText(date);
     t.Type = dice.pick(kTaskTypes);
     t.Priority = dice.pick(kPriorities);
@@ -386,7 +386,7 @@ TaskPlan makeTask(Dice& dice, Date today) {
                       : date < today - 14 ? dice.percent(97)
                       : date < today      ? dice.percent(75)
                                           : dice.percent(10);
-    t.Done = done ? "True" : "False";
+    t.Done = trueFalse(done);
     t.Notes = dice.pick(kTaskNotes);
     // The editor gives a reminder only to a task with a date.
     t.Reminder = dated && !done && date >= today && dice.percent(50)
@@ -422,7 +422,7 @@ EventPlan baseEvent(Dice& dice, EventKind kind, Date first, const std::string& d
 void repeatMonthly(EventPlan& plan, Dice& dice, Date first) {
     plan.record.Recurrence = "Month";
     const bool ends = dice.percent(80);  // the editor proposes an end six months on
-    plan.record.End = ends ? "True" : "False";
+    plan.record.End = trueFalse(ends);
     plan.record.EndDate = dateText(addMonths(first, ends && dice.percent(30) ? 12 : 6));
 }
 
@@ -465,7 +465,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
                 if (dice.percent(40)) weekdays.push_back(dice.between(1, 7));
                 plan = baseEvent(dice, kind, first, h.description, h.type);
                 const bool ends = dice.percent(75);
-                plan.record.End = ends ? "True" : "False";
+                plan.record.End = trueFalse(ends);
                 plan.record.EndDate = dateText(first + (ends ? 7 * dice.between(2, 16) : 14));
             }
             plan.record.Recurrence = "Day";
