@@ -1,6 +1,7 @@
 // Quillhollow: wires the Qt platform to the planner and runs it. Takes no options.
 #include <exception>
 
+#include <QEvent>
 #include <QThread>
 #include <QTimer>
 #include <cstdio>
@@ -47,9 +48,18 @@ int main() {
             }
         });
         // The start-up benchmark (bench/startup.sh) times a run that ends as soon as the
-        // main window has been painted once.
-        if (qEnvironmentVariableIsSet("QUILLHOLLOW_QUIT_AFTER_FIRST_PAINT"))
-            QTimer::singleShot(0, &app, &QCoreApplication::quit);
+        // main window has been painted once: at its first paint (the splash is gone by
+        // now), once that paint has been handled, as the bare window it is compared with.
+        struct QuitAfterFirstPaint : QObject {
+            bool eventFilter(QObject*, QEvent* event) override {
+                if (event->type() == QEvent::Paint) {
+                    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+                    qApp->removeEventFilter(this);
+                }
+                return false;
+            }
+        } quitter;
+        if (qEnvironmentVariableIsSet("QUILLHOLLOW_QUIT_AFTER_FIRST_PAINT")) app.installEventFilter(&quitter);
         return app.exec();
     } catch (const std::exception& failure) {
         // The start of the run, before the event loop: reported the same way.

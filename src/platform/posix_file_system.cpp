@@ -78,8 +78,8 @@ void syncFolder(const std::string& folder) {
 
 class PosixRecordFile : public RecordFile {
 public:
-    PosixRecordFile(int fd, int recordLength, std::string path)
-        : fd_(fd), length_(recordLength), path_(std::move(path)) {}
+    PosixRecordFile(int fd, int recordLength, std::string path, bool synced)
+        : fd_(fd), length_(recordLength), synced_(synced), path_(std::move(path)) {}
 
     // Loads read every record in turn, so records come from a read-ahead window of whole
     // records rather than one system call each; a write drops the window.
@@ -105,7 +105,7 @@ public:
             }
             done += std::size_t(n);
         }
-        if (::fsync(fd_.get()) != 0) fail("Cannot sync", path_);
+        if (synced_ && ::fsync(fd_.get()) != 0) fail("Cannot sync", path_);
     }
 
     std::int32_t recordCount() override {
@@ -115,10 +115,15 @@ public:
     }
 
 private:
-    // Reads whole records from `offset` into the window, as many as fit in about 256 KiB;
-    // fewer bytes than a record at the end of the file leave the window short of it.
+    // Reads whole records from `offset` into the window, as many as fit in about 256 KiB
+    // and no more than the file holds (a small file costs no large buffer); fewer bytes
+    // than a record at the end of the file leave the window short of it.
     void fillWindow(off_t offset) {
-        const std::size_t records = std::max<std::size_t>(1, (256 * 1024) / std::size_t(length_));
+        struct stat info {};
+        if (::fstat(fd_.get(), &info) != 0) fail("Cannot stat", path_);
+        const std::size_t inFile = info.st_size > offset ? std::size_t(info.st_size - offset) / std::size_t(length_) : 0;
+        const std::size_t records =
+            std::max<std::size_t>(1, std::min(inFile, (256 * 1024) / std::size_t(length_)));
         window_.resize(records * std::size_t(length_));
         windowStart_ = offset;
         std::size_t got = 0;
@@ -137,6 +142,7 @@ private:
 
     Descriptor fd_;
     int length_;
+    bool synced_;
     std::string path_;
     std::string window_;
     off_t windowStart_ = 0;
@@ -147,7 +153,7 @@ private:
 std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path, int recordLength) {
     Descriptor fd(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644));
     if (fd.get() < 0) fail("Cannot open", path);
-    return std::make_unique<PosixRecordFile>(fd.release(), recordLength, path);
+    return std::make_unique<PosixRecordFile>(fd.release(), recordLength, path, synced_);
 }
 
 std::string PosixFileSystem::readAll(const std::string& path) {
@@ -166,7 +172,9 @@ std::string PosixFileSystem::readHead(const std::string& path, std::size_t maxBy
     return readUpTo(fd.get(), maxBytes, path);
 }
 
-void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) { replaceWhole(path, bytes, true); }
+void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+    replaceWhole(path, bytes, synced_);
+}
 
 void PosixFileSystem::writeWholeUnsynced(const std::string& path, const std::string& bytes) {
     replaceWhole(path, bytes, false);

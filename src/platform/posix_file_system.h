@@ -6,6 +6,12 @@ namespace qh {
 
 class PosixFileSystem : public FileSystem {
 public:
+    // Whether a write waits until the disk holds it. The planner always waits: a drive
+    // may be pulled out at any moment. The scripted driver need not, as nothing a script
+    // looks at outlives a power cut; the bytes written are the same.
+    enum class Durability { Synced, Unsynced };
+    explicit PosixFileSystem(Durability durability = Durability::Synced) : synced_(durability == Durability::Synced) {}
+
     std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
     std::string readAll(const std::string& path) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
@@ -22,6 +28,7 @@ public:
 
 private:
     void replaceWhole(const std::string& path, const std::string& bytes, bool synced);
+    bool synced_;
 };
 
 }  // namespace qh

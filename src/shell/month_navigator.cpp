@@ -2,8 +2,6 @@
 // Today and Tomorrow, and the day headers that switch the first day of the week.
 #include "shell/month_navigator.h"
 
-#include <algorithm>
-
 #include "calendar/calendar_binder.h"
 #include "record_store/color_vocabulary.h"
 #include "shell/main_window.h"
@@ -12,14 +10,16 @@ namespace qh {
 
 void MainWindow::BuildCalendar() {
     const Date today = platform.clock.today();
+    // A step beyond the bounds shows the month asked for, caption and grid alike, while
+    // the date itself is held at the bound: the cells are built from the date as asked.
     const Ymd clicked = ymdOf(state.ClickedDate);
-    state.ClickedDate = std::clamp(state.ClickedDate, CalendarLowestDate(), CalendarHighestDate());
     if (clicked.month != state.DisplayedMonth) {
         state.DisplayedMonth = clicked.month;
         MarkDays(FirstCellDate(clicked.year, clicked.month, state.StartDayOfWeek));
     }
     const MonthCells cells = BuildMonthCells(state.ClickedDate, today, state.StartDayOfWeek, state.CellMarked,
                                              state.Colors);
+    state.ClickedDate = cells.selected;
     state.CellCaptions = cells.CellCaptions;
     state.CellForeColors = cells.CellForeColors;
     state.CellBackColors = cells.CellBackColors;

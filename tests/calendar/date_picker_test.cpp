@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fake/fake_platform.h"
+#include "support/calendar_bounds.h"
 
 namespace qh {
 namespace {
@@ -103,6 +104,30 @@ TEST(DatePicker, HeadersFollowTheStartDayAtEachShowing) {
         headers += " ";
     }
     EXPECT_EQ(headers, "MTWTFSS SMTWTFS SSMTWTF ");
+}
+
+// The picker's arrows beyond 1600 or 3100 show the month asked for, caption and grid
+// alike; the date picked from there is the bound.
+TEST(DatePicker, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtTheBound) {
+    FakePlatform fake;
+    fake.clock.set(2026, 11, 25);
+    TwoDates window(fake.platform);
+    for (const test::CalendarBoundCase& c : test::kCalendarBoundCases) {
+        SCOPED_TRACE(std::string(c.startDay) + " " + c.caption);
+        window.startDay = c.startDay;
+        fake.windowing.show(window);
+        window.later();
+        window.from = dateFromYmd(c.from.year, c.from.month, c.from.day);
+        window.click("TextboxFrom");
+        const char* arrow = c.forward ? "LabelCalMonthUp" : "LabelCalMonthDown";
+        window.press(arrow);
+        window.tick("TimerButton");
+        window.release(arrow);
+        test::expectCalendarBeyondBound(window, c);
+        window.click("LabelCalDate(" + std::to_string(c.selected) + ")");
+        EXPECT_EQ(ymdOf(window.from), c.held);
+        window.hide();
+    }
 }
 
 }  // namespace

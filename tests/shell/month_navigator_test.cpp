@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "support/calendar_bounds.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -79,6 +80,25 @@ TEST_F(MonthNavigator, ArrowsStepWhileHeldAndKeepTheDateWithinItsBounds) {
         EXPECT_TRUE(window->c(c.arrow).picture.ends_with("Up"));
         window->tick("TimerButton");  // released: nothing
         EXPECT_EQ(clicked(), c.held);
+    }
+}
+
+// A month step beyond 1600 or 3100 shows the month asked for, caption and grid alike,
+// while the date stays at the bound, pressed and held.
+TEST_F(MonthNavigator, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtTheBound) {
+    for (const test::CalendarBoundCase& c : test::kCalendarBoundCases) {
+        SCOPED_TRACE(std::string(c.startDay) + " " + c.caption);
+        const std::string day = c.startDay;
+        window->click(day == "Monday" ? "MenuStartMon" : day == "Saturday" ? "MenuStartSat" : "MenuStartSun");
+        show(c.from);
+        const char* arrow = c.forward ? "picCalMonthUp" : "picCalMonthDown";
+        window->press(arrow);
+        EXPECT_EQ(clicked(), c.held);
+        test::expectCalendarBeyondBound(*window, c);
+        window->tick("TimerButton");
+        window->release(arrow);
+        EXPECT_EQ(clicked(), c.held);
+        test::expectCalendarBeyondBound(*window, c);
     }
 }
 

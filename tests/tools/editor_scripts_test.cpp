@@ -118,7 +118,9 @@ TEST(EditorScripts, AnEventSharedFromOneDriveIsReadIntoANewEventOnAnother) {
 
     const std::string text = runScript(second, "clock 2026-11-24 09:00\nmode events\nclick ButtonNewEvent\nfile " +
                                                    file + "\nclick ButtonShare\nprint\nclick ButtonOK\nprint\nexit\n");
-    expectLines(text, {"  ComboMonthlyNumber \"Last\" entries=5\n", "  RadioMonthlyUser \"\" checked\n",
+    // The open dialog suggests no file: the line names the folder it starts in.
+    expectLines(text, {"Dialog open \"Open an Event File\" \"" + second.documents + "/Quillhollow\" \"",
+                       "  ComboMonthlyNumber \"Last\" entries=5\n", "  RadioMonthlyUser \"\" checked\n",
                        "  TextboxEndDate \"Thursday, May 27, 2027\"\n",
                        "Row 1: | 1 |  Book group {&HFFFFFF} |  {&HFFFFFF} | 27-Nov-26"});
     EventFields shared = kBookGroup;

@@ -85,6 +85,35 @@ TEST(Probe, DrivesAModalWindowFromTheScriptAndPrintsItsControls) {
     EXPECT_EQ(text.find("Window", text.find("Window") + 1), std::string::npos) << text;
 }
 
+// `click` is a person's click: press, release and click. The month arrows act on the
+// press, the main window's and the pop-up picker's alike, so `click` steps them a month.
+TEST(Probe, ClickPressesAndReleasesTheControlsThatActOnThePress) {
+    FakePlatform fake;
+    const std::string text = runScript(
+        fake, "clock 2026-11-21 09:00\nclick picCalMonthUp\nprint\n"
+              "click ButtonSelectTerm\nclick ButtonNew\npick TextboxTermStart 2027-01-11\nclick TextboxTermStart\n"
+              "click LabelCalMonthUp\nprint\nclick LabelCalMonthDown\nclick LabelCalMonthDown\nclick LabelCalDate(12)\n"
+              "print\n");
+    expectLines(text, {"Calendar: December 2026", "  LabelMonth \"February 2027\"",
+                       "  TextboxTermStart \"Friday, December 11, 2026\""});
+}
+
+// `wait` lets the main window's timers run: the Tip of the Day comes half a second after
+// the start on a drive whose preferences show tips, and not on one where they were turned
+// off from the tip itself.
+TEST(Probe, WaitLetsTheTipOfTheDayComeAtTheStart) {
+    FakePlatform fake;
+    const std::string first =
+        runScript(fake, "start\nprint\nwait 1\nprint\ncheck CheckBoxShowTips off\nclick ButtonClose\nexit\n");
+    const std::size_t tip = first.find("Window frmTip \"Quillhollow Tip of the Day\"");
+    ASSERT_NE(tip, std::string::npos) << first;
+    EXPECT_GT(tip, first.find("== Homework", first.find("== Homework") + 1)) << "shown before the wait";
+    expectLines(first, {"  LabelTip \"Create a new Term and Class Schedule before adding assignments.\""});
+    const std::string second = runScript(fake, "start\nwait 12\nprint\nexit\n");
+    EXPECT_EQ(second.find("frmTip"), std::string::npos) << second;
+    EXPECT_NE(dataFile(fake, "Preferences.ini").find("ShowTipsAtStartup=No"), std::string::npos);
+}
+
 // A new user on an empty drive makes a term with three classes from the probe: dates
 // picked with the pop-up calendar, colours from the grid; after a restart it is still the
 // active term, and the files hold exactly its records.

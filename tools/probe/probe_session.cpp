@@ -1,7 +1,9 @@
 #include "probe_session.h"
 
+#include <algorithm>
 #include <cctype>
 #include <map>
+#include <vector>
 
 #include <sstream>
 
@@ -46,6 +48,22 @@ std::string typedText(const std::string& text) {
         }
     }
     return typed;
+}
+
+// A person's click: on a control that acts on the mouse press or release (the calendars'
+// month arrows, the grid) the press and the release at its middle come first, as on the
+// screen, then the click.
+void clickAsAPerson(Form& form, const std::string& key) {
+    const Control& control = form.c(key);
+    const bool takesThePress = form.handles(key, FormEvent::MouseDown) || form.handles(key, FormEvent::MouseUp);
+    if (takesThePress && control.enabled && control.visible) {
+        EventArgs middle;
+        middle.x = control.width / 2;
+        middle.y = control.height / 2;
+        form.press(key, middle);
+        form.release(key, middle);
+    }
+    form.click(key);
 }
 
 // Thrown through the windows' code when the script ends or fails while a modal window is
@@ -237,11 +255,20 @@ bool ProbeSession::action(const std::string& line) {
     } else if (verb == "wait") {
         long long seconds = 0;
         words >> seconds;
-        // The timers that tick in that time: the stopwatch every second, the status bar
-        // every ten. Ticking once at the end is the same, since both read the clock.
+        // Every running timer whose period has passed fires, the shortest first: the tip
+        // of the day half a second after the start, the stopwatch each second, the status
+        // bar each ten. Once at the end is as good as on the way: the stopwatch and the
+        // status bar read the clock, and the tip timer fires once.
         clock_.advanceSeconds(seconds);
-        w.tick("Timer1");
-        if (seconds >= 10) w.tick("TimerStatusBar");
+        std::vector<std::pair<int, std::string>> due;
+        for (const std::string& key : w.order()) {
+            const Control& timer = w.c(key);
+            if (timer.kind == ControlKind::Timer && timer.enabled && timer.interval > 0 &&
+                timer.interval <= seconds * 1000)
+                due.emplace_back(timer.interval, key);
+        }
+        std::sort(due.begin(), due.end());
+        for (const auto& [interval, key] : due) w.tick(key);
     } else if (verb == "resize") {
         int width = 0, height = 0;
         words >> width >> height;
@@ -292,7 +319,7 @@ bool ProbeSession::windowAction(const std::string& verb, std::istringstream& wor
     if (verb == "click") {
         const std::string name = restOf(words);
         if (!form.has(name)) return false;
-        form.click(name);
+        clickAsAPerson(form, name);
     } else if (verb == "set") {
         std::string name;
         words >> name;

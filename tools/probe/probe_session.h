@@ -50,7 +50,7 @@ private:
     FakeClock clock_;
     FakeLocale locale_;
     FakeMessageBoxes messages_;
-    PosixFileSystem files_;
+    PosixFileSystem files_{PosixFileSystem::Durability::Unsynced};
     FakeProcesses processes_;
     FakeDialogs dialogs_;
     FakeWindowing windowing_;

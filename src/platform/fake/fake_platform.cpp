@@ -229,8 +229,10 @@ FileDialogAnswer FakeDialogs::fileDialog(const FileDialogRequest& request) {
         std::string filter;
         for (const FileFilter& entry : request.filters) filter += entry.name + "|" + entry.pattern + "|";
         if (!filter.empty()) filter.pop_back();
+        // A dialog that suggests no file still starts in a folder, which the line shows then.
+        const std::string& place = request.startPath.empty() ? request.startDirectory : request.startPath;
         onOutsideAction(std::string("Dialog ") + (request.open ? "open " : "save ") + quotedText(request.title) + " " +
-                        quotedText(request.startPath) + " " + quotedText(filter));
+                        quotedText(place) + " " + quotedText(filter));
     }
     if (fileAnswers.empty()) return {};
     FileDialogAnswer answer = fileAnswers.front();

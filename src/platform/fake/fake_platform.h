@@ -17,7 +17,8 @@ namespace qh {
 // Every action the planner takes outside itself (a message box, a file or print dialog,
 // printing, opening a file, starting a program) as one line, when it happens:
 //   Message: "title" "text"
-//   Dialog open|save "title" "suggested path" "filter"
+//   Dialog open|save "title" "suggested path" "filter"   (with no path suggested, the
+//                                                       folder the dialog starts in)
 //   Printer dialog
 //   Printed window image
 //   Open "PATH OR ADDRESS"

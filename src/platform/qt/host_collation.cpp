@@ -23,10 +23,11 @@ HostCollation::HostCollation(const std::string& localeName) {
     if (U_FAILURE(status)) throw UntrappedFailure("The collation of \"" + localeName + "\" is not available.");
     // Secondary strength: accents count, case does not.
     ucol_setStrength(collator_, UCOL_SECONDARY);
-    rankPrintableAscii();
 }
 
-void HostCollation::rankPrintableAscii() {
+void HostCollation::rankPrintableAscii() const {
+    if (rankingTried_) return;
+    rankingTried_ = true;
     UErrorCode status = U_ZERO_ERROR;
     // Numbers collated by value span characters. (Punctuation that is ignored, as where
     // the collation shifts it aside, shows as a key without letter weight below.)
@@ -77,6 +78,7 @@ void HostCollation::rankPrintableAscii() {
 
 void HostCollation::appendSortKeys(const std::vector<std::string_view>& texts, std::string& keys,
                                    std::vector<std::size_t>& ends) const {
+    rankPrintableAscii();
     bool ascii = asciiRanked_;
     for (std::size_t i = 0; ascii && i < texts.size(); ++i)
         for (const char c : texts[i])

@@ -29,12 +29,15 @@ private:
     // Ranks the printable ASCII characters, when the collation orders texts of them
     // character by character: no contraction or expansion among them, none ignored, and
     // characters equal but for case have equal keys while all others differ in their
-    // letters, not only in accents (as v and w do in traditional Finnish).
-    void rankPrintableAscii();
+    // letters, not only in accents (as v and w do in traditional Finnish). Done at the
+    // first sort, not at the start: asking ICU for its contractions is a good part of
+    // the program's start-up otherwise, and the first window sorts no text.
+    void rankPrintableAscii() const;
 
     UCollator* collator_ = nullptr;
-    std::array<unsigned char, 128> asciiRank_{};  // 0 for a character without a rank
-    bool asciiRanked_ = false;
+    mutable std::array<unsigned char, 128> asciiRank_{};  // 0 for a character without a rank
+    mutable bool asciiRanked_ = false;
+    mutable bool rankingTried_ = false;
     mutable std::u16string utf16_;  // kept between calls: the texts of one sort share it
 };
 
