@@ -132,7 +132,6 @@ public:
     void ShowHelpFile();
     void ShowAbout(Form& owner);
     // Starts the player on a tutorial video of the host folder, or says it can't.
-    void PlayVideo(const std::string& file);
     // The Tip of the Day window, loaded at its first use and kept.
     FrmTip& tipWindow();
     // The File menu's export and print commands (file_menu.cpp).
