@@ -121,9 +121,11 @@ void FrmAssignment::buildControls() {
     view.backColor = kButtonFace;
     view.foreColor = standardColors().ColorValues("Blue");
     view.underline = true;
+    view.focusable = true;
     button("ButtonOK", 3240, 3600, 900, "OK");
     button("ButtonCancel", 4200, 3600, 900, "Cancel");
     button("ButtonDelete", 5160, 3600, 960, "Delete");
+    defaultButton = "ButtonOK";
     cancelButton = "ButtonCancel";
 
     const struct {

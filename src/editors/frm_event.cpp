@@ -69,6 +69,7 @@ void FrmEvent::buildControls() {
     Control* link = label("LabelViewRecurring", 240, 3240, 2160, "Show Recurring Events");
     link->foreColor = rgb(0, 0, 255);
     link->underline = true;
+    link->focusable = true;
     int left = 2460;
     for (const auto& [name, text] : {std::pair{"ButtonShare", "Share"}, {"ButtonDelete", "Delete"},
                                      {"ButtonOK", "OK"}, {"ButtonCancel", "Cancel"}}) {
@@ -97,6 +98,7 @@ void FrmEvent::bindHandlers() {
           &ComboMonthlyDay, &RadioYearlyThisDate, &RadioYearlyUser, &ComboYearlyNumber, &ComboYearlyDay})
         changes(control->key(), FormEvent::Click);
     for (const char* box : kWeekdayBoxes) changes(box, FormEvent::Click);
+    defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
 }
 

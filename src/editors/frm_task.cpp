@@ -96,6 +96,7 @@ void FrmTask::bindHandlers() {
         showDeadline(CheckBoxDeadline->checked);
     });
     on("picHelp", FormEvent::Click, [this](const EventArgs&) { platform_.windowing.enterWhatsThisMode(); });
+    defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
 }
 

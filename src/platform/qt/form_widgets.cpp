@@ -43,6 +43,8 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
         case ControlKind::TextBox:
             if (control.multiLine) {
                 auto* edit = new QPlainTextEdit(parent);
+                // Tab moves on, as everywhere; Ctrl+Tab types a tab (the event filter).
+                edit->setTabChangesFocus(true);
                 QObject::connect(edit, &QPlainTextEdit::textChanged, this, [this, key, edit] {
                     forward([this, key, edit] { form_.type(key, fromDisplay(edit->toPlainText())); });
                 });
