@@ -86,7 +86,6 @@ void FrmAssignment::buildControls() {
     due.locked = due.border = true;
     Control& dueButton = add(ControlKind::CommandButton, "picButtonDateDue", "", 5820, 360, 300, 315);
     dueButton.caption = "...";
-    dueButton.tabStop = false;
     Control& help = add(ControlKind::PictureBox, "picHelp", "", 5805, 60, 315, 240);
     help.picture = "Help";
     help.tabStop = false;

@@ -50,7 +50,6 @@ void FrmEvent::buildControls() {
     date.border = true;
     Control& pick = add(ControlKind::CommandButton, "picButtonEventDate", "", 2940, 360, 300, 315);
     pick.caption = "...";
-    pick.tabStop = false;
     label("LabelTime", 3420, 120, 1260, "Time");
     add(ControlKind::ComboBox, "ComboTime", "", 3420, 360, 1260, 315);
     label("LabelType", 4800, 120, 1290, "Type");

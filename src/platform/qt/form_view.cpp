@@ -77,6 +77,9 @@ void FormWindow::focusFirstField() {
         if (usable(stop)) key = stop;
     }
     if (key.empty()) return;
+    // Shown as the keyboard's focus (a frame) even before the window is active, when the
+    // toolkit would otherwise take it for a click's.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     widget(key)->setFocus(Qt::TabFocusReason);
     applied_.focused = key;
     if (form_.focusedControl != key) forward([this, key] { form_.focusTo(key); });
