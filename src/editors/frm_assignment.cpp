@@ -79,7 +79,7 @@ void FrmAssignment::buildControls() {
     const auto button = [this](const std::string& name, int left, int top, int width, const std::string& text) {
         add(ControlKind::CommandButton, name, "", left, top, width, 375).caption = text;
     };
-    label("LabelClass", 120, 120, 2880, " Classes ");
+    label("LabelClass", 120, 120, 2880, "Classes");
     combo("ComboClassNameList", 120, 360, 2880);
     label("LabelDue", 3120, 120, 2400, "Due Date");
     Control& due = add(ControlKind::TextBox, "TextboxDateDue", "", 3120, 360, 2700, 315);
@@ -200,7 +200,8 @@ void FrmAssignment::showDone(bool done) {
 
 void FrmAssignment::Form_Activate() {
     applyFormSmall();
-    LabelClass->caption = " Classes " + CurrentTermName;
+    // Flush with the labels below it: no space before the word.
+    LabelClass->caption = "Classes " + CurrentTermName;
     ComboClassNameList->clearItems();
     for (const std::string& name : tempClassNameArray) ComboClassNameList->addItem(name);
     if (EditMode == "New")

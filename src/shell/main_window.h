@@ -126,6 +126,7 @@ public:
     void refresh(const std::string& reason) override { Refresh(reason); }
     void selectTerm(const std::string& termName) override { SelectTerm(termName); }
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
+    void showSavedRow(SavedRecordKind kind, int row) override;
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();
