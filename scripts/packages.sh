@@ -21,3 +21,6 @@ QH_BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev lib
                    fonts-liberation fonts-dejavu-core)
 QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils bubblewrap patchelf
                   libglib2.0-bin)
+# scripts/screenshots: the virtual display, its keys and camera, and the GTK theme plugin
+# through which a desktop's light or dark theme reaches the program.
+QH_SCREENSHOT_PACKAGES=(xvfb xauth xdotool imagemagick qt6-gtk-platformtheme)

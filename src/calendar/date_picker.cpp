@@ -1,6 +1,7 @@
 #include "calendar/date_picker.h"
 
 #include "calendar/calendar_binder.h"
+#include "calendar/calendar_keys.h"
 
 namespace qh {
 namespace {
@@ -55,6 +56,31 @@ DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
     form.on("picCalendar", FormEvent::LostFocus, [this](const EventArgs&) {
         if (visible()) CloseCalendar();
     });
+    form.c("picCalendar").focusable = true;
+    form.on("picCalendar", FormEvent::KeyDown, [this](const EventArgs& args) { keyPressed(args.keyCode); });
+}
+
+void DatePicker::keyPressed(int keyCode) {
+    if (!visible()) return;
+    if (keyCode == kKeyReturn || keyCode == kKeyEscape || keyCode == ' ') {
+        if (keyCode == kKeyEscape) {
+            CloseCalendar();
+            returnFocus();
+        } else {
+            pick(PickerDate);
+        }
+        // No click closed it, so none needs keeping from opening it again.
+        form_.c("TimerCalendar").enabled = false;
+        CalendarOpen = kFalse;
+    } else if (const auto date = CalendarKeyTarget(cells_.CalendarDates, PickerDate, keyCode)) {
+        PickerDate = *date;
+        build();
+    }
+}
+
+void DatePicker::returnFocus() {
+    const DateField& f = field(PickFirstField != 0);
+    form_.SetFocus(f.button.empty() ? f.textBox : f.button);
 }
 
 bool DatePicker::visible() const { return form_.c("picCalendar").visible; }
@@ -112,6 +138,7 @@ void DatePicker::pick(Date date) {
     form_.c(field(isFirst).textBox).text = platform_.locale.longDate(PickerDate);
     owner_.pickerWroteDate(isFirst, PickerDate);
     CloseCalendar();
+    returnFocus();
 }
 
 void DatePicker::arrowPressed(bool forward) {

@@ -6,8 +6,10 @@
 //
 // The owner forwards its Form_MouseDown to windowPressed() and calls reset() from its
 // Form_Activate. The picker closes on a pick, when it loses the focus, and on a press
-// elsewhere in the window; TimerCalendar (100 ms) keeps the click that closed it from
-// opening it again.
+// elsewhere in the window. While open it has the keys: the arrows move the day, Page Up
+// and Page Down the month, Home goes to today, Enter or Space picks and Escape closes
+// it alone, the focus going back to its field. TimerCalendar (100 ms) keeps the click
+// that closed it from opening it again.
 #include <functional>
 #include <optional>
 #include <string>
@@ -62,6 +64,8 @@ public:
 private:
     void build();
     void pick(Date date);
+    void keyPressed(int keyCode);
+    void returnFocus();
     void arrowPressed(bool forward);
     void arrowReleased(bool forward);
     void tickRepeat();

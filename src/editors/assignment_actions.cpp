@@ -199,6 +199,7 @@ void RecordActions::NewAssignment() {
     if (!window.tempStudySessionRecordNoArray.empty()) SaveAddedSessions(s, files_, window, id);
     static_cast<void>(files_.SaveAssignment(0));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Assignment, s.AssignmentRecordNos.count());
 }
 
 void RecordActions::EditAssignment(int row) {
@@ -261,6 +262,7 @@ void RecordActions::EditAssignment(int row) {
     UpdateStudySessions(s, files_, window, row);
     static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Assignment, row);
 }
 
 }  // namespace qh

@@ -1,7 +1,7 @@
 #pragma once
 // What the editors need of the main window, and no more: the owner of their modal
 // showing, the date the calendar shows, the first day of the week for their pickers,
-// the one refresh, the active term and the highlight of a list row. The main window
+// the one refresh, the active term, the highlight of a list row and the saved row. The main window
 // implements it; the editors never include the shell.
 #include <string>
 
@@ -10,6 +10,9 @@
 namespace qh {
 
 class Form;
+
+// The kinds of record an editor saves, for the list to find the saved one.
+enum class SavedRecordKind { Assignment, Task, Event };
 
 class EditorHost {
 public:
@@ -26,6 +29,9 @@ public:
     virtual void selectTerm(const std::string& termName) = 0;
     // Shows or clears the pressed look of row `row` of the list (1-based).
     virtual void highlightRow(int row, bool on) = 0;
+    // After a save and its refresh: the list frames the saved record's row, scrolled into
+    // sight, when the list shows that record. `row` is the record's row in its columns.
+    virtual void showSavedRow(SavedRecordKind, int) {}
 };
 
 }  // namespace qh

@@ -53,6 +53,7 @@ void RecordActions::NewEvent() {
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveEvent(0));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Event, store_.EventRecordNos.count());
 }
 
 void RecordActions::EditEvent(int row) {
@@ -83,6 +84,7 @@ void RecordActions::EditEvent(int row) {
     kEventBinding.storeRow(s, row, s.EventRecord);
     static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Event, row);
 }
 
 }  // namespace qh

@@ -79,14 +79,13 @@ void FrmAssignment::buildControls() {
     const auto button = [this](const std::string& name, int left, int top, int width, const std::string& text) {
         add(ControlKind::CommandButton, name, "", left, top, width, 375).caption = text;
     };
-    label("LabelClass", 120, 120, 2880, " Classes ");
+    label("LabelClass", 120, 120, 2880, "Classes");
     combo("ComboClassNameList", 120, 360, 2880);
     label("LabelDue", 3120, 120, 2400, "Due Date");
     Control& due = add(ControlKind::TextBox, "TextboxDateDue", "", 3120, 360, 2700, 315);
     due.locked = due.border = true;
     Control& dueButton = add(ControlKind::CommandButton, "picButtonDateDue", "", 5820, 360, 300, 315);
     dueButton.caption = "...";
-    dueButton.tabStop = false;
     Control& help = add(ControlKind::PictureBox, "picHelp", "", 5805, 60, 315, 240);
     help.picture = "Help";
     help.tabStop = false;
@@ -121,9 +120,11 @@ void FrmAssignment::buildControls() {
     view.backColor = kButtonFace;
     view.foreColor = standardColors().ColorValues("Blue");
     view.underline = true;
+    view.focusable = true;
     button("ButtonOK", 3240, 3600, 900, "OK");
     button("ButtonCancel", 4200, 3600, 900, "Cancel");
     button("ButtonDelete", 5160, 3600, 960, "Delete");
+    defaultButton = "ButtonOK";
     cancelButton = "ButtonCancel";
 
     const struct {
@@ -199,7 +200,8 @@ void FrmAssignment::showDone(bool done) {
 
 void FrmAssignment::Form_Activate() {
     applyFormSmall();
-    LabelClass->caption = " Classes " + CurrentTermName;
+    // Flush with the labels below it: no space before the word.
+    LabelClass->caption = "Classes " + CurrentTermName;
     ComboClassNameList->clearItems();
     for (const std::string& name : tempClassNameArray) ComboClassNameList->addItem(name);
     if (EditMode == "New")

@@ -27,7 +27,6 @@ void FrmAssignment::buildSessionControls() {
     box("TextboxSessionDate", 1440, 4740, 2880);
     Control& dateButton = add(ControlKind::CommandButton, "picButtonSessionDate", "", 4320, 4740, 300, 315);
     dateButton.caption = "...";
-    dateButton.tabStop = false;
     add(ControlKind::CommandButton, "ButtonSessionAdd", "", 4740, 4710, 660, 375).caption = "Add";
     add(ControlKind::CommandButton, "ButtonSessionDelete", "", 5460, 4710, 660, 375).caption = "Delete";
     label("Label13", 120, 5160, 2400, "Study Sessions");

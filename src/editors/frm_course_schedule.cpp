@@ -29,17 +29,6 @@ constexpr int kNewTermDays = 70;
 
 }  // namespace
 
-int ColorGridCellAt(int x, int y) {
-    if (x < 0 || y < 0) return 0;
-    const int column = x / kColorGridCell + 1, row = y / kColorGridCell + 1;
-    if (column > kColorGridColumns || row > kColorGridRows) return 0;
-    return (row - 1) * kColorGridColumns + column;
-}
-
-std::pair<int, int> ColorGridCellOrigin(int n) {
-    return {((n - 1) % kColorGridColumns) * kColorGridCell, ((n - 1) / kColorGridColumns) * kColorGridCell};
-}
-
 FrmCourseSchedule::FrmCourseSchedule(Platform& platform, EditorHost& host)
     : Form("frmCourseSchedule"), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
@@ -76,7 +65,6 @@ void FrmCourseSchedule::buildControls() {
         field.border = true;
         Control& small = add(ControlKind::CommandButton, pick, "", left + width, 960, 300, 315);
         small.caption = "...";
-        small.tabStop = false;
     }
     label("LabelClassSchedule", 240, 1560, 3000, "Class Schedule");
     add(ControlKind::ComboBox, "ComboBoxClassList", "", 240, 1800, 3240, 315);
@@ -89,11 +77,10 @@ void FrmCourseSchedule::buildControls() {
     add(ControlKind::TextBox, "TextBoxClassName", "", 240, 2760, 2760, 315).border = true;
     Control& accent = add(ControlKind::CommandButton, "ButtonAccentColor", "", 3000, 2760, 360, 315);
     accent.caption = "B";
-    accent.tabStop = false;
     label("LabelClassColor", 240, 3180, 3000, "Class Color");
     Control& grid = addDrawable("picColorGrid", "", 240, 3420, kColorGridColumns * kColorGridCell,
                                 kColorGridRows * kColorGridCell);
-    grid.tabStop = false;
+    grid.accessibleName = "Class Color";
     add(ControlKind::RadioButton, "OptionBackColor", "", 2460, 3420, 1200, 285).caption = "Background";
     add(ControlKind::RadioButton, "OptionForeColor", "", 2460, 3720, 1200, 285).caption = "Text";
     label("LabelNotes", 3720, 2520, 2640, "Notes");
@@ -127,28 +114,18 @@ void FrmCourseSchedule::bindHandlers() {
         ButtonAccentColor->caption.assign(1, white ? 'W' : 'B');
         TextBoxClassName->foreColor = white ? kWhite : kBlack;
     });
-    on(picColorGrid.key(), FormEvent::MouseDown, [this](const EventArgs& args) { picColorGrid_MouseDown(args); });
+    bindColorGrid();
     on(TextBoxTermName.key(), FormEvent::Change, [this](const EventArgs&) {
         tempTermName = TextBoxTermName->text;
         ChangeFlag = kTrue;
     });
+    defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
 }
 
 void FrmCourseSchedule::Form_Load() {
     PaintColorGrid();
     setChecked(OptionBackColor.key(), true);
-}
-
-void FrmCourseSchedule::PaintColorGrid() {
-    Canvas& canvas = *picColorGrid->canvas;
-    const ColorVocabulary& colors = standardColors();
-    canvas.clear(kButtonFace);
-    for (int n = 1; n <= colors.ColorValues.count(); ++n) {
-        const auto [x, y] = ColorGridCellOrigin(n);
-        canvas.filledBox(x, y, x + kColorGridCell, y + kColorGridCell, kBlack);
-        canvas.filledBox(x + 15, y + 15, x + kColorGridCell - 15, y + kColorGridCell - 15, colors.ColorValues(n));
-    }
 }
 
 void FrmCourseSchedule::setTermStart(Date date) {
@@ -185,6 +162,10 @@ void FrmCourseSchedule::Form_Activate() {
         CancelledFlag = kTrue;
     }
     ClassEditMode.clear();
+    // The window lives on between terms: the class panel starts empty, never with the
+    // class last edited in another term.
+    TextBoxClassName->text.clear();
+    TextBoxClassNotes->text.clear();
     ResetClassPanel();
     CloseOK = kFalse;
     picker_->reset();
@@ -217,6 +198,9 @@ void FrmCourseSchedule::enableClassPanel(bool panel) {
                                       &ButtonAddClass, &ButtonEditClass, &ButtonOK, &ButtonCancel, &ButtonDelete})
         (*control)->enabled = !panel;
     c("ButtonTermStart").enabled = c("ButtonTermEnd").enabled = !panel;
+    // While a class is open, Enter and Escape are its own OK and Cancel.
+    defaultButton = panel ? ButtonOKClass.key() : ButtonOK.key();
+    cancelButton = panel ? ButtonCancelClass.key() : ButtonCancel.key();
 }
 
 void FrmCourseSchedule::ResetClassPanel() {
@@ -382,20 +366,6 @@ void FrmCourseSchedule::ButtonDelete_Click() {
     CloseOK = kTrue;
     CancelledFlag = kFalse;
     hide();
-}
-
-void FrmCourseSchedule::picColorGrid_MouseDown(const EventArgs& args) {
-    if (!picColorGrid->enabled) return;
-    const int n = ColorGridCellAt(args.x, args.y);
-    if (n == 0) return;
-    const ColorVocabulary& colors = standardColors();
-    if (OptionForeColor->checked) {
-        TextBoxClassName->foreColor = colors.ColorValues(n);
-        ForeColorName = colors.ColorNames(n);
-    } else {
-        TextBoxClassName->backColor = colors.ColorValues(n);
-        BackColorName = colors.ColorNames(n);
-    }
 }
 
 bool FrmCourseSchedule::ask(const std::string& text) {

@@ -25,6 +25,9 @@ class EditorHost;
 constexpr int kColorGridColumns = 14, kColorGridRows = 10, kColorGridCell = 150;
 int ColorGridCellAt(int x, int y);
 std::pair<int, int> ColorGridCellOrigin(int n);
+// The cell a key moves the grid's keyboard ring to: the arrows by a cell or a row, Home
+// and End to the first and last; it stays at the grid's edges.
+int ColorGridKeyStep(int cell, int keyCode);
 
 class FrmCourseSchedule : public Form, public DatePickerOwner, public HasDatePicker {
 public:
@@ -49,6 +52,7 @@ public:
     Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, CloseOK = kFalse, DeleteFlag = kFalse;
     std::string EditMode = "New";
     std::string ForeColorName = "Black", BackColorName = "White";
+    int KeyboardColorCell = 1;  // the grid's cell the arrows stand on
 
     // Sets both forms of a date field.
     void setTermStart(Date date);
@@ -100,7 +104,8 @@ private:
     void ButtonDeleteClass_Click();
     void ButtonOK_Click();
     void ButtonDelete_Click();
-    void picColorGrid_MouseDown(const EventArgs& args);
+    void bindColorGrid();
+    void chooseColor(int n);
     bool ask(const std::string& text);
     void tell(const std::string& text);
 

@@ -50,7 +50,6 @@ void FrmEvent::buildControls() {
     date.border = true;
     Control& pick = add(ControlKind::CommandButton, "picButtonEventDate", "", 2940, 360, 300, 315);
     pick.caption = "...";
-    pick.tabStop = false;
     label("LabelTime", 3420, 120, 1260, "Time");
     add(ControlKind::ComboBox, "ComboTime", "", 3420, 360, 1260, 315);
     label("LabelType", 4800, 120, 1290, "Type");
@@ -69,6 +68,7 @@ void FrmEvent::buildControls() {
     Control* link = label("LabelViewRecurring", 240, 3240, 2160, "Show Recurring Events");
     link->foreColor = rgb(0, 0, 255);
     link->underline = true;
+    link->focusable = true;
     int left = 2460;
     for (const auto& [name, text] : {std::pair{"ButtonShare", "Share"}, {"ButtonDelete", "Delete"},
                                      {"ButtonOK", "OK"}, {"ButtonCancel", "Cancel"}}) {
@@ -97,6 +97,7 @@ void FrmEvent::bindHandlers() {
           &ComboMonthlyDay, &RadioYearlyThisDate, &RadioYearlyUser, &ComboYearlyNumber, &ComboYearlyDay})
         changes(control->key(), FormEvent::Click);
     for (const char* box : kWeekdayBoxes) changes(box, FormEvent::Click);
+    defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
 }
 

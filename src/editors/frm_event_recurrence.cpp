@@ -85,7 +85,6 @@ void FrmEvent::buildRecurrencePanel() {
     end.border = true;
     Control& pick = add(ControlKind::CommandButton, "picButtonEndDate", "", 3300, 5790, 300, 315);
     pick.caption = "...";
-    pick.tabStop = false;
 }
 
 void FrmEvent::bindRecurrenceHandlers() {

@@ -41,7 +41,6 @@ void FrmTask::buildControls() {
     date.border = true;
     Control& pick = add(ControlKind::CommandButton, "picButtonTaskDate", "", 3540, 360, 300, 315);
     pick.caption = "...";
-    pick.tabStop = false;
     label("LabelType", 3960, 120, 2160, "Type");
     add(ControlKind::ComboBox, "ComboType", "", 3960, 360, 2160, 315);
 
@@ -96,6 +95,7 @@ void FrmTask::bindHandlers() {
         showDeadline(CheckBoxDeadline->checked);
     });
     on("picHelp", FormEvent::Click, [this](const EventArgs&) { platform_.windowing.enterWhatsThisMode(); });
+    defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
 }
 

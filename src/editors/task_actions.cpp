@@ -46,6 +46,7 @@ void RecordActions::NewTask() {
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveTask(0));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Task, store_.TaskRecordNos.count());
 }
 
 void RecordActions::EditTask(int row) {
@@ -71,6 +72,7 @@ void RecordActions::EditTask(int row) {
     kTaskBinding.storeRow(s, row, s.TaskRecord);
     static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
     host_.refresh("NewRecord");
+    host_.showSavedRow(SavedRecordKind::Task, row);
 }
 
 }  // namespace qh

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "common/text.h"
 #include "export/page_text.h"
@@ -36,21 +38,33 @@ std::string link(const std::string& title, std::string_view shown) {
 
 std::optional<Date> dateOf(const std::string& field) { return parseDateText(field); }
 
-// The slots of one day as they are filled, at most `lines` of them.
+// The slots of one day: its entries in the order added, in at most `lines` slots. A day
+// with more entries than slots shows the first ones and, as its last line, how many more
+// it has ("+3 more"), so that no entry leaves the sheet without a trace.
 class DayLines {
 public:
     DayLines(CalendarFill& fill, int first, int lines) : fill_(fill), first_(first), lines_(lines) {}
-    bool full() const { return used_ >= lines_; }
-    void add(std::string text) {
-        if (!full()) fill_.texts[std::size_t(first_ + used_++)] = std::move(text);
-    }
-    void fillRest() {
-        while (!full()) add(std::string(kBlankCell));
+    void add(std::string text) { entries_.push_back(std::move(text)); }
+    // Writes the day's slots, blank below its last entry.
+    void write() {
+        const std::size_t lines = std::size_t(lines_);
+        const bool overflow = entries_.size() > lines;
+        const std::size_t shown = overflow ? lines - 1 : entries_.size();
+        for (std::size_t j = 0; j < lines; ++j) {
+            std::string& slot = fill_.texts[std::size_t(first_) + j];
+            if (j < shown)
+                slot = std::move(entries_[j]);
+            else if (j == shown && overflow)
+                slot = "&nbsp;+" + std::to_string(entries_.size() - shown) + " more";
+            else
+                slot = std::string(kBlankCell);
+        }
     }
 
 private:
     CalendarFill& fill_;
-    int first_, lines_, used_ = 0;
+    int first_, lines_;
+    std::vector<std::string> entries_;
 };
 
 void fillHomeworkDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame& frame) {
@@ -103,12 +117,11 @@ void fillHomeworkDays(CalendarFill& fill, const RecordStore& s, const CalendarFr
                 const long long estimate = ReadSpan(s.AssignmentEstTimes.valueOr(i, kNone)).totalMinutes();
                 estimated += estimate;
                 spent += sessions;
-                if (!lines.full())
-                    lines.add("&nbsp;" + SheetTime(std::max(0LL, estimate - sessions)) + "&nbsp;" +
-                              linkOf(i, " (" + EscapeHtml(s.AssignmentDifficulties.valueOr(i, kNone)) + ")"));
+                lines.add("&nbsp;" + SheetTime(std::max(0LL, estimate - sessions)) + "&nbsp;" +
+                          linkOf(i, " (" + EscapeHtml(s.AssignmentDifficulties.valueOr(i, kNone)) + ")"));
             }
         }
-        lines.fillRest();
+        lines.write();
         const long long left = std::max(0LL, estimated - spent);
         fill.texts[std::size_t(first + kHomeworkLines)] =
             left > 0 ? "&nbsp;" + SheetTime(left) + "&nbsp;Time Left" : std::string(kBlankCell);
@@ -130,7 +143,6 @@ void fillTaskDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame&
             for (int i = 1; i <= tasks; ++i) {
                 if (dated[std::size_t(i)] != day || (s.TaskDones.valueOr(i, kNone) == kTrueText) != done) continue;
                 open = open || !done;
-                if (lines.full()) continue;
                 const std::string& priority = s.TaskPriorities.valueOr(i, kNone);
                 const std::string& description = s.TaskDescriptions(i);
                 const std::string title = (priority == "None" ? std::string() : EscapeHtml(priority) + " Priority: ") +
@@ -139,7 +151,7 @@ void fillTaskDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame&
                           link(title, FirstCharacters(description, 18)));
             }
         }
-        lines.fillRest();
+        lines.write();
         fill.texts[std::size_t(first + kDayLines)] = open ? "&nbsp;&nbsp;" : std::string(kBlankCell);
     }
 }
@@ -157,14 +169,13 @@ void fillEventDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame
         const int first = kContents + kDaySlots * c;
         DayLines lines(fill, first, kDayLines);
         for (const Live& event : events) {
-            if (lines.full()) break;
             if (!occursOn(event.rule, day)) continue;
             const std::string& time = s.EventTimes.valueOr(event.row, kNone);
             const std::string& description = s.EventDescriptions(event.row);
             const std::string title = (time == "None" ? std::string() : EscapeHtml(time) + " - ") + EscapeHtml(description);
             lines.add("&nbsp;" + link(title, FirstCharacters(description, 20)));
         }
-        lines.fillRest();
+        lines.write();
         fill.texts[std::size_t(first + kDayLines)].clear();
     }
 }

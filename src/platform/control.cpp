@@ -37,7 +37,8 @@ bool Control::canTakeFocus() const {
         case ControlKind::RadioButton:
         case ControlKind::CommandButton:
         case ControlKind::ScrollBar: return true;
-        case ControlKind::PictureBox: return focusable;
+        case ControlKind::PictureBox:
+        case ControlKind::Label: return focusable;
         default: return false;
     }
 }

@@ -65,7 +65,8 @@ struct Control {
     int z = 0;  // stacking order among siblings: higher lies on top
 
     bool tabStop = true;  // Tab visits it (when it can take the focus at all)
-    // A picture box that takes the keyboard focus and its keys (the calendar, the grid).
+    // A picture box that takes the keyboard focus and its keys (the calendar, the grid),
+    // or a label that is a link: it takes the focus, and Space or Enter clicks it.
     bool focusable = false;
 
     // What a pointer resting on it says, and what a screen reader calls it. Without a

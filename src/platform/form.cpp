@@ -205,13 +205,18 @@ void Form::pressKey(int keyCode, int character, int shift) {
         fire(target, FormEvent::KeyPress, args);
     }
     const bool multiLineFocused = has(target) && c(target).kind == ControlKind::TextBox && c(target).multiLine;
-    // Enter presses the focused button, else the window's default one.
+    // Enter presses the focused button (Enter or Space a focused link), else the window's
+    // default one.
     const bool buttonFocused = has(target) && c(target).kind == ControlKind::CommandButton;
-    if (keyCode == kKeyReturn && buttonFocused)
+    const bool linkFocused = has(target) && c(target).kind == ControlKind::Label && c(target).focusable;
+    // A box that takes the keys (a calendar, the date picker) has Enter and Escape as well.
+    const bool keyBoxFocused = has(target) && c(target).kind == ControlKind::PictureBox && c(target).focusable &&
+                               handles(target, FormEvent::KeyDown);
+    if ((keyCode == kKeyReturn && buttonFocused) || ((keyCode == kKeyReturn || keyCode == ' ') && linkFocused))
         click(target);
-    else if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused)
+    else if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused && !keyBoxFocused)
         click(defaultButton);
-    if (keyCode == kKeyEscape && !cancelButton.empty()) click(cancelButton);
+    if (keyCode == kKeyEscape && !cancelButton.empty() && !keyBoxFocused) click(cancelButton);
     if (keyCode == kKeyTab) {
         // From a control that is no tab stop (a read-only box clicked into), Tab goes on
         // from its place on the window.

@@ -131,8 +131,10 @@ public:
     std::string wheelTarget(const std::string& key) const;
     void tick(const std::string& timerKey);
     // A key pressed while the window has the focus: KeyDown on the focused control, then
-    // KeyPress for a character; Enter clicks the focused button, else the default button
-    // (unless a multi-line box has the focus), and Escape the cancel button.
+    // KeyPress for a character; Enter clicks the focused button (Enter or Space a focused
+    // link), else the default button
+    // (unless a multi-line box has the focus), and Escape the cancel button; a focused box
+    // that takes keys keeps Enter and Escape for itself.
     void pressKey(int keyCode, int character = 0, int shift = 0);
 
     // The focus. focusTo is the gesture (a click, Tab, the toolkit's own focus change): it

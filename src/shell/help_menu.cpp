@@ -10,8 +10,8 @@
 namespace qh {
 namespace {
 
-// The desktop's opener stands in for the help viewer and the video player: it starts the
-// browser or the player the student has chosen, so the planner names none of its own.
+// The desktop's opener stands in for the help viewer: it starts the browser the student
+// has chosen, so the planner names none of its own.
 constexpr const char* kDesktopOpener = "xdg-open";
 
 std::string quoted(const std::string& path) { return "\"" + path + "\""; }
@@ -27,9 +27,12 @@ void MainWindow::bindHelpHandlers() {
         StartTipsIfWanted();
     });
     onClick("MenuHelpDB", [this] { ShowHelpFile(); });
-    onClick("MenuVideo1", [this] { PlayVideo("ClassSchedule.wmv"); });
-    onClick("MenuVideo2", [this] { PlayVideo("AddAssignment.wmv"); });
-    onClick("MenuVideo3", [this] { PlayVideo("FinishAssignment.wmv"); });
+    // The tutorials are pages of the help book, with pictures of each step, not videos.
+    for (int n = 1; n <= 3; ++n)
+        onClick("MenuVideo" + std::to_string(n), [this, n] {
+            OpenWithDesktop(platform.processes, platform.messages,
+                            HelpBookAddress(platform.environment, kTutorialPages[n - 1]));
+        });
     auto openHomeworkHelp = [this] {
         OpenWithDesktop(platform.processes, platform.messages,
                         HelpBookAddress(platform.environment, kHomeworkHelpPage));
@@ -64,7 +67,7 @@ void MainWindow::StartTipsIfWanted() {
 
 void MainWindow::recordStartedProcess(std::int32_t processId) {
     // The mark only lets the drive's platform end the process when the drive goes; the
-    // page or the video is open already, so a host folder that takes no file is no reason
+    // page is open already, so a host folder that takes no file is no reason
     // to stop the planner or to trouble the student.
     try {
         platform.files.createEmpty(
@@ -83,19 +86,6 @@ void MainWindow::ShowHelpFile() {
         return;
     }
     recordStartedProcess(processId);
-}
-
-void MainWindow::PlayVideo(const std::string& file) {
-    // The videos lie on the host, not on the drive.
-    const std::string path = joinPath(platform.environment.get("U3_HOST_EXEC_PATH"), file);
-    try {
-        // The opener starts even for a file that is not there; only the player would notice.
-        if (!platform.files.exists(path)) throw FileFailure("No such file: " + path);
-        recordStartedProcess(platform.processes.startCommand(std::string(kDesktopOpener) + " " + quoted(path)));
-    } catch (const FileFailure&) {
-        platform.messages.show("Sorry, could not find the video file.", "File Error", MessageButtons::OK,
-                               MessageIcon::Exclamation);
-    }
 }
 
 void MainWindow::ShowAbout(Form& owner) {

@@ -39,6 +39,27 @@ void MainWindow::bindKeyboardAndWheel() {
         });
 }
 
+void MainWindow::showSavedRow(SavedRecordKind kind, int row) {
+    const Mode mode = CurrentMode();
+    const Column<int>* rows = kind == SavedRecordKind::Assignment && mode == Mode::Homework ? &state.ListAssignmentRows
+                              : kind == SavedRecordKind::Task && mode == Mode::Tasks     ? &state.ListTaskRows
+                              : kind == SavedRecordKind::Event && mode == Mode::Events   ? &state.ListEventRows
+                                                                                         : nullptr;
+    if (!rows) return;
+    for (int p = 1; p <= rows->count(); ++p) {
+        if ((*rows)(p) != row) continue;
+        // In sight as it is, or in the middle of the grid; the keyboard stands on it and the
+        // grid takes the focus, so that it shows framed and Enter opens it again.
+        const bool inSight = p >= state.TopRow && p < state.TopRow + state.RowsVisible;
+        const int top = inSight ? state.TopRow : p - state.RowsVisible / 2;
+        const GridView view = ClampGridView({top, p - top + 1}, state.RowCount, state.RowsVisible);
+        SetFocus("picGrid");
+        showGridView({view.topRow, p - view.topRow + 1});
+        RefillGrid();
+        return;
+    }
+}
+
 void MainWindow::showGridView(const GridView& view) {
     const GridView before{state.TopRow, state.KeyboardRow};
     if (view == before) return;

@@ -126,13 +126,13 @@ public:
     void refresh(const std::string& reason) override { Refresh(reason); }
     void selectTerm(const std::string& termName) override { SelectTerm(termName); }
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
+    void showSavedRow(SavedRecordKind kind, int row) override;
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();
     void ShowHelpFile();
     void ShowAbout(Form& owner);
     // Starts the player on a tutorial video of the host folder, or says it can't.
-    void PlayVideo(const std::string& file);
     // The Tip of the Day window, loaded at its first use and kept.
     FrmTip& tipWindow();
     // The File menu's export and print commands (file_menu.cpp).

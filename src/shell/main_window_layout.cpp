@@ -200,6 +200,9 @@ void MainWindow::buildControls() {
     scroll.value = 1;
     scroll.enabled = false;
     scroll.accessibleName = "Scroll the list";
+    // The list has the keys; Tab from it goes on to the next control, not to its bar,
+    // which would hand the focus straight back.
+    scroll.tabStop = false;
     addDrawable("picStatusBar", "", 0, 6105, 9480, 300);
 
     Control& statusTimer = add(ControlKind::Timer, "TimerStatusBar", "", 0, 0, 0, 0);

@@ -14,6 +14,9 @@ inline constexpr const char* kProductSitePage = "support.html";     // support a
 inline constexpr const char* kContactPage = "contactus.html";       // questions
 inline constexpr const char* kHomeworkHelpPage = "homework/index.html";  // study tips
 inline constexpr const char* kTutorialsPage = "tutorials.html";
+// The three tutorials of the Help menu's Video Tutorials, in its order.
+inline constexpr const char* kTutorialPages[] = {"tutorial_class_schedule.html", "tutorial_add_assignment.html",
+                                                 "tutorial_finish_assignment.html"};
 
 // The help book's folder: U3_DEVICE_EXEC_PATH/help.
 std::string HelpBookFolder(const Environment& environment);

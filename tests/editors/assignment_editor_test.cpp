@@ -209,7 +209,7 @@ TEST(AssignmentEditor, AnEditShowsTheRecordWithItsCorrections) {
     editor.window->EditAssignment(1);
     EXPECT_EQ(shown["TextboxDateDue"], "Tuesday, November 24, 2026");
     EXPECT_EQ(shown["TextBoxTotalTime"], "01 : 45");
-    EXPECT_EQ(shown["LabelClass"], " Classes Fall 2026");
+    EXPECT_EQ(shown["LabelClass"], "Classes Fall 2026");
     EXPECT_EQ(shown["first session"], "00 : 15    Friday, Nov 20, 2026");
 
     editor.use(look);

@@ -6,6 +6,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_course_schedule.h"
 #include "editors/frm_select_course_schedule.h"
+#include "record_store/color_vocabulary.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -220,6 +221,75 @@ TEST(ClassSchedule, ProposesTheSeasonByMonthAndSeventyDays) {
     });
     empty.window->click("MenuClassSchedule");
     EXPECT_EQ(empty.fake.windowing.log.back(), "modal frmSelectCourseSchedule");
+}
+
+// The window lives on between terms, yet each showing starts with its own classes: a new
+// term's class panel is empty after a class of another term was opened, and one based on
+// a term lists that term's classes with the panel empty too.
+TEST(ClassSchedule, EachShowingStartsWithItsOwnClassPanel) {
+    Schedule schedule;
+    const auto panelOf = [](FrmCourseSchedule& w) {
+        return w.TextBoxClassName->text + "|" + w.TextBoxClassNotes->text + "|" +
+               (w.TextBoxClassName->enabled ? "open" : "shut");
+    };
+    std::vector<std::string> panels, classes;
+    const auto look = [&](FrmCourseSchedule& w) {
+        panels.push_back(panelOf(w));
+        classes.push_back(w.ComboBoxClassList->text + "/" + std::to_string(w.ComboBoxClassList->items.size()));
+    };
+    schedule.run([](auto& s) { pickTerm(s, "Fall 2026", "ButtonEdit"); },
+                 [&](FrmCourseSchedule& w) {
+                     w.click("ButtonEditClass");
+                     w.type("TextBoxClassNotes", "Chapter 4");
+                     look(w);
+                     w.click("ButtonCancelClass");
+                     w.click("ButtonCancel");
+                 });
+    schedule.run([](auto& s) { s.click("ButtonNew"); }, [&](FrmCourseSchedule& w) {
+        look(w);
+        w.hide();
+    });
+    schedule.run([](auto& s) { pickTerm(s, "Summer 2026", "ButtonNew", true); }, [&](FrmCourseSchedule& w) {
+        look(w);
+        w.hide();
+    });
+    EXPECT_EQ(panels, (std::vector<std::string>{"Algebra|Chapter 4|open", "||shut", "||shut"}));
+    EXPECT_EQ(classes, (std::vector<std::string>{"Algebra/2", "/0", "Chemistry/1"}));
+}
+
+// The class panel from the keyboard: the arrows move the grid's ring from the colour the
+// choice holds, Enter chooses, and Enter in the class name is the panel's OK, after which
+// Enter and Escape belong to the window's own OK and Cancel again.
+TEST(ClassSchedule, TheClassPanelAndItsColourGridTakeTheKeys) {
+    Schedule schedule;
+    std::vector<std::string> seen;
+    schedule.run([](auto& s) { s.click("ButtonNew"); }, [&](FrmCourseSchedule& w) {
+        w.click("ButtonAddClass");
+        seen.push_back(w.defaultButton + " " + w.cancelButton);
+        w.type("TextBoxClassName", "Poetry");
+        w.focusTo("picColorGrid");
+        const int white = w.KeyboardColorCell;
+        for (int key : {kKeyRight, kKeyDown, kKeyReturn}) w.pressKey(key);
+        seen.push_back(std::to_string(w.KeyboardColorCell - white) + " " + w.BackColorName);
+        w.focusTo("TextBoxClassName");
+        w.pressKey(kKeyReturn);
+        seen.push_back(w.ComboBoxClassList->text + " " + w.defaultButton + " " + w.cancelButton);
+        w.hide();
+    });
+    const ColorVocabulary& colors = standardColors();
+    int white = 0;
+    for (int n = 1; n <= colors.ColorNames.count(); ++n)
+        if (colors.ColorNames(n) == "White") white = n;
+    ASSERT_GT(white, 0);
+    EXPECT_EQ(seen, (std::vector<std::string>{"ButtonOKClass ButtonCancelClass",
+                                              "15 " + colors.ColorNames(white + 15),
+                                              "Poetry ButtonOK ButtonCancel"}));
+    // The ring stays inside the grid.
+    EXPECT_EQ(ColorGridKeyStep(1, kKeyLeft), 1);
+    EXPECT_EQ(ColorGridKeyStep(14, kKeyRight), 15);
+    EXPECT_EQ(ColorGridKeyStep(130, kKeyDown), 130);
+    EXPECT_EQ(ColorGridKeyStep(5, kKeyUp), 5);
+    EXPECT_EQ(ColorGridKeyStep(70, kKeyEnd), 140);
 }
 
 // The grid's hit function and its inverse agree on every colour, and miss outside.

@@ -199,5 +199,33 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
     EXPECT_TRUE(tasks.messageTexts().empty());
 }
 
+// After OK the list stands on the saved task: a new one far down a long list is scrolled
+// into sight and framed for the keyboard, an edited one high up too; the list has the
+// focus, so Enter opens the row again.
+TEST(TaskEditor, TheListScrollsToAndFramesTheSavedTask) {
+    std::string file;
+    for (int n = 1; n <= 40; ++n)
+        file += taskRecord({.recordNo = n, .description = "Chore " + std::to_string(100 + n), .date = "2026/11/20"});
+    Tasks tasks(file);
+    MainWindow& window = *tasks.window;
+    window.click("MenuTasks");
+    window.select("ComboDateRange", "All");
+    const auto framed = [&] {
+        const int p = window.state.TopRow - 1 + window.state.KeyboardRow;
+        return window.state.KeyboardRow > 0 && window.state.ListTaskRows.has(p) ? window.state.ListTaskRows(p) : 0;
+    };
+    ASSERT_GT(window.state.RowCount, window.state.RowsVisible);
+    tasks.run(0, [](FrmTask& w) {
+        w.type("TextBoxDescription", "Zebra chore");
+        w.click("ButtonOK");
+    });
+    EXPECT_EQ(framed(), 41);
+    EXPECT_GT(window.state.TopRow, 1);
+    EXPECT_EQ(window.focusedControl, "picGrid");
+    tasks.run(3, [](FrmTask& w) { w.click("ButtonOK"); });
+    EXPECT_EQ(framed(), 3);
+    EXPECT_EQ(window.c("VSGridScroll").value, window.state.TopRow);
+}
+
 }  // namespace
 }  // namespace qh

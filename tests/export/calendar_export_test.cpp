@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "export_fixture.h"
+#include "recurrence/event_records.h"
 
 namespace qh::testing {
 namespace {
@@ -92,6 +93,44 @@ TEST(CalendarSheets, AFiveWeekMonthFillsFortyTwoCellsAndShadesTheOthers) {
             }
         }
         EXPECT_EQ(fill.texts[9 + 41], "8");  // 8 March
+    }
+}
+
+// A day with more entries than its lines shows the first ones and, as its last line, how
+// many more it has; a day that just fits shows them all.
+TEST(CalendarSheets, ADayWithMoreEntriesThanLinesEndsWithHowManyMore) {
+    const struct {
+        CalendarSheet sheet;
+        int entries;
+        const char* lastLine;  // empty: the last entry itself
+    } cases[] = {{CalendarSheet::Homework, 4, ""},         {CalendarSheet::Homework, 5, "&nbsp;+2 more"},
+                 {CalendarSheet::Homework, 7, "&nbsp;+4 more"}, {CalendarSheet::Tasks, 5, ""},
+                 {CalendarSheet::Tasks, 6, "&nbsp;+2 more"},    {CalendarSheet::Events, 7, "&nbsp;+3 more"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::to_string(int(c.sheet)) + " with " + std::to_string(c.entries));
+        RecordStore store;
+        for (int i = 1; i <= c.entries; ++i) {
+            const std::string name = "Entry " + std::to_string(i);
+            if (c.sheet == CalendarSheet::Homework) addAssignment(store, {.date = "2026/11/26", .description = name});
+            if (c.sheet == CalendarSheet::Tasks) addTask(store, {.description = name, .date = "2026/11/26"});
+            if (c.sheet == CalendarSheet::Events) qh::test::addEvent(store, {.date = "2026/11/26", .description = name});
+        }
+        CalendarFrame frame;
+        for (int d = 0; d < 42; ++d) frame.dates[std::size_t(d)] = dateFromYmd(2026, 11, 26) + d;
+        const CalendarFill fill = FillCalendar(c.sheet, store, frame);
+        const bool homework = c.sheet == CalendarSheet::Homework;
+        const int first = homework ? 93 : 51, lines = homework ? 4 : 5;
+        int links = 0;
+        for (int j = 0; j < lines; ++j)
+            if (fill.texts[std::size_t(first + j)].find("<a ") != std::string::npos) ++links;
+        const std::string& last = fill.texts[std::size_t(first + lines - 1)];
+        if (*c.lastLine) {
+            EXPECT_EQ(last, c.lastLine);
+            EXPECT_EQ(links, lines - 1);
+        } else {
+            EXPECT_NE(last.find("Entry " + std::to_string(c.entries)), std::string::npos) << last;
+            EXPECT_EQ(links, c.entries);
+        }
     }
 }
 

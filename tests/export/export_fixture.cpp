@@ -34,7 +34,7 @@ void AddFixedPlanner(RecordStore& s) {
                       .estimate = "00 : 45", .type = "Project"});
     addAssignment(s, {.classLink = 1, .date = "2026/11/23", .description = "Read <Hamlet> & take \"notes\"",
                       .estimate = "12 : 30", .difficulty = "Hard", .reminder = "2 Days"});
-    // 25 November: six open ones; the sixth is not listed but counts.
+    // 25 November: six open ones; three are listed, the last line says "+3 more", all count.
     for (int i = 1; i <= 6; ++i)
         addAssignment(s, {.classLink = i % 2 + 1, .date = "2026/11/25",
                           .description = "Worksheet " + std::to_string(i), .estimate = "01 : 0" + std::to_string(i)});

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QTest>
 #include <QWheelEvent>
@@ -324,13 +325,29 @@ TEST(PlannerLook, OneStyleAndALightPaletteWhateverTheDesktopOffers) {
     dark.setColor(QPalette::Window, QColor(0x30, 0x30, 0x30));
     dark.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
     dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Disabled, QPalette::Button, QColor(0x30, 0x30, 0x30));
+    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x40, 0x40, 0x40));
     app.setPalette(dark);
     applyPlannerLook(app);
-    EXPECT_EQ(app.style()->name().toLower(), "fusion");
+    const QStyle* style = app.style();
+    if (const auto* proxy = qobject_cast<const QProxyStyle*>(style)) style = proxy->baseStyle();
+    EXPECT_EQ(style->name().toLower(), "fusion");
     const QPalette now = QApplication::palette();
     EXPECT_GT(now.color(QPalette::Window).lightness(), 200);
     EXPECT_EQ(now.color(QPalette::Base), QColor(Qt::white));
     EXPECT_EQ(now.color(QPalette::Text), QColor(Qt::black));
+    // Every state is the planner's own: a disabled button is grey on the light face, and
+    // no colour is left for a desktop's theme to fill in.
+    EXPECT_GT(now.color(QPalette::Disabled, QPalette::Button).lightness(), 200);
+    EXPECT_GT(now.color(QPalette::Disabled, QPalette::Button).lightness() -
+                  now.color(QPalette::Disabled, QPalette::ButtonText).lightness(),
+              80);
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        if (role == QPalette::NoRole) continue;
+        EXPECT_TRUE(now.isBrushSet(QPalette::Disabled, static_cast<QPalette::ColorRole>(role))) << role;
+    }
+    // A drop-down list opens below its box, as many lines as the box allows.
+    EXPECT_EQ(app.style()->styleHint(QStyle::SH_ComboBox_Popup), 0);
 }
 
 }  // namespace

@@ -39,8 +39,8 @@ TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
     EXPECT_TRUE(main.fake.messages.shown.empty());
 }
 
-// Help, the web entries, the tip's tutorials line and About's link lead to their pages of
-// the book; when the desktop can't follow, the student reads what could not be opened,
+// Help, the web entries, the tutorials (the menu's and the tip's line) and About's link lead
+// to their pages of the book; when the desktop can't follow, the student reads what could not be opened,
 // nothing is left behind for a process that never started, and the planner goes on.
 TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
     const struct {
@@ -54,6 +54,12 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
         {"globe", [](MainWindow& w, FakePlatform&) { w.click("PictureBarWeb"); }, "/help/homework/index.html"},
         {"tip's tutorials", [](MainWindow& w, FakePlatform&) { w.tipWindow().click("LabelVideo"); },
          "/help/tutorials.html"},
+        {"video tutorial 1", [](MainWindow& w, FakePlatform&) { w.click("MenuVideo1"); },
+         "/help/tutorial_class_schedule.html"},
+        {"video tutorial 2", [](MainWindow& w, FakePlatform&) { w.click("MenuVideo2"); },
+         "/help/tutorial_add_assignment.html"},
+        {"video tutorial 3", [](MainWindow& w, FakePlatform&) { w.click("MenuVideo3"); },
+         "/help/tutorial_finish_assignment.html"},
         {"About's link",
          [](MainWindow& w, FakePlatform& fake) {
              fake.windowing.modalUsers["frmAbout"].push_back([](Form& about) {
@@ -87,41 +93,6 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
         EXPECT_NE(tried[1].find(target), std::string::npos) << tried[1];
         EXPECT_EQ(pidFiles(main.fake.host).size(), started ? 2u : 1u);
         EXPECT_TRUE(fs::exists(std::string(QH_SOURCE_DIR) + c.target));  // the book holds the page
-    }
-}
-
-TEST(HelpMenu, AVideoPlaysFromTheHostFolderOrTheStudentHearsItIsMissing) {
-    const struct {
-        const char* menu;
-        const char* file;
-    } videos[] = {{"MenuVideo1", "ClassSchedule.wmv"},
-                  {"MenuVideo2", "AddAssignment.wmv"},
-                  {"MenuVideo3", "FinishAssignment.wmv"}};
-    for (const auto& video : videos) {
-        SCOPED_TRACE(video.menu);
-        LoadedMainWindow main;
-        MainWindow& window = main.load();
-        const std::string path = main.fake.host + "/" + video.file;
-        // Missing file: nothing starts. Present but the player fails: the same message.
-        window.click(video.menu);
-        EXPECT_TRUE(main.fake.processes.started.empty());
-        main.fake.writeBytes(path, "video");
-        main.fake.processes.startFails = true;
-        window.click(video.menu);
-        ASSERT_EQ(main.fake.messages.shown.size(), 2u);
-        for (const ShownMessage& shown : main.fake.messages.shown) {
-            EXPECT_EQ(shown.text, "Sorry, could not find the video file.");
-            EXPECT_EQ(shown.title, "File Error");
-            EXPECT_EQ(shown.icon, MessageIcon::Exclamation);
-            EXPECT_EQ(shown.buttons, MessageButtons::OK);
-        }
-        // Both there: it plays, and its process leaves its .PID file.
-        main.fake.processes.startFails = false;
-        window.click(video.menu);
-        EXPECT_EQ(main.fake.messages.shown.size(), 2u);
-        EXPECT_EQ(main.fake.processes.started.back(), "xdg-open \"" + path + "\"");
-        const std::string pid = std::to_string(5000 + main.fake.processes.started.size()) + ".PID";
-        EXPECT_TRUE(fs::exists(main.fake.host + "/" + pid));
     }
 }
 

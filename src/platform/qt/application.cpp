@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
@@ -15,8 +16,25 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv), rep
     applyPlannerLook(*this);
 }
 
+namespace {
+
+// Fusion opens a drop-down list as a menu laid over its box, as tall as the screen for a
+// long list (the 119 times of day); the planner's lists drop below their box instead and
+// show at most the box's number of visible lines.
+class PlannerStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        if (hint == QStyle::SH_ComboBox_Popup) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
+}  // namespace
+
 void applyPlannerLook(QApplication& app) {
-    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) app.setStyle(fusion);
+    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) app.setStyle(new PlannerStyle(fusion));
     // Fusion's own light palette, with the button face of the planner's panels.
     QPalette light = app.style()->standardPalette();
     const QColor face(0xF0, 0xF0, 0xF0);
@@ -30,6 +48,21 @@ void applyPlannerLook(QApplication& app) {
         light.setColor(group, QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
         light.setColor(group, QPalette::ToolTipText, Qt::black);
     }
+    // A control that takes no input: grey text on the same faces.
+    const QColor grey(0x80, 0x80, 0x80);
+    light.setColor(QPalette::Disabled, QPalette::Window, face);
+    light.setColor(QPalette::Disabled, QPalette::Button, face);
+    light.setColor(QPalette::Disabled, QPalette::Base, face);
+    for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        light.setColor(QPalette::Disabled, role, grey);
+    // Every colour of every state is the planner's own: one left unset would come from the
+    // desktop's theme, and a dark theme then paints a disabled button dark on dark.
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            const auto each = static_cast<QPalette::ColorRole>(role);
+            if (each == QPalette::NoRole) continue;
+            light.setBrush(group, each, light.brush(group, each));
+        }
     app.setPalette(light);
 }
 

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QWhatsThis>
 
 #include "common/twips.h"
@@ -44,7 +45,9 @@ bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
     if (event->modifiers() & Qt::AltModifier) shift |= 4;
     const bool multiLine = form_.has(key) && form_.c(key).kind == ControlKind::TextBox && form_.c(key).multiLine;
     const bool button = form_.has(key) && form_.c(key).kind == ControlKind::CommandButton;
-    const bool enter = code == kKeyReturn && (button || (!form_.defaultButton.empty() && !multiLine));
+    const bool link = form_.has(key) && form_.c(key).kind == ControlKind::Label && form_.c(key).focusable;
+    const bool enter = (code == kKeyReturn && (button || link || (!form_.defaultButton.empty() && !multiLine))) ||
+                       (code == ' ' && link);
     const bool escape = code == kKeyEscape && !form_.cancelButton.empty();
     if (!enter && !escape && !form_.handles(key, FormEvent::KeyDown) && !form_.handles(key, FormEvent::KeyPress))
         return false;
@@ -100,9 +103,16 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
                     forward([this, key] { form_.Form_MouseDown(key); });
             }
             break;
-        case QEvent::KeyPress:
-            if (form_.has(key) && keyPressed(key, static_cast<QKeyEvent*>(event))) return true;
+        case QEvent::KeyPress: {
+            auto* press = static_cast<QKeyEvent*>(event);
+            if (auto* text = qobject_cast<QPlainTextEdit*>(widget);
+                text && press->key() == Qt::Key_Tab && press->modifiers() == Qt::ControlModifier) {
+                if (!text->isReadOnly()) text->insertPlainText(QStringLiteral("\t"));
+                return true;
+            }
+            if (form_.has(key) && keyPressed(key, press)) return true;
             break;
+        }
         case QEvent::QueryWhatsThis:
             event->setAccepted(form_.has(key) && form_.c(key).helpContextId != 0);
             return true;
@@ -145,6 +155,7 @@ void FormWindow::clientResizedByUser() {
 void FormWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     layoutClient();
+    applyFocusReach();
     if (!renderer_.applying() && isVisible()) clientResizedByUser();
 }
 

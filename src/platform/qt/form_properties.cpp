@@ -1,5 +1,6 @@
 // Applying a control's properties to its widget, and the window's own properties, after
-// every handler; only what changed since the last pass is touched.
+// every handler: what changed since the last pass, and every widget's user-changeable state
+// against the model.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -38,8 +39,8 @@ Qt::Alignment horizontal(Alignment alignment) {
 
 // A button's caption broken at spaces into the lines that fit its width, as the planner's
 // buttons show a long caption ("New Assignment") on two lines.
-QString wrappedCaption(const Control& control, const QFontMetrics& metrics) {
-    const QString caption = qs(control.caption);
+QString wrappedCaption(const std::string& marked, const Control& control, const QFontMetrics& metrics) {
+    const QString caption = qs(marked);
     const int room = toPixels(control.width) - 8;
     const QString shown = QString(caption).remove(QLatin1Char('&'));
     if (room <= 0 || metrics.horizontalAdvance(shown) <= room) return caption;
@@ -75,6 +76,8 @@ void setColors(QWidget* widget, const Control& control, QPalette::ColorRole back
 
 // Tab visits the model's stops; a control that is no stop still takes the focus by a
 // click, and a box that takes no focus never has it.
+// A control that lies beyond the window's edge (the study sessions below a small editor)
+// is out of reach of the keyboard too, so that no key acts on what no one can see.
 void FormWindow::applyFocusPolicy(QWidget* widget, const Control& control) {
     if (!control.canTakeFocus()) {
         if (control.kind == ControlKind::PictureBox || control.kind == ControlKind::Label)
@@ -82,7 +85,19 @@ void FormWindow::applyFocusPolicy(QWidget* widget, const Control& control) {
         return;
     }
     const bool stop = control.tabStop && !(control.kind == ControlKind::TextBox && control.locked);
-    widget->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
+    const Qt::FocusPolicy policy = !inSight(widget) ? Qt::NoFocus : stop ? Qt::StrongFocus : Qt::ClickFocus;
+    if (widget->focusPolicy() != policy) widget->setFocusPolicy(policy);
+}
+
+bool FormWindow::inSight(const QWidget* widget) const {
+    // The middle of the control inside each container up to the client area.
+    QPoint middle = widget->rect().center();
+    for (const QWidget* at = widget; at && at != client_; at = at->parentWidget()) {
+        middle = at->mapToParent(middle);
+        const QWidget* container = at->parentWidget();
+        if (!container || !container->rect().contains(middle)) return false;
+    }
+    return true;
 }
 
 void FormWindow::applyTabOrder() {
@@ -118,7 +133,7 @@ void FormWindow::applyCommon(QWidget* widget, const Control& now, const Control*
     applyAccessibility(widget, now, before);
 }
 
-void FormWindow::applyControl(View& view, const Control& now, const std::string&) {
+void FormWindow::applyControl(View& view, const Control& now, const std::string& key) {
     if (now.kind == ControlKind::Menu) {
         applyMenu(view, now);
         return;
@@ -137,6 +152,9 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
     if (!widget) return;
     applyCommon(widget, now, before);
     auto changed = [&](auto member) { return !before || before->*member != now.*member; };
+    const std::string caption = shownCaption(key, now);
+    const bool captionChanged = caption != view.caption;
+    view.caption = caption;
 
     switch (now.kind) {
         case ControlKind::Label:
@@ -145,13 +163,11 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
             break;
         case ControlKind::TextBox:
             if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-                if (edit->text() != qs(now.text)) edit->setText(qs(now.text));
                 if (changed(&Control::maxLength)) edit->setMaxLength(now.maxLength > 0 ? now.maxLength : 32767);
                 if (changed(&Control::locked)) edit->setReadOnly(now.locked);
                 if (changed(&Control::alignment)) edit->setAlignment(horizontal(now.alignment) | Qt::AlignVCenter);
                 if (changed(&Control::border)) edit->setFrame(now.border);
             } else if (auto* text = qobject_cast<QPlainTextEdit*>(widget)) {
-                if (text->toPlainText() != forDisplay(now.text)) text->setPlainText(forDisplay(now.text));
                 if (changed(&Control::locked)) text->setReadOnly(now.locked);
                 if (changed(&Control::border)) text->setFrameShape(now.border ? QFrame::StyledPanel : QFrame::NoFrame);
             }
@@ -164,7 +180,6 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
                 combo->clear();
                 combo->addItems(qsList(now.items));
             }
-            if (combo->currentIndex() != now.listIndex) combo->setCurrentIndex(now.listIndex);
             if (changed(&Control::backColor) || changed(&Control::foreColor))
                 setColors(widget, now, QPalette::Base, QPalette::Text);
             break;
@@ -175,7 +190,6 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
                 list->clear();
                 list->addItems(qsList(now.items));
             }
-            if (list->currentRow() != now.listIndex) list->setCurrentRow(now.listIndex);
             if (changed(&Control::backColor) || changed(&Control::foreColor))
                 setColors(widget, now, QPalette::Base, QPalette::Text);
             break;
@@ -183,15 +197,14 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
         case ControlKind::CheckBox:
         case ControlKind::RadioButton: {
             auto* button = static_cast<QAbstractButton*>(widget);
-            if (changed(&Control::caption)) button->setText(qs(now.caption));
-            if (button->isChecked() != now.checked) button->setChecked(now.checked);
+            if (captionChanged) button->setText(qs(caption));
             if (changed(&Control::foreColor)) setColors(widget, now, QPalette::Base, QPalette::WindowText);
             break;
         }
         case ControlKind::CommandButton: {
             auto* button = static_cast<QPushButton*>(widget);
-            if (!before || before->caption != now.caption || before->width != now.width || fontDiffers(*before, now))
-                button->setText(wrappedCaption(now, button->fontMetrics()));
+            if (!before || captionChanged || before->width != now.width || fontDiffers(*before, now))
+                button->setText(wrappedCaption(caption, now, button->fontMetrics()));
             if (changed(&Control::picture))
                 button->setIcon(now.picture.empty() ? QIcon()
                                                     : QIcon(QStringLiteral(":/pictures/%1.svg").arg(qs(now.picture))));
@@ -214,12 +227,55 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
                 bar->setRange(now.minimum, std::max(now.minimum, now.maximum));
             if (changed(&Control::smallChange)) bar->setSingleStep(now.smallChange);
             if (changed(&Control::largeChange)) bar->setPageStep(now.largeChange);
-            if (bar->value() != now.value && !bar->isSliderDown()) bar->setValue(now.value);
             break;
         }
         case ControlKind::ColorGrid: static_cast<ColorGridWidget*>(widget)->setControl(now); break;
         case ControlKind::Timer:
         case ControlKind::Menu: break;
+    }
+}
+
+// What the user changes on a widget by hand is compared with the model itself, not with
+// the model's last state: a handler that refuses a gesture (a Done box that clears itself)
+// leaves the model as it was, yet the widget moved and must be put back.
+void FormWindow::reconcile(QWidget* widget, const Control& now) {
+    switch (now.kind) {
+        case ControlKind::TextBox:
+            if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+                if (edit->text() != qs(now.text)) edit->setText(qs(now.text));
+            } else if (auto* text = qobject_cast<QPlainTextEdit*>(widget)) {
+                if (text->toPlainText() != forDisplay(now.text)) text->setPlainText(forDisplay(now.text));
+            }
+            break;
+        case ControlKind::ComboBox: {
+            auto* combo = static_cast<QComboBox*>(widget);
+            if (combo->currentIndex() != now.listIndex) combo->setCurrentIndex(now.listIndex);
+            break;
+        }
+        case ControlKind::ListBox: {
+            auto* list = static_cast<QListWidget*>(widget);
+            if (list->currentRow() != now.listIndex) list->setCurrentRow(now.listIndex);
+            // A row the user marked stays marked only while it is the model's own.
+            const QList<QListWidgetItem*> marked = list->selectedItems();
+            if (now.listIndex < 0 ? !marked.isEmpty()
+                                  : marked.size() != 1 || list->row(marked.front()) != now.listIndex) {
+                list->clearSelection();
+                if (QListWidgetItem* item = list->item(now.listIndex)) item->setSelected(true);
+            }
+            break;
+        }
+        case ControlKind::CheckBox:
+        case ControlKind::RadioButton: {
+            auto* button = static_cast<QAbstractButton*>(widget);
+            if (button->isChecked() != now.checked) button->setChecked(now.checked);
+            break;
+        }
+        case ControlKind::ScrollBar: {
+            auto* bar = static_cast<QScrollBar*>(widget);
+            if (bar->value() != now.value && !bar->isSliderDown()) bar->setValue(now.value);
+            break;
+        }
+        default: break;
     }
 }
 
@@ -288,8 +344,15 @@ void FormWindow::applyWindow() {
         }
     } else if (!form_.visible && isVisible()) {
         hide();
+        focusRequestsAtHide_ = form_.focusRequests();
     }
     applied_.visible = form_.visible;
+    if (applied_.defaultButton != form_.defaultButton) {
+        // The button Enter presses shows it by its frame.
+        if (auto* before = qobject_cast<QPushButton*>(widget(applied_.defaultButton))) before->setDefault(false);
+        if (auto* now = qobject_cast<QPushButton*>(widget(form_.defaultButton))) now->setDefault(true);
+        applied_.defaultButton = form_.defaultButton;
+    }
     if (applied_.focused != form_.focusedControl || applied_.focusRequests != form_.focusRequests()) {
         applied_.focused = form_.focusedControl;
         applied_.focusRequests = form_.focusRequests();

@@ -33,6 +33,7 @@ void FormRenderer::show(Form& form) {
     FormWindow& window = windowFor(form);
     form.showing();
     syncAll();
+    if (FormWindow* shown = windowOf(form)) shown->focusFirstField();
     if (QGuiApplication::platformName() != QStringLiteral("offscreen")) window.raise();
 }
 
@@ -49,6 +50,7 @@ void FormRenderer::showModal(Form& form, Form* owner) {
     }
     form.showing();
     syncAll();
+    if ((window = windowOf(form))) window->focusFirstField();
     QEventLoop loop;
     modal_.push_back({&form, &loop});
     if (form.visible && windowOf(form)) loop.exec(QEventLoop::DialogExec);

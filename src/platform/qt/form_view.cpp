@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "platform/mnemonics.h"
 #include "platform/qt/control_widgets.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_text.h"
@@ -61,6 +62,29 @@ QAction* FormWindow::action(const std::string& key) const {
     return it == views_.end() ? nullptr : it->second.action;
 }
 
+void FormWindow::focusFirstField() {
+    if (retired_ || !form_.visible) return;
+    const auto usable = [this](const std::string& key) {
+        QWidget* target = widget(key);
+        return target && target->isVisibleTo(this) && target->isEnabled() && target->focusPolicy() != Qt::NoFocus;
+    };
+    // The model's focus counts only when it asked for it since the window was last hidden;
+    // otherwise it is where the student left the window the time before.
+    const bool asked = form_.focusRequests() != focusRequestsAtHide_;
+    std::string key = asked && usable(form_.focusedControl) ? form_.focusedControl : std::string();
+    for (const std::string& stop : form_.tabOrder()) {
+        if (!key.empty()) break;
+        if (usable(stop)) key = stop;
+    }
+    if (key.empty()) return;
+    // Shown as the keyboard's focus (a frame) even before the window is active, when the
+    // toolkit would otherwise take it for a click's.
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    widget(key)->setFocus(Qt::TabFocusReason);
+    applied_.focused = key;
+    if (form_.focusedControl != key) forward([this, key] { form_.focusTo(key); });
+}
+
 void FormWindow::retire() {
     retired_ = true;
     for (auto& [key, view] : views_)
@@ -105,6 +129,35 @@ void FormWindow::restack(const std::string& containerKey) {
     for (auto& [z, widget] : children) widget->raise();
 }
 
+// A window without a menu bar (a dialog, an editor) underlines a letter of each button's
+// and box's caption, unique in the window, so that Alt and the letter presses it. Only the
+// widget shows the mark: the model, and so the probe and the help, keep the plain caption.
+void FormWindow::markMnemonics() {
+    std::vector<std::string> keys, captions;
+    if (!form_.hasMenuBar()) {
+        for (const std::string& key : form_.tabOrder()) {
+            const Control& control = form_.c(key);
+            if (control.kind != ControlKind::CommandButton && control.kind != ControlKind::CheckBox &&
+                control.kind != ControlKind::RadioButton)
+                continue;
+            keys.push_back(key);
+            captions.push_back(control.caption);
+        }
+    }
+    std::vector<std::string> source = keys;
+    source.insert(source.end(), captions.begin(), captions.end());
+    if (source == mnemonicSource_) return;
+    mnemonicSource_ = std::move(source);
+    mnemonics_.clear();
+    const std::vector<std::string> marked = WithMnemonics(captions);
+    for (std::size_t i = 0; i < keys.size(); ++i) mnemonics_[keys[i]] = marked[i];
+}
+
+std::string FormWindow::shownCaption(const std::string& key, const Control& control) const {
+    auto it = mnemonics_.find(key);
+    return it == mnemonics_.end() ? control.caption : it->second;
+}
+
 void FormWindow::sync() {
     if (retired_) return;
     FormRenderer::ApplyingScope scope(renderer_);
@@ -120,17 +173,19 @@ void FormWindow::sync() {
         if (newMenu) rebuildMenus();
         applyTabOrder();
     }
+    markMnemonics();
     std::set<std::string> restackIn;
     for (const std::string& key : order) {
         View& view = views_[key];
         const Control& control = form_.c(key);
-        if (view.fresh || !(control == view.last)) {
+        if (view.fresh || !(control == view.last) || (view.widget && shownCaption(key, control) != view.caption)) {
             if (view.fresh || control.z != view.last.z || control.container != view.last.container)
                 restackIn.insert(control.container);
             applyControl(view, control, key);
             view.last = control;
             view.fresh = false;
         }
+        if (view.widget) reconcile(view.widget, control);
         if (control.drawable && view.widget) {
             if (auto* canvas = dynamic_cast<QtCanvas*>(control.canvas.get())) {
                 if (canvas->generation() != view.canvasGeneration) {
@@ -142,6 +197,13 @@ void FormWindow::sync() {
     }
     for (const std::string& container : restackIn) restack(container);
     applyWindow();
+    applyFocusReach();
+}
+
+void FormWindow::applyFocusReach() {
+    // After the window took its size: what lies beyond its edge now takes no focus.
+    for (auto& [key, view] : views_)
+        if (view.widget && form_.has(key)) applyFocusPolicy(view.widget, form_.c(key));
 }
 
 

@@ -2,7 +2,8 @@
 // The generic renderer: shows any window model (qh::Form) with one widget per control,
 // named by the control's key and placed by its twips (15 to the pixel, so Qt's device
 // pixel ratio scales it), hands the user's gestures to the model, and after every
-// forwarded event applies what the handlers changed.
+// forwarded event applies what the handlers changed; what the user changes on a widget
+// (its text, tick, line, scroll position) is then set back to whatever the model holds.
 //
 // Kinds of control and their widgets:
 //   Label, PictureBox     PaintedBox (colour, picture, canvas, caption, border, mouse)
@@ -53,10 +54,14 @@ public:
     QTimer* timer(const std::string& key) const;
     QAction* action(const std::string& key) const;
 
-    // Applies to the widgets what changed in the model since the last call.
+    // Applies to the widgets what changed in the model since the last call, and puts every
+    // widget's own state (text, tick, selected line, scroll position) back to the model's.
     void sync();
     // Stops the timers for good (the window is closed).
     void retire();
+    // Puts the focus, shown as the keyboard's, where a window that just opened has it: on
+    // the control the model chose, else on its first stop the user can see and use.
+    void focusFirstField();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -72,6 +77,7 @@ private:
         QAction* action = nullptr;  // menus
         QMenu* menu = nullptr;      // menus with entries
         Control last;
+        std::string caption;  // the caption as shown, with its underlined letter
         bool fresh = true;
         unsigned long long canvasGeneration = ~0ull;
     };
@@ -80,7 +86,7 @@ private:
         int left = 0, top = 0, clientWidth = -1, clientHeight = -1, minWidth = -1, minHeight = -1;
         WindowState state = WindowState::Normal;
         bool visible = false, fixedSize = false, fixedFrame = false, titleBar = true;
-        std::string focused;
+        std::string focused, defaultButton;
         unsigned focusRequests = 0;
     };
 
@@ -88,12 +94,17 @@ private:
     void createWidget(View& view, const Control& control, const std::string& key);
     void applyControl(View& view, const Control& control, const std::string& key);
     void applyCommon(QWidget* widget, const Control& now, const Control* before);
+    void reconcile(QWidget* widget, const Control& now);
     void rebuildMenus();
     void applyMenu(View& view, const Control& control);
     QString menuText(const Control& control) const;
     void applyFocusPolicy(QWidget* widget, const Control& control);
+    void applyFocusReach();
+    bool inSight(const QWidget* widget) const;
     void applyAccessibility(QWidget* widget, const Control& now, const Control* before);
     void applyWindow();
+    void markMnemonics();
+    std::string shownCaption(const std::string& key, const Control& control) const;
     void restack(const std::string& containerKey);
     void applyTabOrder();
     bool keyPressed(const std::string& key, QKeyEvent* event);
@@ -111,7 +122,12 @@ private:
     std::map<std::string, View> views_;
     std::size_t known_ = 0;
     std::vector<std::string> menuKeys_;
+    // The captions of a dialog's buttons and boxes with their underlined letters, made
+    // again whenever one of the captions changes.
+    std::map<std::string, std::string> mnemonics_;
+    std::vector<std::string> mnemonicSource_;
     WindowSnapshot applied_;
+    unsigned focusRequestsAtHide_ = 0;
     bool retired_ = false;
 };
 

@@ -43,6 +43,8 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
         case ControlKind::TextBox:
             if (control.multiLine) {
                 auto* edit = new QPlainTextEdit(parent);
+                // Tab moves on, as everywhere; Ctrl+Tab types a tab (the event filter).
+                edit->setTabChangesFocus(true);
                 QObject::connect(edit, &QPlainTextEdit::textChanged, this, [this, key, edit] {
                     forward([this, key, edit] { form_.type(key, fromDisplay(edit->toPlainText())); });
                 });
@@ -58,6 +60,8 @@ void FormWindow::createWidget(View& view, const Control& control, const std::str
         case ControlKind::ComboBox: {
             auto* combo = new QComboBox(parent);
             combo->setEditable(false);
+            // A long list (the times of day) opens at 20 lines and scrolls.
+            combo->setMaxVisibleItems(20);
             QObject::connect(combo, &QComboBox::activated, this,
                              [this, key](int index) { forward([this, key, index] { form_.select(key, index); }); });
             widget = combo;
