@@ -17,6 +17,7 @@ qh_ensure_packages() {
 }
 
 QH_BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6 libicu-dev
-                   libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
+                   libgl-dev libical-dev libgtest-dev libgmock-dev libbenchmark-dev
                    fonts-liberation fonts-dejavu-core)
-QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils)
+QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils python3-icalendar
+                   python3-recurring-ical-events)
