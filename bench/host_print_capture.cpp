@@ -24,7 +24,7 @@ void BM_CaptureMainWindowImage(benchmark::State& state) {
     FakePlatform fake;
     QtCanvasFactory canvases;
     Platform platform{fake.environment, fake.clock,   fake.locale,    fake.messages, fake.files,
-                      fake.processes,   fake.dialogs, fake.windowing, canvases};
+                      fake.processes,   fake.dialogs, fake.windowing, canvases, fake.calendars};
     RecordStore store;
     MainWindow window(store, platform);
     window.Form_Load();

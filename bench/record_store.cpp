@@ -32,7 +32,7 @@ struct SampleDrive {
     FakePlatform fake;  // the temporary folder and the quiet stand-ins
     PosixFileSystem files;
     Platform platform{fake.environment, fake.clock,   fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs, fake.windowing, fake.canvases};
+                      fake.processes,   fake.dialogs, fake.windowing, fake.canvases, fake.calendars};
     std::size_t bytes = 0;
 
     explicit SampleDrive(sample::DriveSize size) {

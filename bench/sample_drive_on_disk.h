@@ -18,7 +18,7 @@ struct SampleDriveOnDisk {
     FakePlatform fake;
     PosixFileSystem files;
     Platform platform{fake.environment, fake.clock,    fake.locale,    fake.messages, files,
-                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases};
+                      fake.processes,   fake.dialogs,  fake.windowing, fake.canvases, fake.calendars};
 
     // The exec folder gets the page templates, as the program finds them beside itself.
     explicit SampleDriveOnDisk(sample::DriveSize size) {

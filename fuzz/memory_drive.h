@@ -39,6 +39,7 @@ struct ShownMessage {
 
 // What the record store may ask of the rest of the machine, answered by nobody.
 class QuietMachine : public Environment,
+                     public CalendarCodec,
                      public Clock,
                      public Locale,
                      public MessageBoxes,
@@ -76,6 +77,8 @@ public:
     void enterWhatsThisMode() override {}
     void printWindowImage(Form&, const std::string&, int) override {}
     std::shared_ptr<Canvas> create() override { return nullptr; }
+    std::string write(const std::vector<CalendarItem>&) override { return {}; }
+    CalendarRead read(const std::string&) override { return {}; }
 
     std::vector<ShownMessage> shown;
 };
@@ -92,7 +95,7 @@ struct MemoryDrive {
 
     QuietMachine machine;
     MemoryFileSystem files;
-    Platform platform{machine, machine, machine, machine, files, machine, machine, machine, machine};
+    Platform platform{machine, machine, machine, machine, files, machine, machine, machine, machine, machine};
     RecordStore store;
     RecordFiles records{store, platform};
 };

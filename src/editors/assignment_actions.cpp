@@ -8,18 +8,11 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
 #include "editors/record_actions.h"
-#include "record_store/codepage.h"
 #include "record_store/record_bindings.h"
 #include "record_store/record_files.h"
 
 namespace qh {
 namespace {
-
-// A text as field `field` of the file will hold it: cut to the field's width in code-page
-// bytes, with the characters the code page lacks replaced, as a load reads it back.
-std::string storedText(const RecordLayout& layout, std::string_view field, const std::string& text) {
-    return trimRight(fromCodePage(fieldBytes(text, layout.width(field))));
-}
 
 std::string storedNote(const FrmAssignment& w) { return storedText(kNotesLayout, "Text", w.TextBoxNotes->text); }
 

@@ -5,20 +5,10 @@
 #include "editors/editor_host.h"
 #include "editors/recurrence_panel_defaults.h"
 #include "editors/shared_file_transfer.h"
+#include "record_store/clock_text.h"
 #include "record_store/columns.h"
 
 namespace qh {
-namespace {
-
-// "12:00 am", "12:05 am" ... "11:55 pm": every fifth minute of a day.
-std::string clockText(int minutes) {
-    const int hour = minutes / 60, minute = minutes % 60;
-    const int shown = hour % 12 == 0 ? 12 : hour % 12;
-    std::string text = std::to_string(shown) + ":" + (minute < 10 ? "0" : "") + std::to_string(minute);
-    return text + (hour < 12 ? " am" : " pm");
-}
-
-}  // namespace
 
 FrmEvent::FrmEvent(Platform& platform, EditorHost& host) : Form("frmEvent"), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
@@ -103,7 +93,7 @@ void FrmEvent::bindHandlers() {
 
 void FrmEvent::Form_Load() {
     ComboTime->addItem("None");
-    for (int minutes = 0; minutes < 24 * 60; minutes += 5) ComboTime->addItem(clockText(minutes));
+    for (int minutes = 0; minutes < 24 * 60; minutes += 5) ComboTime->addItem(ClockText(minutes));
     for (const char* type : {"None", "Class", "School", "Home", "Birthday", "Holiday", "Personal", "Friends", "Family",
                              "Recreation", "Work"})
         ComboType->addItem(type);

@@ -1,6 +1,7 @@
 #pragma once
 // Everything the planner's logic needs from the machine, passed by reference. The program
 // wires the Qt and POSIX implementations (platform/qt); tests wire FakePlatform.
+#include "platform/calendar_items.h"
 #include "platform/canvas.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -23,6 +24,7 @@ struct Platform {
     Dialogs& dialogs;
     Windowing& windowing;
     CanvasFactory& canvases;
+    CalendarCodec& calendars;
 };
 
 }  // namespace qh

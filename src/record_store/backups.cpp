@@ -18,6 +18,7 @@ constexpr BackedUpFile kBackedUpFiles[] = {
     {"StudySessions", &RecordStore::StudySessionsChanged},
     {"Tasks", &RecordStore::TasksChanged},
     {"Events", &RecordStore::EventsChanged},
+    {"CalendarLinks", &RecordStore::CalendarLinksChanged},
 };
 
 // A failing step of the rotation is passed over and the next one runs: a missing older

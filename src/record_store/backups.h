@@ -6,7 +6,7 @@
 namespace qh {
 
 // For each record file whose change flag is true, in the fixed order Terms, Classes,
-// Assignments, Notes, StudySessions, Tasks, Events: copy it from DataDirectory into
+// Assignments, Notes, StudySessions, Tasks, Events, then the planner's own CalendarLinks: copy it from DataDirectory into
 // BackupDirectory and shift the generations along, so "<Name>_backup1.txt" holds the
 // state at this exit, "_backup2" the exit before and "_backup3" the one before that.
 // Every step that fails is passed over and the next one runs; nothing is shown, and no

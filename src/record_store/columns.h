@@ -74,6 +74,8 @@ struct RecordStore {
     // Change flags, read by the backup rotation at exit.
     Int16 TermsChanged = kFalse, ClassesChanged = kFalse, AssignmentsChanged = kFalse, NotesChanged = kFalse,
           StudySessionsChanged = kFalse, TasksChanged = kFalse, EventsChanged = kFalse;
+    // The planner's own CalendarLinks.txt beside the record files, backed up with them.
+    Int16 CalendarLinksChanged = kFalse;
 
     // The active term; 0, empty and 2000-01-01 when none is chosen.
     Int16 CurrentTermID = 0;

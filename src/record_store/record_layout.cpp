@@ -177,4 +177,8 @@ void RecordView::appendTo(std::span<TextColumn* const> columns) const {
     for (std::size_t n = 0; n < columns.size(); ++n) columns[n]->append(value(n));
 }
 
+std::string storedText(const RecordLayout& layout, std::string_view field, const std::string& text) {
+    return trimRight(fromCodePage(fieldBytes(text, layout.width(field))));
+}
+
 }  // namespace qh

@@ -48,6 +48,11 @@ extern const RecordLayout kStudySessionsLayout;  // StudySessions.txt, 55
 extern const RecordLayout kTasksLayout;          // Tasks.txt, 1000
 extern const RecordLayout kEventsLayout;         // Events.txt, 1000
 
+// A text as field `field` of the layout's file will hold it: cut to the field's width in
+// code-page bytes, with the characters the code page lacks replaced, as a load reads it
+// back.
+std::string storedText(const RecordLayout& layout, std::string_view field, const std::string& text);
+
 // Builds one record from the values of the non-reserved fields in table order (UTF-8).
 // A date field's value must read as a date once its "." and "-" are taken for "/"
 // ("2026/11/21", "2026-1-5"); anything else is the untrapped "Type mismatch", which the

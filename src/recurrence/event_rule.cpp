@@ -56,24 +56,41 @@ EventRule readEventRule(const RecordStore& store, int index) {
     return readEventRule(store, index, dateFromText(store.EventDates(index)));
 }
 
-EventRule readEventRule(const RecordStore& store, int index, Date first) {
+namespace {
+
+EventRule ruleOfTexts(Date first, std::string_view type, std::string_view recurrence, std::string_view sameDate,
+                      std::string_view number, std::string_view repeatDay, std::string_view dailies,
+                      std::string_view ends, std::string_view endDate) {
     EventRule rule;
-    rule.index = index;
-    rule.isClass = store.EventTypes(index) == "Class";
+    rule.isClass = type == "Class";
     rule.first = first;
     rule.firstYmd = ymdOf(rule.first);
     rule.firstWeekday = weekdayOf(rule.first);
-    rule.recurrence = recurrenceOf(store.EventRecurrences(index));
-    rule.sameDate = sameDateOf(store.EventSameDates(index));
-    rule.ordinal = ordinalOf(store.EventRepeatNumbers(index));
-    const std::string& repeatDay = store.EventRepeatDays(index);
+    rule.recurrence = recurrenceOf(recurrence);
+    rule.sameDate = sameDateOf(sameDate);
+    rule.ordinal = ordinalOf(number);
     rule.repeatDayIsDay = repeatDay == "Day";
     rule.repeatWeekday = weekdayNamed(repeatDay);
-    const std::string& dailies = store.EventRepeatDailies(index);
     for (std::size_t i = 0; i < 7 && i < dailies.size(); ++i) rule.dailies[i] = dailies[i];
-    rule.ends = store.EventEnds(index) == "True";
-    if (rule.ends) rule.readableEnd = parseDateText(store.EventEndDates(index));
+    rule.ends = ends == "True";
+    if (rule.ends) rule.readableEnd = parseDateText(endDate);
     return rule;
+}
+
+}  // namespace
+
+EventRule readEventRule(const RecordStore& store, int index, Date first) {
+    EventRule rule = ruleOfTexts(first, store.EventTypes(index), store.EventRecurrences(index),
+                                 store.EventSameDates(index), store.EventRepeatNumbers(index),
+                                 store.EventRepeatDays(index), store.EventRepeatDailies(index),
+                                 store.EventEnds(index), store.EventEndDates(index));
+    rule.index = index;
+    return rule;
+}
+
+EventRule readEventRule(const EventBuffer& record, Date first) {
+    return ruleOfTexts(first, record.Type, record.Recurrence, record.SameDate, record.RepeatNumber, record.RepeatDay,
+                       record.RepeatDaily, record.End, record.EndDate);
 }
 
 bool eventFilterPasses(std::string_view filter, bool isClass) {

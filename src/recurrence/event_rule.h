@@ -54,6 +54,9 @@ EventRule readEventRule(const RecordStore& store, int index);
 // routine can pass over an event by its first date before reading the rest of the rule.
 EventRule readEventRule(const RecordStore& store, int index, Date first);
 
+// The rule of an event record not (yet) in the columns, as its row would read; index 0.
+EventRule readEventRule(const EventBuffer& record, Date first);
+
 // The event filter of `ComboList` in Events mode: "All"; "Classes" and the type is "Class";
 // "Other Events" and it is not. Any other text lets nothing pass.
 bool eventFilterPasses(std::string_view filter, bool isClass);

@@ -26,6 +26,8 @@ void MainWindow::bindFileMenu() {
     on("MenuExportList", FormEvent::Click, [this](const EventArgs&) { ExportList(); });
     on("MenuExportCalendar", FormEvent::Click, [this](const EventArgs&) { ExportCalendar(); });
     on("MenuPrintScreen", FormEvent::Click, [this](const EventArgs&) { PrintScreen(); });
+    on("MenuExportICalendar", FormEvent::Click, [this](const EventArgs&) { ExportICalendar(); });
+    on("MenuImportICalendar", FormEvent::Click, [this](const EventArgs&) { ImportICalendar(); });
 }
 
 Mode MainWindow::ExportMode() const {

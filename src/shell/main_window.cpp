@@ -3,6 +3,8 @@
 #include "calendar_days/day_marks.h"
 #include "editors/editor_windows.h"
 #include "editors/record_actions.h"
+#include "interchange/frm_export_icalendar.h"
+#include "interchange/frm_import_preview.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"

@@ -34,6 +34,9 @@ struct GridView;
 struct ListHost;
 class FrmTip;
 class FrmAbout;
+class FrmExportICalendar;
+class FrmImportPreview;
+class CalendarLinks;
 struct ColorVocabulary;
 class EditorWindows;
 class RecordActions;
@@ -140,6 +143,12 @@ public:
     void ExportList();
     void ExportCalendar();
     void PrintScreen();
+    // File > Export iCalendar... and Import iCalendar... (icalendar_menu.cpp), and the links
+    // that keep each record's calendar UID.
+    void ExportICalendar();
+    void ImportICalendar();
+    CalendarLinks readCalendarLinks();
+    void storeCalendarLinks(const CalendarLinks& links, const std::string& title);
 
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
@@ -172,6 +181,8 @@ private:
 
     std::unique_ptr<FrmTip> tip_;
     std::unique_ptr<FrmAbout> about_;
+    std::unique_ptr<FrmExportICalendar> icalendarExport_;
+    std::unique_ptr<FrmImportPreview> icalendarImport_;
 
     std::string lastRefreshSteps_;
     bool loadEndedRun_ = false;

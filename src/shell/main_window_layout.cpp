@@ -30,6 +30,8 @@ void MainWindow::buildMenus() {
     addMenu("MenuExport", "MenuFile", "Export for Printing");
     addMenu("MenuExportCalendar", "MenuExport", "Calendar...");
     addMenu("MenuExportList", "MenuExport", "Current List...");
+    addMenu("MenuExportICalendar", "MenuFile", "Export iCalendar...");
+    addMenu("MenuImportICalendar", "MenuFile", "Import iCalendar...");
     addMenu("MenuFileSep2", "MenuFile", "-");
     addMenu("MenuExit", "MenuFile", "Exit");
 

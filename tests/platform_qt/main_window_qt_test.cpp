@@ -100,7 +100,8 @@ TEST_F(MainWindowQt, TheMenusHaveLettersAndTheUsualShortcutsChooseTheModes) {
         if (!action->isSeparator()) file << action->text() + "\t" + action->shortcut().toString();
     EXPECT_EQ(file.join("|").toStdString(),
               "&Today's Reminders\tCtrl+1|&Homework\tCtrl+2|&Study Sessions\tCtrl+3|T&asks\tCtrl+4|"
-              "&Events\tCtrl+5|&Print Screen...\tCtrl+P|Export &for Printing\t|E&xit\tCtrl+Q");
+              "&Events\tCtrl+5|&Print Screen...\tCtrl+P|Export &for Printing\t|Export &iCalendar...\t|"
+              "I&mport iCalendar...\t|E&xit\tCtrl+Q");
 
     const struct {
         Qt::Key key;

@@ -37,7 +37,7 @@ TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
     FakePlatform fake;
     QtCanvasFactory canvases;
     Platform platform{fake.environment, fake.clock, fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs, fake.windowing, canvases};
+                      fake.processes,   fake.dialogs, fake.windowing, canvases, fake.calendars};
     Host host;
     FrmCourseSchedule window(platform, host);
     window.Form_Load();
@@ -86,7 +86,7 @@ TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
     FakePlatform fake;
     QtCanvasFactory canvases;
     Platform platform{fake.environment, fake.clock, fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs, fake.windowing, canvases};
+                      fake.processes,   fake.dialogs, fake.windowing, canvases, fake.calendars};
     Host host;
     FrmAssignment window(platform, host);
     window.Form_Load();

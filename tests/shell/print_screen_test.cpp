@@ -28,7 +28,7 @@ TEST(PrintScreen, AFailedPrintIsToldAndThePlannerGoesOn) {
     FakePlatform fake;
     FailingPrinter printer;
     Platform platform{fake.environment, fake.clock,     fake.locale,   fake.messages, fake.files,
-                      fake.processes,   fake.dialogs,   printer,       fake.canvases};
+                      fake.processes,   fake.dialogs,   printer,       fake.canvases, fake.calendars};
     RecordStore store;
     MainWindow window(store, platform);
     fake.dialogs.printerAnswers.push_back({true, 0, "Office Laser", 2});

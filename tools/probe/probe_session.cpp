@@ -76,7 +76,7 @@ struct ScriptStop {
 
 ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
     : out_(out),
-      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_} {
+      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_, calendars_} {
     environment_.values = {{"U3_DEVICE_PATH", drive},
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},

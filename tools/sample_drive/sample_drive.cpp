@@ -31,7 +31,8 @@ struct QuietPlatform {
     FakeDialogs dialogs;
     FakeWindowing windowing;
     RecordingCanvasFactory canvases;
-    Platform platform{environment, clock, locale, messages, files, processes, dialogs, windowing, canvases};
+    IcalCodec calendars{kFakeTimeZone};
+    Platform platform{environment, clock, locale, messages, files, processes, dialogs, windowing, canvases, calendars};
 };
 
 // Writes a plan the way the editors' callers write what a student enters: the record

@@ -296,7 +296,7 @@ std::string quotedText(const std::string& text) {
 }
 
 FakePlatform::FakePlatform()
-    : platform{environment, clock, locale, messages, files, processes, dialogs, windowing, canvases} {
+    : platform{environment, clock, locale, messages, files, processes, dialogs, windowing, canvases, calendars} {
     namespace fs = std::filesystem;
     std::string pattern = (fs::temp_directory_path() / "quillhollow-test-XXXXXX").string();
     if (!::mkdtemp(pattern.data())) throw std::runtime_error("mkdtemp failed");

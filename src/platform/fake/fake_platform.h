@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/posix_file_system.h"
 #include "platform/fake/recording_canvas.h"
+#include "platform/ical/ical_codec.h"
 
 namespace qh {
 
@@ -24,6 +25,9 @@ namespace qh {
 //   Open "PATH OR ADDRESS"
 //   Start "COMMAND LINE"
 // A double quote inside a text is doubled.
+// The time zone of the fake clock's local times, for the files that name one.
+inline constexpr const char* kFakeTimeZone = "America/New_York";
+
 using OutsideActionSink = std::function<void(const std::string& line)>;
 std::string quotedText(const std::string& text);
 
@@ -184,6 +188,8 @@ public:
     FakeDialogs dialogs;
     FakeWindowing windowing;
     RecordingCanvasFactory canvases;
+    // The real iCalendar writer, in the zone the fake clock is read in.
+    IcalCodec calendars{kFakeTimeZone};
     Platform platform;
 
     std::string root, drive, exec, documents, host;

@@ -284,7 +284,7 @@ void QtWindowing::printWindowImage(Form& form, const std::string& printerName, i
 QtPlatform::QtPlatform()
     : dialogs_(printerChoice_),
       windowing_(renderer_, printerChoice_),
-      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_} {
+      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_, calendars_} {
     initPictures();
 }
 

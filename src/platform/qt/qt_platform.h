@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/platform.h"
+#include "platform/ical/ical_codec.h"
 #include "platform/posix_file_system.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/host_collation.h"
@@ -124,6 +125,7 @@ private:
     QtDialogs dialogs_;
     QtWindowing windowing_;
     QtCanvasFactory canvases_;
+    IcalCodec calendars_;
     Platform platform_;
 };
 
