@@ -8,6 +8,7 @@
 #include "platform/file_system.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/notifications.h"
 #include "platform/processes.h"
 #include "platform/windowing.h"
 
@@ -23,6 +24,8 @@ struct Platform {
     Dialogs& dialogs;
     Windowing& windowing;
     CanvasFactory& canvases;
+    // Last, with a default, so that a tool that shows no notices need not name it.
+    Notifications& notifications = Notifications::none();
 };
 
 }  // namespace qh

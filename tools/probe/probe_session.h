@@ -55,6 +55,7 @@ private:
     FakeDialogs dialogs_;
     FakeWindowing windowing_;
     RecordingCanvasFactory canvases_;
+    FakeNotifications notifications_;
     Platform platform_;
     RecordStore store_;
     std::unique_ptr<MainWindow> window_;

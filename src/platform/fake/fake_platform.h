@@ -22,6 +22,7 @@ namespace qh {
 //   Printed window image
 //   Open "PATH OR ADDRESS"
 //   Start "COMMAND LINE"
+//   Notification "title" "text"      (the text's line breaks written \n)
 // A double quote inside a text is doubled.
 using OutsideActionSink = std::function<void(const std::string& line)>;
 std::string quotedText(const std::string& text);
@@ -125,6 +126,23 @@ public:
     OutsideActionSink onOutsideAction;
 };
 
+// The desktop's notification service: notices are kept with their handlers, so a test
+// chooses one (activate) as the user would, or the service is missing (available false),
+// when every notice fails at once.
+class FakeNotifications : public Notifications {
+public:
+    struct Sent {
+        std::string title, text;
+        Handlers handlers;
+    };
+    void notify(const std::string& title, const std::string& text, Handlers handlers) override;
+    // Chooses the last notice sent, as a click on it does.
+    void activateLast();
+    std::vector<Sent> sent;
+    bool available = true;
+    OutsideActionSink onOutsideAction;
+};
+
 class FakeDialogs : public Dialogs {
 public:
     FileDialogAnswer fileDialog(const FileDialogRequest& request) override;
@@ -150,6 +168,7 @@ public:
     int screenWidthTwips() const override { return screenWidthPixels * 15; }
     int screenHeightTwips() const override { return screenHeightPixels * 15; }
     void enterWhatsThisMode() override { ++whatsThis; }
+    void raise(Form& form) override { log.push_back("raise " + form.name()); }
     void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
     std::map<std::string, std::deque<std::function<void(Form&)>>> modalUsers;  // by window name
@@ -183,6 +202,7 @@ public:
     FakeDialogs dialogs;
     FakeWindowing windowing;
     RecordingCanvasFactory canvases;
+    FakeNotifications notifications;
     Platform platform;
 
     std::string root, drive, exec, documents, host;
