@@ -19,4 +19,6 @@ qh_ensure_packages() {
 QH_BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6 libicu-dev
                    libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
                    fonts-liberation fonts-dejavu-core)
-QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils)
+# dunst, dbus-daemon, dbus-bin and systemd (busctl, which dunstctl history uses): the desktop
+# notices against a real notification server.
+QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils dunst dbus-daemon dbus-bin systemd)

@@ -10,6 +10,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/host_collation.h"
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_notifications.h"
 
 namespace qh {
 
@@ -95,6 +96,7 @@ public:
     int screenHeightTwips() const override;
     Area availableArea() const override;
     void enterWhatsThisMode() override;
+    void raise(Form& form) override;
     void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
 private:
@@ -124,6 +126,7 @@ private:
     QtDialogs dialogs_;
     QtWindowing windowing_;
     QtCanvasFactory canvases_;
+    QtNotifications notifications_;
     Platform platform_;
 };
 
