@@ -9,6 +9,7 @@
 #include "platform/file_system.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/notifications.h"
 #include "platform/processes.h"
 #include "platform/windowing.h"
 
@@ -25,6 +26,8 @@ struct Platform {
     Windowing& windowing;
     CanvasFactory& canvases;
     CalendarCodec& calendars;
+    // Last, with a default, so that a tool that shows no notices need not name it.
+    Notifications& notifications = Notifications::none();
 };
 
 }  // namespace qh

@@ -21,6 +21,9 @@ public:
     // window is off the screen for good; a model that refuses keeps its window, shown or
     // hidden as it left it.
     virtual void close(Form& form, UnloadMode mode) = 0;
+    // Brings a shown window to the front of the desktop, out of the task bar when it was
+    // minimised, and gives it the focus, as far as the desktop lets a program do so.
+    virtual void raise(Form& form) = 0;
     // Lets the toolkit paint what changed and handle pending input once.
     virtual void processEvents() = 0;
     // Paints what changed now, taking no input: no gesture can reach a model in the middle

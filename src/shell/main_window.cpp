@@ -120,7 +120,13 @@ void MainWindow::bindHandlers() {
         UpdateStopwatchLabel();
     });
 
-    on("TimerStatusBar", FormEvent::Timer, [this](const EventArgs&) { PaintStatusBar(); });
+    on("TimerStatusBar", FormEvent::Timer, [this](const EventArgs&) {
+        PaintStatusBar();
+        CheckDesktopReminderDay();
+    });
+    // One shot, once the window has been painted.
+    on("TimerDesktopReminders", FormEvent::Timer, [this](const EventArgs&) { TimerDesktopReminders_Timer(); });
+    onClick("MenuDesktopReminders", [this] { MenuDesktopReminders_Click(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
     on("TimerTip", FormEvent::Timer, [this](const EventArgs&) {
         c("TimerTip").enabled = false;

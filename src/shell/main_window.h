@@ -12,6 +12,7 @@
 //   file_menu.cpp        the list and calendar exports, Print Screen
 //   window_layout.cpp    the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
+//   desktop_reminders    the day's reminders as a notice on the desktop
 //   list_grid.cpp        the grid's layout, scrolling, pressed row and header clicks
 //   keyboard_and_wheel.cpp  the calendar's and the grid's keys and mouse wheel
 //   list_view/*          the grid layouts, list builders and hit testing
@@ -26,6 +27,7 @@
 #include "platform/platform.h"
 #include "record_store/columns.h"
 #include "list_view/main_window_state.h"
+#include "shell/desktop_reminder_settings.h"
 
 namespace qh {
 
@@ -150,6 +152,16 @@ public:
     CalendarLinks readCalendarLinks();
     void storeCalendarLinks(const CalendarLinks& links, const std::string& title);
 
+    // Desktop reminders (desktop_reminders.cpp): the day's reminders as a desktop notice,
+    // once the window is up and at every change of day; Options > Desktop Reminders.
+    void LoadDesktopReminderSettings();
+    void MenuDesktopReminders_Click();
+    void TimerDesktopReminders_Timer();
+    void CheckDesktopReminderDay();
+    void NotifyDesktopReminders();
+    // The notice was chosen: the main window comes forward in Today's Reminders of today.
+    void ShowRemindersFromDesktop();
+
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
 
@@ -183,6 +195,12 @@ private:
     std::unique_ptr<FrmAbout> about_;
     std::unique_ptr<FrmExportICalendar> icalendarExport_;
     std::unique_ptr<FrmImportPreview> icalendarImport_;
+
+    // A window of the planner (an editor, the tip, About) is open over this one.
+    bool windowOpenOverMain() const;
+    DesktopReminderSettings desktopReminders_;
+    Date desktopReminderDay_ = 0;  // the day the reminders were last looked at; 0 before
+    bool desktopReminderFailureShown_ = false;
 
     std::string lastRefreshSteps_;
     bool loadEndedRun_ = false;

@@ -47,6 +47,7 @@ void MainWindow::buildMenus() {
     addMenu("MenuStartSat", "MenuStartDay", "Saturday");
     addMenu("MenuStartSun", "MenuStartDay", "Sunday");
     addMenu("MenuStartMon", "MenuStartDay", "Monday");
+    addMenu("MenuDesktopReminders", "MenuOptions", "Desktop Reminders");
 
     addMenu("MenuHelp", "", "Help");
     addMenu("MenuHelpDB", "MenuHelp", "Help");
@@ -211,6 +212,7 @@ void MainWindow::buildControls() {
     statusTimer.interval = 10000;
     statusTimer.enabled = true;
     add(ControlKind::Timer, "TimerTip", "", 0, 0, 0, 0).interval = 500;
+    add(ControlKind::Timer, "TimerDesktopReminders", "", 0, 0, 0, 0).interval = 100;
     add(ControlKind::Timer, "Timer1", "", 0, 0, 0, 0).interval = 1000;
     add(ControlKind::Timer, "TimerButton", "", 0, 0, 0, 0).interval = 150;
 }

@@ -123,6 +123,7 @@ void MainWindow::Form_Load() {
     SelectTerm(preferences.ActiveTerm);
     SetHomeworkMode();
     c("TimerTip").enabled = true;
+    LoadDesktopReminderSettings();
 }
 
 void MainWindow::Form_Unload() {

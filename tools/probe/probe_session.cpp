@@ -76,14 +76,16 @@ struct ScriptStop {
 
 ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
     : out_(out),
-      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_, calendars_} {
+      platform_{environment_, clock_,     locale_,    messages_, files_,
+                processes_,   dialogs_,   windowing_, canvases_, calendars_,
+                notifications_} {
     environment_.values = {{"U3_DEVICE_PATH", drive},
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
                            {"U3_HOST_EXEC_PATH", host}};
     const OutsideActionSink print = [this](const std::string& line) { out_ << line << "\n"; };
     messages_.onOutsideAction = dialogs_.onOutsideAction = processes_.onOutsideAction = windowing_.onOutsideAction =
-        print;
+        notifications_.onOutsideAction = print;
     windowing_.modalLoop = [this](Form& form) { runInsideModal(form); };
 }
 
@@ -93,6 +95,8 @@ void ProbeSession::start() {
     window_ = std::make_unique<MainWindow>(store_, platform_);
     window_->Form_Load();
     windowing_.show(*window_);
+    // The probe's window is painted at once: what waits for the first paint runs now.
+    if (window_->c("TimerDesktopReminders").enabled) window_->tick("TimerDesktopReminders");
 }
 
 Form& ProbeSession::frontWindow() {

@@ -56,6 +56,7 @@ private:
     FakeWindowing windowing_;
     RecordingCanvasFactory canvases_;
     IcalCodec calendars_{kFakeTimeZone};
+    FakeNotifications notifications_;
     Platform platform_;
     RecordStore store_;
     std::unique_ptr<MainWindow> window_;

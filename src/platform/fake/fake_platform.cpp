@@ -117,6 +117,22 @@ void FakeLocale::appendSortKey(std::string_view text, std::string& key) const {
         if (key[i] >= 'A' && key[i] <= 'Z') key[i] = char(key[i] - 'A' + 'a');
 }
 
+void FakeNotifications::notify(const std::string& title, const std::string& text, Handlers handlers) {
+    if (!available) {
+        if (handlers.failed) handlers.failed("no notification service");
+        return;
+    }
+    std::string oneLine;
+    for (char ch : text) oneLine += ch == '\n' ? std::string("\\n") : std::string(1, ch);
+    if (onOutsideAction) onOutsideAction("Notification " + quotedText(title) + " " + quotedText(oneLine));
+    if (handlers.delivered) handlers.delivered();
+    sent.push_back({title, text, std::move(handlers)});
+}
+
+void FakeNotifications::activateLast() {
+    if (!sent.empty() && sent.back().handlers.activated) sent.back().handlers.activated();
+}
+
 MessageAnswer FakeMessageBoxes::show(const std::string& text, const std::string& title, MessageButtons buttons,
                                      MessageIcon icon) {
     shown.push_back({text, title, buttons, icon});
@@ -296,7 +312,8 @@ std::string quotedText(const std::string& text) {
 }
 
 FakePlatform::FakePlatform()
-    : platform{environment, clock, locale, messages, files, processes, dialogs, windowing, canvases, calendars} {
+    : platform{environment, clock,    locale,   messages,  files,         processes,
+               dialogs,     windowing, canvases, calendars, notifications} {
     namespace fs = std::filesystem;
     std::string pattern = (fs::temp_directory_path() / "quillhollow-test-XXXXXX").string();
     if (!::mkdtemp(pattern.data())) throw std::runtime_error("mkdtemp failed");

@@ -24,6 +24,7 @@ namespace qh {
 //   Printed window image
 //   Open "PATH OR ADDRESS"
 //   Start "COMMAND LINE"
+//   Notification "title" "text"      (the text's line breaks written \n)
 // A double quote inside a text is doubled.
 // The time zone of the fake clock's local times, for the files that name one.
 inline constexpr const char* kFakeTimeZone = "America/New_York";
@@ -130,6 +131,23 @@ public:
     OutsideActionSink onOutsideAction;
 };
 
+// The desktop's notification service: notices are kept with their handlers, so a test
+// chooses one (activate) as the user would, or the service is missing (available false),
+// when every notice fails at once.
+class FakeNotifications : public Notifications {
+public:
+    struct Sent {
+        std::string title, text;
+        Handlers handlers;
+    };
+    void notify(const std::string& title, const std::string& text, Handlers handlers) override;
+    // Chooses the last notice sent, as a click on it does.
+    void activateLast();
+    std::vector<Sent> sent;
+    bool available = true;
+    OutsideActionSink onOutsideAction;
+};
+
 class FakeDialogs : public Dialogs {
 public:
     FileDialogAnswer fileDialog(const FileDialogRequest& request) override;
@@ -155,6 +173,7 @@ public:
     int screenWidthTwips() const override { return screenWidthPixels * 15; }
     int screenHeightTwips() const override { return screenHeightPixels * 15; }
     void enterWhatsThisMode() override { ++whatsThis; }
+    void raise(Form& form) override { log.push_back("raise " + form.name()); }
     void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
     std::map<std::string, std::deque<std::function<void(Form&)>>> modalUsers;  // by window name
@@ -190,6 +209,7 @@ public:
     RecordingCanvasFactory canvases;
     // The real iCalendar writer, in the zone the fake clock is read in.
     IcalCodec calendars{kFakeTimeZone};
+    FakeNotifications notifications;
     Platform platform;
 
     std::string root, drive, exec, documents, host;

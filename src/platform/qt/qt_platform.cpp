@@ -252,6 +252,14 @@ Windowing::Area QtWindowing::availableArea() const {
 
 void QtWindowing::enterWhatsThisMode() { QWhatsThis::enterWhatsThisMode(); }
 
+void QtWindowing::raise(Form& form) {
+    FormWindow* window = renderer_.windowOf(form);
+    if (!window || !window->isVisible()) return;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
+}
+
 void QtWindowing::printWindowImage(Form& form, const std::string& printerName, int copies) {
     FormWindow* window = renderer_.windowOf(form);
     if (!window) throw FileFailure("The window " + form.name() + " is not shown");
@@ -284,7 +292,10 @@ void QtWindowing::printWindowImage(Form& form, const std::string& printerName, i
 QtPlatform::QtPlatform()
     : dialogs_(printerChoice_),
       windowing_(renderer_, printerChoice_),
-      platform_{environment_, clock_, locale_, messages_, files_, processes_, dialogs_, windowing_, canvases_, calendars_} {
+      notifications_([this](const std::function<void()>& answer) { renderer_.forward(answer); }),
+      platform_{environment_, clock_,     locale_,    messages_, files_,
+                processes_,   dialogs_,   windowing_, canvases_, calendars_,
+                notifications_} {
     initPictures();
 }
 

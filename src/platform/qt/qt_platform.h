@@ -11,6 +11,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/host_collation.h"
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_notifications.h"
 
 namespace qh {
 
@@ -96,6 +97,7 @@ public:
     int screenHeightTwips() const override;
     Area availableArea() const override;
     void enterWhatsThisMode() override;
+    void raise(Form& form) override;
     void printWindowImage(Form& form, const std::string& printerName, int copies) override;
 
 private:
@@ -126,6 +128,7 @@ private:
     QtWindowing windowing_;
     QtCanvasFactory canvases_;
     IcalCodec calendars_;
+    QtNotifications notifications_;
     Platform platform_;
 };
 
