@@ -49,7 +49,8 @@ struct Planner {
     FakePlatform fake;
     QtNotifications notifications{[](const std::function<void()>& answer) { answer(); }};
     Platform platform{fake.environment, fake.clock,     fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs,   fake.windowing, fake.canvases, notifications};
+                      fake.processes,   fake.dialogs,   fake.windowing, fake.canvases, fake.calendars,
+                      notifications};
     RecordStore store;
     std::unique_ptr<MainWindow> window;
 
