@@ -25,6 +25,8 @@ FrmAbout::FrmAbout(Platform& platform) : Form("frmAbout"), platform_(platform) {
     add(ControlKind::CommandButton, "cmdOK", "", 4680, 3180, 1320, 375).caption = "OK";
     for (const char* label : {"lblTitle", "lblVersion", "lblDescription"}) c(label).opaque = false;
 
+    // Enter and Escape both close the window, as its one button does.
+    defaultButton = cancelButton = "cmdOK";
     on("cmdOK", FormEvent::Click, [this](const EventArgs&) { hide(); });
     on("lblDescription", FormEvent::Click, [this](const EventArgs&) {
         OpenWithDesktop(platform_.processes, platform_.messages,

@@ -72,6 +72,8 @@ FrmTip::FrmTip(const Environment& environment) : Form("frmTip"), environment_(en
     add(ControlKind::CommandButton, "ButtonNextTip", "", 3480, 2880, 1320, 375).caption = "Next Tip";
     add(ControlKind::CommandButton, "ButtonClose", "", 4980, 2880, 1320, 375).caption = "Close";
 
+    // Escape closes the tip as Close does; Enter presses the focused button, else Close.
+    defaultButton = cancelButton = "ButtonClose";
     on("ButtonNextTip", FormEvent::Click, [this](const EventArgs&) { ShowNextTip(); });
     on("CheckBoxShowTips", FormEvent::Click, [this](const EventArgs&) {
         tempShowTipsAtStartup = c("CheckBoxShowTips").checked ? "Yes" : "No";

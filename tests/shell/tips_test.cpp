@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "shell/about_window.h"
 #include "shell/main_window.h"
 #include "shell/tip_window.h"
 #include "support/main_window_fixture.h"
@@ -142,6 +143,21 @@ TEST(TipOfTheDay, TheChoiceAndThePlaceGoOnAcrossARestart) {
     run([](MainWindow& window) { window.tick("TimerTip"); });
     EXPECT_EQ(shownTips(), 3);
     EXPECT_EQ(lastShown, FrmTip::TipText(4, fake.environment));
+}
+
+TEST(TipOfTheDay, EscapeAndEnterCloseTheTipAndAbout) {
+    FakePlatform fake;
+    FrmTip tip(fake.environment);
+    FrmAbout about(fake.platform);
+    for (Form* window : std::initializer_list<Form*>{&tip, &about}) {
+        for (int key : {kKeyEscape, kKeyReturn}) {
+            window->Form_Load();
+            window->visible = true;
+            window->focusedControl.clear();
+            window->pressKey(key);
+            EXPECT_FALSE(window->visible) << window->name() << " key " << key;
+        }
+    }
 }
 
 }  // namespace
