@@ -6,8 +6,9 @@ FrmExportICalendar::FrmExportICalendar() : Form("frmExportICalendar") {
     fixedSize = true;
     setOuterSize(5400, 3660);
     caption = "Quillhollow - Export iCalendar";
-    add(ControlKind::Label, "LabelWhat", "", 240, 180, 4800, 285).caption =
-        "Write these to an iCalendar file for phone and web calendars:";
+    Control& what = add(ControlKind::Label, "LabelWhat", "", 240, 180, 4800, 285);
+    what.caption = "Write these to an iCalendar file for phone and web calendars:";
+    what.backColor = kButtonFace;
     add(ControlKind::CheckBox, "CheckBoxEvents", "", 360, 540, 4560, 315).caption = "Events, with their repeats";
     add(ControlKind::CheckBox, "CheckBoxTasks", "", 360, 900, 4560, 315).caption = "Tasks";
     add(ControlKind::CheckBox, "CheckBoxAssignments", "", 360, 1260, 4560, 315).caption =

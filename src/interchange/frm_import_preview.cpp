@@ -43,6 +43,9 @@ FrmImportPreview::FrmImportPreview() : Form("frmImportPreview") {
     add(ControlKind::CommandButton, "ButtonCancel", "", 5700, 6120, 1260, 375).caption = "Cancel";
     defaultButton = "ButtonOK";
     cancelButton = "ButtonCancel";
+    // Labels on the window's own face, as in the editors.
+    for (const std::string& key : order())
+        if (c(key).kind == ControlKind::Label) c(key).backColor = kButtonFace;
     bindControls();
     ComboRepeats->addItem(kFirstOnlyEntry);
     ComboRepeats->addItem(kSkipRepeatsEntry);
@@ -87,7 +90,8 @@ void FrmImportPreview::fillList() {
     for (const std::string& course : plan->courses) {
         const auto items = std::count_if(plan->lines.begin(), plan->lines.end(),
                                          [&](const ImportLine& line) { return line.byCourse && line.course == course; });
-        ListImport->addItem("Course " + quoted(course) + ": " + std::to_string(items) + " to-dos and deadlines");
+        ListImport->addItem("Course " + quoted(course) + ": " + std::to_string(items) +
+                            (items == 1 ? " item" : " items"));
     }
     for (const ImportLine& line : plan->lines) {
         const CalendarItem& item = plan->items[line.item];

@@ -184,41 +184,16 @@ public:
 
     // The ID of the record written; 0 when the file is full.
     std::int32_t event(const CalendarItem& item, bool firstOnly, int row) {
-        EventBuffer record = eventRecordOf(item, firstOnly, nullptr);
-        if (row == 0) {
-            if (store_.NextEventRecord >= kLastRecordNumber) return 0;
-            record.RecordNo = record.ID = std::to_string(store_.NextEventRecord);
-            store_.EventRecord = record;
-            kEventBinding.appendRow(store_, record);
-            static_cast<void>(files_.SaveEvent(0));
-        } else {
-            record.RecordNo = store_.EventRecordNos(row);
-            record.ID = store_.EventIDs(row);
-            store_.EventRecord = record;
-            kEventBinding.storeRow(store_, row, record);
-            static_cast<void>(files_.SaveEvent(int16OrZero(record.RecordNo)));
-        }
-        return int16OrZero(record.ID);
+        return put(eventRecordOf(item, firstOnly, nullptr), row, store_.NextEventRecord, &RecordStore::EventRecord,
+                   kEventBinding, store_.EventRecordNos, store_.EventIDs, &RecordFiles::SaveEvent);
     }
 
     std::int32_t task(const CalendarItem& item, Date today, int row) {
         TaskBuffer record = taskRecordOf(item, today, nullptr);
-        if (row == 0) {
-            if (store_.NextTaskRecord >= kLastRecordNumber) return 0;
-            record.RecordNo = record.ID = std::to_string(store_.NextTaskRecord);
-            store_.TaskRecord = record;
-            kTaskBinding.appendRow(store_, record);
-            static_cast<void>(files_.SaveTask(0));
-        } else {
-            record.RecordNo = store_.TaskRecordNos(row);
-            record.ID = store_.TaskIDs(row);
-            // The student's own tick stays.
-            if (store_.TaskDones(row) == "True") record.Done = "True";
-            store_.TaskRecord = record;
-            kTaskBinding.storeRow(store_, row, record);
-            static_cast<void>(files_.SaveTask(int16OrZero(record.RecordNo)));
-        }
-        return int16OrZero(record.ID);
+        // The student's own tick stays.
+        if (row != 0 && store_.TaskDones(row) == "True") record.Done = "True";
+        return put(record, row, store_.NextTaskRecord, &RecordStore::TaskRecord, kTaskBinding, store_.TaskRecordNos,
+                   store_.TaskIDs, &RecordFiles::SaveTask);
     }
 
     std::int32_t assignment(const CalendarItem& item, const std::string& classLink, int row) {
@@ -260,6 +235,25 @@ public:
     }
 
 private:
+    // A new record at the kind's next number, or the record of row `row` written over.
+    template <class Buffer>
+    std::int32_t put(Buffer record, int row, Int16 next, Buffer RecordStore::*buffer,
+                     const RecordBinding<Buffer>& binding, const TextColumn& recordNos, const TextColumn& ids,
+                     bool (RecordFiles::*save)(Int16)) {
+        if (row == 0 && next >= kLastRecordNumber) return 0;
+        record.RecordNo = row == 0 ? std::to_string(next) : recordNos(row);
+        record.ID = row == 0 ? record.RecordNo : ids(row);
+        store_.*buffer = record;
+        if (row == 0)
+            binding.appendRow(store_, record);
+        else
+            binding.storeRow(store_, row, record);
+        // A failed write has named its file to the student; the row stays for this run, as
+        // an editor's does.
+        static_cast<void>((files_.*save)(row == 0 ? Int16{0} : int16OrZero(record.RecordNo)));
+        return int16OrZero(record.ID);
+    }
+
     RecordStore& store_;
     RecordFiles& files_;
 };
