@@ -1,5 +1,7 @@
 #include "interchange/ical_export_items.h"
 
+#include <unordered_map>
+
 #include "common/int16.h"
 #include "interchange/event_repetition.h"
 #include "record_store/clock_text.h"
@@ -82,17 +84,17 @@ void addTasks(const RecordStore& store, CalendarLinks& links, const std::functio
 
 void addAssignments(const RecordStore& store, bool asEvents, CalendarLinks& links,
                     const std::function<std::string()>& makeUid, ICalendarItems& out) {
+    // The first class of each ID, looked up once rather than once per assignment.
+    std::unordered_map<Int16, int> classRows;
+    for (int c = store.ClassIDs.count(); c >= 1; --c) classRows[int16OrZero(store.ClassIDs(c))] = c;
     for (int i = 1; i <= store.AssignmentRecordNos.count(); ++i) {
         if (store.AssignmentDescriptions(i) == kDeletedRecord) continue;
         const std::optional<Date> due = parseDateText(store.AssignmentDates(i));
         if (!due) continue;
         std::string className, classColor;
-        const Int16 link = int16OrZero(store.AssignmentClassLinks(i));
-        for (int c = 1; c <= store.ClassIDs.count(); ++c) {
-            if (int16OrZero(store.ClassIDs(c)) != link) continue;
-            className = store.ClassNames(c);
-            classColor = store.ClassBackColors(c);
-            break;
+        if (const auto found = classRows.find(int16OrZero(store.AssignmentClassLinks(i))); found != classRows.end()) {
+            className = store.ClassNames(found->second);
+            classColor = store.ClassBackColors(found->second);
         }
         CalendarItem item;
         item.kind = asEvents ? CalendarItemKind::Event : CalendarItemKind::Todo;

@@ -92,7 +92,9 @@ void MainWindow::ExportICalendar() {
     CalendarLinks links = readCalendarLinks();
     const ICalendarItems items = CalendarItemsOf(store, choice, links, NewCalendarUid);
     try {
-        platform.files.writeWhole(path, platform.calendars.write(items.items));
+        // Like an exported page, the file is made again by the next export: it replaces the
+        // old one in one rename but is not waited for on the disk.
+        platform.files.writeWholeUnsynced(path, platform.calendars.write(items.items));
     } catch (const FileFailure& failure) {
         platform.messages.show("The calendar could not be written to " + path + ".\n\n" + failure.what(),
                                kExportTitle, MessageButtons::OK, MessageIcon::Exclamation);

@@ -165,6 +165,13 @@ icalcomponent* componentOf(const CalendarItem& item, icaltimezone* zone, const i
     return component;
 }
 
+std::string textOf(icalcomponent* component) {
+    char* text = icalcomponent_as_ical_string_r(component);
+    std::string out = text ? text : "";
+    icalmemory_free_buffer(text);
+    return out;
+}
+
 bool usesLocalTime(const std::vector<CalendarItem>& items) {
     for (const CalendarItem& item : items)
         if (item.startMinutes) return true;
@@ -211,11 +218,17 @@ std::string IcalCodec::write(const std::vector<CalendarItem>& items) {
         icalcomponent_add_component(calendar.get(), definition);
     }
     const icaltimetype stamp = icaltime_current_time_with_zone(icaltimezone_get_utc_timezone());
-    for (const CalendarItem& item : items) icalcomponent_add_component(calendar.get(), componentOf(item, zone, stamp));
-    char* text = icalcomponent_as_ical_string_r(calendar.get());
-    std::string out = text ? text : "";
-    icalmemory_free_buffer(text);
-    return out;
+    // Each item is written and freed on its own, inside the calendar's own lines: a tree of
+    // tens of thousands of items built whole first costs more to free than to write.
+    std::string out = textOf(calendar.get());
+    const std::string end = "END:VCALENDAR\r\n";
+    if (out.size() >= end.size() && out.compare(out.size() - end.size(), end.size(), end) == 0)
+        out.resize(out.size() - end.size());
+    for (const CalendarItem& item : items) {
+        Component component(componentOf(item, zone, stamp));
+        out += textOf(component.get());
+    }
+    return out + end;
 }
 
 }  // namespace qh
