@@ -14,8 +14,24 @@
 namespace qh {
 namespace {
 
+FileProblem problemOf(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG: return FileProblem::NoSpace;
+        case EROFS:
+        case EACCES:
+        case EPERM: return FileProblem::ReadOnly;
+        case EBUSY:
+        case ETXTBSY:
+        case EAGAIN: return FileProblem::InUse;
+        default: return FileProblem::Other;
+    }
+}
+
 [[noreturn]] void fail(const std::string& what, const std::string& path) {
-    throw FileFailure(what + " " + path + ": " + std::strerror(errno));
+    const int error = errno;
+    throw FileFailure(what + " " + path + ": " + std::strerror(error), problemOf(error));
 }
 
 class Descriptor {
@@ -192,6 +208,12 @@ void PosixFileSystem::replaceWhole(const std::string& path, const std::string& b
         fail("Cannot replace", path);
     }
     if (synced) syncFolder(folderOf(path));
+}
+
+std::int64_t PosixFileSystem::sizeOf(const std::string& path) {
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0) fail("Cannot stat", path);
+    return std::int64_t(info.st_size);
 }
 
 bool PosixFileSystem::exists(const std::string& path) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "common/failure.h"
 #include "platform/platform.h"
 #include "platform/posix_file_system.h"
 #include "platform/fake/recording_canvas.h"
@@ -85,6 +86,9 @@ public:
     // Fail the n-th read (1-based, counted from now) / the n-th write.
     void failRead(int nth) { failReadAt_ = reads_ + nth; }
     void failWrite(int nth) { failWriteAt_ = writes_ + nth; }
+    // Fail every write from now on for this reason, as a full or locked drive does
+    // (FileProblem::Other lets writes through again).
+    void refuseWrites(FileProblem why) { refusal_ = why; }
     // Fail every operation on files whose name ends with `suffix`.
     void failPath(const std::string& suffix) { failingSuffix_ = suffix; }
     // Tear the n-th write: only its first `bytes` bytes reach the disk, then it fails, as
@@ -106,6 +110,7 @@ private:
     int failReadAt_ = 0, failWriteAt_ = 0, tearWriteAt_ = 0;
     long long tearBytes_ = 0;
     std::string failingSuffix_;
+    FileProblem refusal_ = FileProblem::Other;
     void checkPath(const std::string& path);
     // Counts a whole-file write; a torn one leaves the old file and throws.
     void countWholeWrite(const std::string& path, const std::string& bytes);
