@@ -216,6 +216,11 @@ std::int64_t PosixFileSystem::sizeOf(const std::string& path) {
     return std::int64_t(info.st_size);
 }
 
+bool PosixFileSystem::isWritable(const std::string& folder) {
+    // A read-only mount answers EROFS here even for root, whom permissions don't stop.
+    return ::access(folder.c_str(), W_OK) == 0;
+}
+
 bool PosixFileSystem::exists(const std::string& path) {
     struct stat info {};
     return ::stat(path.c_str(), &info) == 0;

@@ -48,8 +48,12 @@ std::string DamagedRefusalText(const std::string& fileName) {
 
 std::string FullFileText(const std::string& fileName) {
     static const std::map<std::string, std::string> kinds{
-        {"Terms.txt", "terms"}, {"Classes.txt", "classes"}, {"Assignments.txt", "assignments"},
-        {"Notes.txt", "notes"}, {"StudySessions.txt", "study sessions"}, {"Tasks.txt", "tasks"},
+        {"Terms.txt", "terms"},
+        {"Classes.txt", "classes"},
+        {"Assignments.txt", "assignments"},
+        {"Notes.txt", "notes"},
+        {"StudySessions.txt", "study sessions"},
+        {"Tasks.txt", "tasks"},
         {"Events.txt", "events"},
     };
     const auto kind = kinds.find(fileName);

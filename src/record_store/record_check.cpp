@@ -90,9 +90,12 @@ bool isRecordDate(std::string_view text) {
 
 bool converts(Check check, std::string_view text) {
     switch (check) {
-        case Check::Number: return parseInt16(text).has_value();
-        case Check::Date: return isRecordDate(text);
-        case Check::Colour: return standardColors().ColorValues.contains(text);
+        case Check::Number:
+            return parseInt16(text).has_value();
+        case Check::Date:
+            return isRecordDate(text);
+        case Check::Colour:
+            return standardColors().ColorValues.contains(text);
     }
     return false;
 }

@@ -27,7 +27,7 @@ CheckedRecords RecordFiles::checkedFile(const RecordLayout& layout) {
     const std::string path = dataFilePath(store_, std::string(layout.fileName));
     if (!files.exists(path)) {
         // A missing file holds no records; the first save makes it if this can't.
-        runFileStep([&] { files.createEmpty(path); });
+        if (!store_.DriveReadOnly) runFileStep([&] { files.createEmpty(path); });
         return {};
     }
     const std::int64_t size = files.sizeOf(path);
@@ -44,15 +44,16 @@ void RecordFiles::keepDamaged(const RecordLayout& layout, const CheckedRecords& 
     FileSystem& files = platform_.files;
     const std::string path = dataFilePath(store_, name);
     const std::string copyName = DamagedCopyName(name, platform_.clock.today());
-    FileProblem why = FileProblem::Other;
+    FileProblem why = store_.DriveReadOnly ? FileProblem::ReadOnly : FileProblem::Other;
     // A copy made earlier today holds the file as it was first found damaged: it stays.
-    const bool kept = runFileStep(
+    const bool kept = !store_.DriveReadOnly && runFileStep(
         [&] {
             const std::string copyPath = dataFilePath(store_, copyName);
             if (!files.exists(copyPath)) files.copy(path, copyPath);
         },
         why);
-    const bool repaired = !checked.rewrite || (kept && runFileStep([&] { files.writeWhole(path, checked.records); }, why));
+    const bool repaired =
+        !checked.rewrite || (kept && runFileStep([&] { files.writeWhole(path, checked.records); }, why));
     if (!repaired) unsaveable_.insert(name);
     platform_.messages.show(DamagedFileText(name, checked, kept ? copyName : std::string(), repaired, why),
                             kDamagedFileTitle, MessageButtons::OK, MessageIcon::Exclamation);
@@ -61,8 +62,12 @@ void RecordFiles::keepDamaged(const RecordLayout& layout, const CheckedRecords& 
 bool RecordFiles::mayWrite(const RecordLayout& layout, int recordsAfter) {
     const std::string name(layout.fileName);
     std::string refusal;
-    if (unsaveable_.count(name)) refusal = DamagedRefusalText(name);
-    else if (recordsAfter > kMostRecords) refusal = FullFileText(name);
+    if (store_.DriveReadOnly)
+        refusal = kReadOnlyText;
+    else if (unsaveable_.count(name))
+        refusal = DamagedRefusalText(name);
+    else if (recordsAfter > kMostRecords)
+        refusal = FullFileText(name);
     if (refusal.empty()) return true;
     platform_.messages.show(refusal, kFileWriteErrorTitle, MessageButtons::OK, MessageIcon::Exclamation);
     return false;
@@ -122,8 +127,8 @@ bool RecordFiles::LoadTermsAndClasses() {
     std::string current = "Terms.txt";
     const bool read = runFileStep([&] {
         const std::vector<TextColumn*> terms = kTermBinding.columns(s);
-        keptTerms_ = readRecords(kTermBinding.layout, s.NextTermRecord, terms,
-                                 [&](const RecordView& r) { r.appendTo(terms); });
+        keptTerms_ =
+            readRecords(kTermBinding.layout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
         current = "Classes.txt";
         const std::vector<TextColumn*> classes = kClassBinding.columns(s);
         keptClasses_ = readRecords(kClassBinding.layout, s.NextClassRecord, classes,
@@ -153,35 +158,37 @@ bool RecordFiles::SaveTermsAndClasses() {
         if (!files.exists(path)) throw FileFailure("Cannot delete " + path);
     };
     FileProblem why = FileProblem::Other;
-    const bool written = runFileStep([&] {
-        const std::string termsPath = dataFilePath(s, "Terms.txt");
-        letGoOf(termsPath);
-        current = "Terms.txt";
-        s.NextTermRecord = 1;
-        std::string bytes;
-        bytes.reserve(std::size_t(s.TermNames.count()) * std::size_t(kTermsLayout.length));
-        for (int i = 1; i <= s.TermNames.count(); ++i) {
-            bytes += buildRecord(kTermsLayout, kTermBinding.valuesOfRow(s, i));
-            s.NextTermRecord = toInt16(s.NextTermRecord + 1);
-        }
-        bytes += keptTerms_;
-        files.writeWhole(termsPath, bytes);
-        s.TermsChanged = kTrue;
+    const bool written = runFileStep(
+        [&] {
+            const std::string termsPath = dataFilePath(s, "Terms.txt");
+            letGoOf(termsPath);
+            current = "Terms.txt";
+            s.NextTermRecord = 1;
+            std::string bytes;
+            bytes.reserve(std::size_t(s.TermNames.count()) * std::size_t(kTermsLayout.length));
+            for (int i = 1; i <= s.TermNames.count(); ++i) {
+                bytes += buildRecord(kTermsLayout, kTermBinding.valuesOfRow(s, i));
+                s.NextTermRecord = toInt16(s.NextTermRecord + 1);
+            }
+            bytes += keptTerms_;
+            files.writeWhole(termsPath, bytes);
+            s.TermsChanged = kTrue;
 
-        const std::string classesPath = dataFilePath(s, "Classes.txt");
-        letGoOf(classesPath);
-        current = "Classes.txt";
-        s.NextClassRecord = 1;
-        bytes.clear();
-        bytes.reserve(std::size_t(s.ClassNames.count()) * std::size_t(kClassesLayout.length));
-        for (int i = 1; i <= s.ClassNames.count(); ++i) {
-            bytes += buildRecord(kClassesLayout, kClassBinding.valuesOfRow(s, i));
-            s.NextClassRecord = toInt16(s.NextClassRecord + 1);
-        }
-        bytes += keptClasses_;
-        files.writeWhole(classesPath, bytes);
-        s.ClassesChanged = kTrue;
-    }, why);
+            const std::string classesPath = dataFilePath(s, "Classes.txt");
+            letGoOf(classesPath);
+            current = "Classes.txt";
+            s.NextClassRecord = 1;
+            bytes.clear();
+            bytes.reserve(std::size_t(s.ClassNames.count()) * std::size_t(kClassesLayout.length));
+            for (int i = 1; i <= s.ClassNames.count(); ++i) {
+                bytes += buildRecord(kClassesLayout, kClassBinding.valuesOfRow(s, i));
+                s.NextClassRecord = toInt16(s.NextClassRecord + 1);
+            }
+            bytes += keptClasses_;
+            files.writeWhole(classesPath, bytes);
+            s.ClassesChanged = kTrue;
+        },
+        why);
     if (!written) reportFileError(current, "writing", why);
     return written;
 }

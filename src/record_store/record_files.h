@@ -16,8 +16,8 @@
 // file cannot be written the file is left as it is and its saves are refused. A record in
 // its place with a field that does not convert stays in the file untouched but is left
 // out of the columns. A save that would pass the most records a file holds is refused
-// with "<File> is full: 32,766 <records>." before anything is written. Saves of one record (assignments, notes, sessions, tasks, events) write at
-// the Next counter: RecordNumber 0 appends and advances it; any other RecordNumber
+// with "<File> is full: 32,766 <records>." before anything is written. Saves of one record (assignments, notes,
+// sessions, tasks, events) write at the Next counter: RecordNumber 0 appends and advances it; any other RecordNumber
 // overwrites that record and puts the counter back afterwards. After a failed overwrite
 // the counter stays on the overwritten number until the next load, so the next append
 // lands there: that is the planner's long-standing behaviour and is kept.
@@ -110,7 +110,7 @@ private:
                             const std::function<void(const RecordView&)>& take);
     // The whole of a one-record save: directory step, counter rules, write, flag.
     [[nodiscard]] bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
-                 const std::function<Values()>& values);
+                               const std::function<Values()>& values);
 };
 
 }  // namespace qh

@@ -7,6 +7,7 @@ namespace qh {
 const char* const kDirectoryErrorTitle = "Quillhollow - Directory Error";
 const char* const kFileErrorTitle = "Quillhollow - File Read Error";
 const char* const kFileWriteErrorTitle = "Quillhollow - File Write Error";
+const char* const kReadOnlyText = "Read-only: changes cannot be saved";
 const char* const kDataDirectoryErrorText =
     "Error creating Quillhollow Data Directory\r\n\r\n"
     "Please restart Quillhollow. If the error continues, please contact Quillhollow Software.";
@@ -52,6 +53,7 @@ bool SetStorageLocations(RecordStore& store, Platform& platform) {
                                MessageIcon::Exclamation);
         return false;
     }
+    store.DriveReadOnly = !platform.files.isWritable(store.DataDirectory);
     return true;
 }
 
@@ -76,8 +78,8 @@ std::string fileErrorText(const std::string& FileName, const std::string& Action
            "for more information.";
 }
 
-void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::string& FileName,
-                     const std::string& Action, FileProblem why) {
+void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::string& FileName, const std::string& Action,
+                     FileProblem why) {
     messages.show(fileErrorText(FileName, Action, why), Action == "writing" ? kFileWriteErrorTitle : kFileErrorTitle,
                   MessageButtons::OK, MessageIcon::Exclamation);
     // A file that met an error in this run is kept out of the backups at exit.

@@ -91,6 +91,7 @@ void MainWindow::Form_Load() {
         loadEndedRun_ = true;
         return;
     }
+    if (store.DriveReadOnly) caption += std::string(" - ") + kReadOnlyText;
     files->LoadTermsAndClasses();
     files->LoadAssignments();
     files->LoadTasks();
@@ -132,7 +133,9 @@ void MainWindow::Form_Unload() {
     try {
         const std::string pidFile = pidFilePath();
         if (platform.files.exists(pidFile)) platform.files.remove(pidFile);
+        // A read-only drive is not written at all: not the preferences, not the backups.
         const bool written =
+            !store.DriveReadOnly &&
             WritePreferences(platform, store, WindowPlacement{int(windowState), left, top, width, height},
                              PreferenceValues{store.CurrentTermName, state.StartDayOfWeek, state.ShowTipsAtStartup,
                                               state.CurrentTip});

@@ -94,9 +94,9 @@ struct Damage {
     const char* what;
     std::function<bool(const Kind&)> applies;
     std::function<std::string(const Kind&, const std::string& good)> make;
-    int readable;        // records shown
-    long long inFile;    // records the message counts
-    bool fieldDamage;    // record 2 stays in the file as it was
+    int readable;      // records shown
+    long long inFile;  // records the message counts
+    bool fieldDamage;  // record 2 stays in the file as it was
 };
 
 bool always(const Kind&) { return true; }
@@ -132,7 +132,8 @@ const Damage kDamages[] = {
      5, 6, false},
     {"a date that is no date", dated,
      [](const Kind& k, const std::string& good) {
-         return recordAt(k, good, 1) + withField(k, 2, k.dateField, "soon") + good.substr(2 * std::size_t(k.layout.length));
+         return recordAt(k, good, 1) + withField(k, 2, k.dateField, "soon") +
+                good.substr(2 * std::size_t(k.layout.length));
      },
      4, 5, true},
     {"the year 1500", dated,
@@ -192,10 +193,9 @@ TEST(DamagedFiles, EveryFileAndDamageStartsNamesTheFileKeepsTheOriginalAndSavesI
             ASSERT_TRUE(d.loadAll()) << where;
             ASSERT_EQ(d.fake.messages.shown.size(), 1u) << where;
             EXPECT_EQ(d.fake.messages.shown[0].title, kDamagedFileTitle);
-            EXPECT_EQ(d.fake.messages.shown[0].text, name + " is damaged: " + N(damage.readable) + " of " +
-                                                         N(int(damage.inFile)) +
-                                                         " records could be read. A copy of it was kept as " +
-                                                         copyName(kind) + ".")
+            EXPECT_EQ(d.fake.messages.shown[0].text,
+                      name + " is damaged: " + N(damage.readable) + " of " + N(int(damage.inFile)) +
+                          " records could be read. A copy of it was kept as " + copyName(kind) + ".")
                 << where;
             EXPECT_EQ(d.bytesOf(copyName(kind)), damagedBytes) << where;
             EXPECT_EQ((d.store.*kind.shown).count(), damage.readable) << where;
@@ -247,8 +247,10 @@ TEST(DamagedFiles, MoreRecordsThanTheNumbersReachKeepTheMostAFileHolds) {
         Drive d(kind, bytes);
         ASSERT_TRUE(d.loadAll()) << name;
         ASSERT_EQ(d.fake.messages.shown.size(), 1u) << name;
-        EXPECT_EQ(d.fake.messages.shown[0].text, name + " is damaged: 32,766 of 32,770 records could be read. "
-                                                        "A copy of it was kept as " + copyName(*kind) + ".");
+        EXPECT_EQ(d.fake.messages.shown[0].text, name +
+                                                     " is damaged: 32,766 of 32,770 records could be read. "
+                                                     "A copy of it was kept as " +
+                                                     copyName(*kind) + ".");
         EXPECT_EQ(d.bytesOf(name).size(), std::size_t(kMostRecords) * std::size_t(kind->layout.length)) << name;
         expectInPlace(*kind, d.bytesOf(name), name);
     }
@@ -261,8 +263,9 @@ TEST(DamagedFiles, AFileOf200MegabytesIsReadNoFurtherThanTheMostRecordsAndKeptAs
     std::filesystem::resize_file(path, 200ull << 20);  // sparse: NULs past the records
     ASSERT_TRUE(d.loadAll());
     ASSERT_EQ(d.fake.messages.shown.size(), 1u);
-    EXPECT_EQ(d.fake.messages.shown[0].text, "Tasks.txt is damaged: 5 of 209,716 records could be read. "
-                                             "A copy of it was kept as Tasks.damaged-2026-11-25.txt.");
+    EXPECT_EQ(d.fake.messages.shown[0].text,
+              "Tasks.txt is damaged: 5 of 209,716 records could be read. "
+              "A copy of it was kept as Tasks.damaged-2026-11-25.txt.");
     EXPECT_EQ(d.store.TaskRecordNos, (TextColumn{"1", "2", "3", "4", "5"}));
     EXPECT_EQ(d.bytesOf("Tasks.txt"), goodFile(tasks));
     EXPECT_EQ(std::filesystem::file_size(d.path("Tasks.damaged-2026-11-25.txt")), 200ull << 20);
@@ -310,8 +313,7 @@ TEST(DamagedFiles, AWriteRefusedSaysWhyWithWriteInTheTitle) {
         EXPECT_FALSE(events.save(d.files, d.store, events.values(1), 0));
         ASSERT_EQ(d.fake.messages.shown.size(), 1u);
         EXPECT_EQ(d.fake.messages.shown[0].title, "Quillhollow - File Write Error");
-        EXPECT_EQ(d.fake.messages.shown[0].text,
-                  fileErrorText("Events.txt", "writing", drive.why));
+        EXPECT_EQ(d.fake.messages.shown[0].text, fileErrorText("Events.txt", "writing", drive.why));
         EXPECT_NE(d.fake.messages.shown[0].text.find(std::string("Events.txt (") + drive.words + ")"),
                   std::string::npos);
         EXPECT_EQ(d.bytesOf("Events.txt"), goodFile(events));
