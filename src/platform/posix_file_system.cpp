@@ -20,6 +20,7 @@ FileProblem problemOf(int error) {
         case EDQUOT:
         case EFBIG: return FileProblem::NoSpace;
         case EROFS:
+        case EBADF:  // a record file opened for reading only, on a read-only drive
         case EACCES:
         case EPERM: return FileProblem::ReadOnly;
         case EBUSY:
@@ -43,6 +44,10 @@ public:
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     int get() const { return fd_; }
+    void reset(int fd) {
+        if (fd_ >= 0) ::close(fd_);
+        fd_ = fd;
+    }
     int release() {
         int fd = fd_;
         fd_ = -1;
@@ -162,6 +167,8 @@ private:
 
 std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path, int recordLength) {
     Descriptor fd(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644));
+    // A read-only drive still lets its records be read; a write then fails as read-only.
+    if (fd.get() < 0 && (errno == EROFS || errno == EACCES)) fd.reset(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (fd.get() < 0) fail("Cannot open", path);
     return std::make_unique<PosixRecordFile>(fd.release(), recordLength, path);
 }

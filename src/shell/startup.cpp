@@ -126,6 +126,15 @@ void MainWindow::Form_Load() {
     c("TimerTip").enabled = true;
 }
 
+void RemoveProcessFile(Platform& platform) {
+    try {
+        const std::string pidFile = joinPath(platform.environment.get("U3_HOST_EXEC_PATH"),
+                                             std::to_string(platform.processes.ownProcessId()) + ".PID");
+        if (platform.files.exists(pidFile)) platform.files.remove(pidFile);
+    } catch (const FileFailure&) {
+    }
+}
+
 void MainWindow::Form_Unload() {
     c("Timer1").enabled = false;
     c("TimerButton").enabled = false;
