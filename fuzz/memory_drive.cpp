@@ -57,6 +57,8 @@ void MemoryFileSystem::writeWhole(const std::string& path, const std::string& by
     files[path] = bytes;
 }
 
+std::int64_t MemoryFileSystem::sizeOf(const std::string& path) { return std::int64_t(readAll(path).size()); }
+
 bool MemoryFileSystem::exists(const std::string& path) { return files.count(path) || folders.count(path); }
 
 bool MemoryFileSystem::isDirectory(const std::string& path) {

@@ -20,7 +20,9 @@ public:
     std::string readAll(const std::string& path) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
+    std::int64_t sizeOf(const std::string& path) override;
     bool exists(const std::string& path) override;
+    bool isWritable(const std::string&) override { return true; }
     bool isDirectory(const std::string& path) override;
     void makeDirectory(const std::string& path) override;
     void createEmpty(const std::string& path) override;

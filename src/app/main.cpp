@@ -29,13 +29,23 @@ int main() {
     qt.renderer().openHelpLink = [&qt](const std::string& address) {
         qh::OpenWithDesktop(qt.platform().processes, qt.platform().messages, address);
     };
-    // From here on a termination signal waits for the main window: one that comes during
-    // the load is handled as soon as the load is done.
+    // From here on a termination signal ends the run in every state. One that comes while
+    // the entry checks or the load show a message (a loop of its own) ends the run at once:
+    // nothing is stored yet, and the .PID file, if made, goes with it. One that comes
+    // during a load that shows nothing waits in the pipe and closes the main window as
+    // soon as the load is done.
     qh::TerminationSignals terminations;
+    // A failure the planner cannot go on from ends the run too: its .PID file goes first.
+    app.setLastStep([&qt] { qh::RemoveProcessFile(qt.platform()); });
     try {
         qh::Module1 module(qt.platform());
-        if (!module.Main()) return 0;
+        bool running = false;
         terminations.listen([&] {
+            if (!running) {
+                qh::RemoveProcessFile(qt.platform());
+                std::fflush(nullptr);
+                std::_Exit(EXIT_SUCCESS);
+            }
             qh::MainWindow& main = *module.mainWindow();
             if (!main.visible) return;  // already closing
             qt.platform().windowing.close(main, qh::UnloadMode::ProgramEnd);
@@ -47,6 +57,8 @@ int main() {
                 std::_Exit(EXIT_SUCCESS);
             }
         });
+        if (!module.Main()) return 0;
+        running = true;
         // The start-up benchmark (bench/startup.sh) times a run that ends as soon as the
         // main window has been painted once: at its first paint (the splash is gone by
         // now), once that paint has been handled, as the bare window it is compared with.

@@ -16,9 +16,23 @@ struct UntrappedFailure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-struct FileFailure : std::runtime_error {
-    using std::runtime_error::runtime_error;
+// Why the system refused a file operation, as far as the planner tells the student.
+enum class FileProblem {
+    Other,
+    NoSpace,   // no space left on the drive
+    ReadOnly,  // the drive (or the file) may not be written
+    InUse,     // another program holds the file
 };
+
+struct FileFailure : std::runtime_error {
+    explicit FileFailure(const std::string& what, FileProblem why = FileProblem::Other)
+        : std::runtime_error(what), problem(why) {}
+    FileProblem problem;
+};
+
+// The reason in the student's words: "no space left on the drive", "the drive is
+// read-only", "the file is in use"; empty for any other failure.
+std::string problemInWords(FileProblem problem);
 
 // A whole number that does not fit the 16 bits the planner stores it in.
 struct Overflow : UntrappedFailure {

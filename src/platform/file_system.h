@@ -46,7 +46,11 @@ public:
     // be opened or read, and also when it is not a plain file (a folder, a device, a pipe).
     virtual std::string readHead(const std::string& path, std::size_t maxBytes) = 0;
 
+    // The length of a file in bytes; fails when it cannot be asked.
+    [[nodiscard]] virtual std::int64_t sizeOf(const std::string& path) = 0;
     [[nodiscard]] virtual bool exists(const std::string& path) = 0;
+    // Whether files may be made and written in the folder (false on a read-only drive).
+    [[nodiscard]] virtual bool isWritable(const std::string& folder) = 0;
     [[nodiscard]] virtual bool isDirectory(const std::string& path) = 0;
     virtual void makeDirectory(const std::string& path) = 0;  // one level, no parents
     virtual void createEmpty(const std::string& path) = 0;    // an empty file, replacing one

@@ -14,8 +14,25 @@
 namespace qh {
 namespace {
 
+FileProblem problemOf(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG: return FileProblem::NoSpace;
+        case EROFS:
+        case EBADF:  // a record file opened for reading only, on a read-only drive
+        case EACCES:
+        case EPERM: return FileProblem::ReadOnly;
+        case EBUSY:
+        case ETXTBSY:
+        case EAGAIN: return FileProblem::InUse;
+        default: return FileProblem::Other;
+    }
+}
+
 [[noreturn]] void fail(const std::string& what, const std::string& path) {
-    throw FileFailure(what + " " + path + ": " + std::strerror(errno));
+    const int error = errno;
+    throw FileFailure(what + " " + path + ": " + std::strerror(error), problemOf(error));
 }
 
 class Descriptor {
@@ -27,6 +44,10 @@ public:
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     int get() const { return fd_; }
+    void reset(int fd) {
+        if (fd_ >= 0) ::close(fd_);
+        fd_ = fd;
+    }
     int release() {
         int fd = fd_;
         fd_ = -1;
@@ -152,6 +173,8 @@ private:
 
 std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path, int recordLength) {
     Descriptor fd(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644));
+    // A read-only drive still lets its records be read; a write then fails as read-only.
+    if (fd.get() < 0 && (errno == EROFS || errno == EACCES)) fd.reset(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (fd.get() < 0) fail("Cannot open", path);
     return std::make_unique<PosixRecordFile>(fd.release(), recordLength, path, synced_);
 }
@@ -200,6 +223,17 @@ void PosixFileSystem::replaceWhole(const std::string& path, const std::string& b
         fail("Cannot replace", path);
     }
     if (synced) syncFolder(folderOf(path));
+}
+
+std::int64_t PosixFileSystem::sizeOf(const std::string& path) {
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0) fail("Cannot stat", path);
+    return std::int64_t(info.st_size);
+}
+
+bool PosixFileSystem::isWritable(const std::string& folder) {
+    // A read-only mount answers EROFS here even for root, whom permissions don't stop.
+    return ::access(folder.c_str(), W_OK) == 0;
 }
 
 bool PosixFileSystem::exists(const std::string& path) {

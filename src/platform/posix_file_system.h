@@ -17,7 +17,9 @@ public:
     void writeWhole(const std::string& path, const std::string& bytes) override;
     void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
+    std::int64_t sizeOf(const std::string& path) override;
     bool exists(const std::string& path) override;
+    bool isWritable(const std::string& folder) override;
     bool isDirectory(const std::string& path) override;
     void makeDirectory(const std::string& path) override;
     void createEmpty(const std::string& path) override;

@@ -39,6 +39,9 @@ struct EventBuffer {
 struct RecordStore {
     // Directories (see storage_locations.h).
     std::string DataDirectory, BackupDirectory, DocumentDirectory, HelpFile;
+    // The data directory may not be written (a drive with its lock switch on): the records
+    // load, and nothing at all is written.
+    bool DriveReadOnly = false;
 
     // Terms and classes.
     TextColumn TermIDs, TermNames, TermStarts, TermEnds;

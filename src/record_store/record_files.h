@@ -8,9 +8,16 @@
 // leaving the columns and counters as far as they got). The routines return true when
 // they ran to their end, false after a message; callers may ignore the result.
 //
-// Loads read record 1, 2, ... until the end of the file; a trailing part record counts as
-// the end. Saves of one record (assignments, notes, sessions, tasks, events) write at
-// the Next counter: RecordNumber 0 appends and advances it; any other RecordNumber
+// Loads check the file first (record_check.h). A damaged file is told once a run, naming
+// it and how many of its records could be read; the damaged original is copied aside
+// under the data directory ("Assignments.damaged-2026-11-25.txt") before anything is
+// written, and a file whose records stood out of place is then written anew, whole, from
+// the records found, so that no save lands on the wrong record. When the copy or the new
+// file cannot be written the file is left as it is and its saves are refused. A record in
+// its place with a field that does not convert stays in the file untouched but is left
+// out of the columns. A save that would pass the most records a file holds is refused
+// with "<File> is full: 32,766 <records>." before anything is written. Saves of one record (assignments, notes,
+// sessions, tasks, events) write at the Next counter: RecordNumber 0 appends and advances it; any other RecordNumber
 // overwrites that record and puts the counter back afterwards. After a failed overwrite
 // the counter stays on the overwritten number until the next load, so the next append
 // lands there: that is the planner's long-standing behaviour and is kept.
@@ -18,12 +25,14 @@
 // Terms.txt and Classes.txt are always replaced whole, atomically: a failed save leaves
 // the file as it was before the save.
 #include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/platform.h"
 #include "record_store/columns.h"
+#include "record_store/record_check.h"
 #include "record_store/record_layout.h"
 
 namespace qh {
@@ -76,18 +85,32 @@ private:
 
     using Values = std::vector<std::string>;
 
+    // Files already told damaged this run, and those left damaged on the drive whose
+    // saves are refused.
+    std::set<std::string> toldDamaged_;
+    std::set<std::string> unsaveable_;
+    // The term and class records kept out of the columns for a field that does not
+    // convert: they are written back as they stand whenever the two files are replaced.
+    std::string keptTerms_, keptClasses_;
+
     [[nodiscard]] bool enterDataDirectory();
-    void reportFileError(const std::string& fileName, const char* action);
-    // Opens the file, resets `next` to 1 and hands each whole record to `take`, advancing
-    // `next` past it. Throws on any failure; the caller reports it. `rowsFor` are columns
-    // that take about one row for each record: they are given room for all of them
-    // before the first is read, so that a file of thousands of records doesn't regrow
-    // them again and again.
-    void readRecords(const RecordLayout& layout, Int16& next, std::span<TextColumn* const> rowsFor,
-                     const std::function<void(const RecordView&)>& take);
+    void reportFileError(const std::string& fileName, const char* action, FileProblem why = FileProblem::Other);
+    // Reads and checks the file (a missing one is created empty); a damaged one is told,
+    // copied aside and repaired as the header says.
+    CheckedRecords checkedFile(const RecordLayout& layout);
+    void keepDamaged(const RecordLayout& layout, const CheckedRecords& checked);
+    // Whether a save of the file may go ahead; shows the refusal when it may not.
+    [[nodiscard]] bool mayWrite(const RecordLayout& layout, int recordsAfter);
+    // Checks the file, resets `next` to 1 and hands each readable record to `take`,
+    // advancing `next` past every record. Throws on any failure; the caller reports it.
+    // Returns the bytes of the records left out. `rowsFor` are columns that take about
+    // one row for each record: they are given room for all of them before the first is
+    // read, so that a file of thousands of records doesn't regrow them again and again.
+    std::string readRecords(const RecordLayout& layout, Int16& next, std::span<TextColumn* const> rowsFor,
+                            const std::function<void(const RecordView&)>& take);
     // The whole of a one-record save: directory step, counter rules, write, flag.
     [[nodiscard]] bool saveOne(const RecordLayout& layout, Int16& next, Int16& changed, Int16 RecordNumber,
-                 const std::function<Values()>& values);
+                               const std::function<Values()>& values);
 };
 
 }  // namespace qh

@@ -6,6 +6,8 @@ namespace qh {
 
 const char* const kDirectoryErrorTitle = "Quillhollow - Directory Error";
 const char* const kFileErrorTitle = "Quillhollow - File Read Error";
+const char* const kFileWriteErrorTitle = "Quillhollow - File Write Error";
+const char* const kReadOnlyText = "Read-only: changes cannot be saved";
 const char* const kDataDirectoryErrorText =
     "Error creating Quillhollow Data Directory\r\n\r\n"
     "Please restart Quillhollow. If the error continues, please contact Quillhollow Software.";
@@ -51,6 +53,7 @@ bool SetStorageLocations(RecordStore& store, Platform& platform) {
                                MessageIcon::Exclamation);
         return false;
     }
+    store.DriveReadOnly = !platform.files.isWritable(store.DataDirectory);
     return true;
 }
 
@@ -68,15 +71,17 @@ void ReportDirectoryError(MessageBoxes& messages) {
     messages.show(kDirectoryErrorText, kDirectoryErrorTitle, MessageButtons::OK, MessageIcon::Exclamation);
 }
 
-std::string fileErrorText(const std::string& FileName, const std::string& Action) {
-    return "Error " + Action + " the file: " + FileName +
+std::string fileErrorText(const std::string& FileName, const std::string& Action, FileProblem why) {
+    const std::string reason = problemInWords(why);
+    return "Error " + Action + " the file: " + FileName + (reason.empty() ? "" : " (" + reason + ")") +
            "\r\n\r\nDo not continue working. Exit and restart Quillhollow. If the error continues, see the Help "
            "for more information.";
 }
 
-void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::string& FileName,
-                     const std::string& Action) {
-    messages.show(fileErrorText(FileName, Action), kFileErrorTitle, MessageButtons::OK, MessageIcon::Exclamation);
+void ReportFileError(RecordStore& store, MessageBoxes& messages, const std::string& FileName, const std::string& Action,
+                     FileProblem why) {
+    messages.show(fileErrorText(FileName, Action, why), Action == "writing" ? kFileWriteErrorTitle : kFileErrorTitle,
+                  MessageButtons::OK, MessageIcon::Exclamation);
     // A file that met an error in this run is kept out of the backups at exit.
     if (FileName == "Terms.txt") store.TermsChanged = kFalse;
     if (FileName == "Classes.txt") store.ClassesChanged = kFalse;

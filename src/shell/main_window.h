@@ -43,6 +43,11 @@ struct ColorVocabulary;
 class EditorWindows;
 class RecordActions;
 
+// Deletes this process's own .PID file if it is there; a failure is passed over. For a
+// run that ends other than by the main window's unload: a signal before the window took
+// over, a failure the planner cannot go on from.
+void RemoveProcessFile(Platform& platform);
+
 class MainWindow : public Form, public EditorHost {
 public:
     MainWindow(RecordStore& store, Platform& platform);

@@ -1,7 +1,6 @@
 #include "shell/preferences.h"
 
 #include <algorithm>
-
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -107,18 +106,19 @@ void ReadPreferencesText(std::string_view text, int screenWidthPx, int screenHei
                          PreferenceValues& values) {
     values.StartDayOfWeek = "Sunday";
     values.ShowTipsAtStartup = "Yes";
-    try {
-        while (!text.empty()) {
-            // A line ends at CR LF, a lone CR or a lone LF.
-            const std::size_t end = text.find_first_of("\r\n");
-            const std::string_view line = text.substr(0, end);
-            if (end == std::string_view::npos) {
-                text = {};
-            } else {
-                const bool crlf = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
-                text.remove_prefix(end + (crlf ? 2 : 1));
-            }
+    while (!text.empty()) {
+        // A line ends at CR LF, a lone CR or a lone LF.
+        const std::size_t end = text.find_first_of("\r\n");
+        const std::string_view line = text.substr(0, end);
+        if (end == std::string_view::npos) {
+            text = {};
+        } else {
+            const bool crlf = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
+            text.remove_prefix(end + (crlf ? 2 : 1));
+        }
 
+        // A line that does not read is skipped; the lines after it still count.
+        try {
             auto valueAfter = [&](std::string_view key) -> std::optional<std::string_view> {
                 if (!startsWith(line, key)) return std::nullopt;
                 return line.substr(key.size());
@@ -143,9 +143,8 @@ void ReadPreferencesText(std::string_view text, int screenWidthPx, int screenHei
             } else if (auto v = valueAfter("CurrentTip=")) {
                 values.CurrentTip = whole16(*v);
             }
+        } catch (const StopReading&) {
         }
-    } catch (const StopReading&) {
-        // Silently: what was read so far stands.
     }
 }
 

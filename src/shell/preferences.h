@@ -38,9 +38,10 @@ std::string PreferencesText(const WindowPlacement& window, const PreferenceValue
 // then takes each line whose beginning is one of the nine keys (case sensitive; a later
 // line wins), applying the window values one by one onto `window`, which holds the
 // centred load position on entry. A geometry value v counts only when 1 <= v < the
-// screen's pixels in that direction, and becomes v * 15 as a 16-bit number. Any failure
-// (a number that does not convert, v * 15 past 32767, which happens from v = 2185 on) ends
-// the reading silently, with all read so far standing.
+// screen's pixels in that direction, and becomes v * 15 as a 16-bit number. A line that
+// fails (a number that does not convert, v * 15 past 32767, which happens from v = 2185
+// on) is skipped silently and the lines after it are still read, so one bad value
+// doesn't put back the defaults of every setting after it.
 void ReadPreferencesText(std::string_view text, int screenWidthPx, int screenHeightPx, WindowPlacement& window,
                          PreferenceValues& values);
 

@@ -91,6 +91,7 @@ void MainWindow::Form_Load() {
         loadEndedRun_ = true;
         return;
     }
+    if (store.DriveReadOnly) caption += std::string(" - ") + kReadOnlyText;
     files->LoadTermsAndClasses();
     files->LoadAssignments();
     files->LoadTasks();
@@ -126,6 +127,15 @@ void MainWindow::Form_Load() {
     LoadDesktopReminderSettings();
 }
 
+void RemoveProcessFile(Platform& platform) {
+    try {
+        const std::string pidFile = joinPath(platform.environment.get("U3_HOST_EXEC_PATH"),
+                                             std::to_string(platform.processes.ownProcessId()) + ".PID");
+        if (platform.files.exists(pidFile)) platform.files.remove(pidFile);
+    } catch (const FileFailure&) {
+    }
+}
+
 void MainWindow::Form_Unload() {
     c("Timer1").enabled = false;
     c("TimerButton").enabled = false;
@@ -133,7 +143,9 @@ void MainWindow::Form_Unload() {
     try {
         const std::string pidFile = pidFilePath();
         if (platform.files.exists(pidFile)) platform.files.remove(pidFile);
+        // A read-only drive is not written at all: not the preferences, not the backups.
         const bool written =
+            !store.DriveReadOnly &&
             WritePreferences(platform, store, WindowPlacement{int(windowState), left, top, width, height},
                              PreferenceValues{store.CurrentTermName, state.StartDayOfWeek, state.ShowTipsAtStartup,
                                               state.CurrentTip});

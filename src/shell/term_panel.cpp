@@ -1,5 +1,6 @@
 // The term panel (which term is active and how many days are left of it) and the status bar.
 #include "record_store/record_files.h"
+#include "record_store/storage_locations.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -58,11 +59,13 @@ void MainWindow::PaintStatusBar() {
     font.name = "MS Sans Serif";
     font.size = 8;
     bar.setFont(font);
-    bar.printText(150, 90, state.StatusBarText);
+    const std::string text =
+        store.DriveReadOnly ? std::string(kReadOnlyText) + "      " + state.StatusBarText : state.StatusBarText;
+    bar.printText(150, 90, text);
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
     bar.printText(w - bar.textWidth(right) - 150, 90, right);
-    c("picStatusBar").accessibleName = state.StatusBarText + ", " + right;
+    c("picStatusBar").accessibleName = text + ", " + right;
 }
 
 }  // namespace qh

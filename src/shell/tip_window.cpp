@@ -75,9 +75,8 @@ FrmTip::FrmTip(const Environment& environment) : Form("frmTip"), environment_(en
     // Escape closes the tip as Close does; Enter presses the focused button, else Close.
     defaultButton = cancelButton = "ButtonClose";
     on("ButtonNextTip", FormEvent::Click, [this](const EventArgs&) { ShowNextTip(); });
-    on("CheckBoxShowTips", FormEvent::Click, [this](const EventArgs&) {
-        tempShowTipsAtStartup = c("CheckBoxShowTips").checked ? "Yes" : "No";
-    });
+    on("CheckBoxShowTips", FormEvent::Click,
+       [this](const EventArgs&) { tempShowTipsAtStartup = c("CheckBoxShowTips").checked ? "Yes" : "No"; });
     on("ButtonClose", FormEvent::Click, [this](const EventArgs&) { hide(); });
 }
 
@@ -104,8 +103,9 @@ bool FrmTip::Form_QueryUnload(UnloadMode mode) {
 
 void FrmTip::ShowNextTip() {
     c("LabelTip").caption = TipText(tempCurrentTip, environment_);
-    tempCurrentTip = toInt16(tempCurrentTip + 1);
-    if (tempCurrentTip > TotalTips) tempCurrentTip = 0;
+    // A tip number past the last (a hand-edited Preferences.ini says 32767) starts the
+    // tips again rather than overflowing.
+    tempCurrentTip = tempCurrentTip >= TotalTips ? Int16(0) : toInt16(tempCurrentTip + 1);
 }
 
 std::string FrmTip::TipText(int number, const Environment& environment) {

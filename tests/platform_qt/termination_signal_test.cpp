@@ -65,11 +65,13 @@ public:
 
     // Starts the program, sends `signal` once the program has written its .PID file and
     // returns the wait status, or -1 when the program did not start or did not end.
-    int run(int signal) {
+    // Without the drive the program shows its one message and waits for its OK: the signal
+    // is sent once the program catches it.
+    int run(int signal, bool onDrive = true) {
         std::vector<std::string> settings = {"U3_DEVICE_PATH=" + drive_.string(),
                                              "U3_DEVICE_EXEC_PATH=" + (drive_ / "exec").string(),
                                              "U3_DEVICE_DOCUMENT_PATH=" + (drive_ / "Documents").string(),
-                                             "U3_HOST_EXEC_PATH=" + host_.string(),
+                                             "U3_HOST_EXEC_PATH=" + (onDrive ? host_.string() : std::string()),
                                              "XDG_RUNTIME_DIR=" + runtime_.string(),  // its own one-copy lock
                                              "QT_QPA_PLATFORM=offscreen",
                                              // A sanitizer build: fontconfig's configuration is
@@ -98,7 +100,8 @@ public:
         if (child < 0) return -1;
         pid_ = child;
         int status = -1;
-        if (waitUntil([&] { return fs::exists(pidFile(child)); }, child, status)) {
+        const auto ready = [&] { return onDrive ? fs::exists(pidFile(child)) : catches(child, signal); };
+        if (waitUntil(ready, child, status)) {
             ::kill(child, signal);
             waitUntil([] { return false; }, child, status);
         }
@@ -110,6 +113,14 @@ public:
     pid_t pid() const { return pid_; }
 
 private:
+    // Whether the process has a handler for the signal (its SigCgt mask in /proc).
+    static bool catches(pid_t process, int signal) {
+        std::ifstream status("/proc/" + std::to_string(process) + "/status");
+        for (std::string line; std::getline(status, line);)
+            if (line.rfind("SigCgt:", 0) == 0) return (std::stoull(line.substr(7), nullptr, 16) >> (signal - 1)) & 1;
+        return false;
+    }
+
     // Polls `done` for up to a minute (a sanitizer build starts slowly). False when the
     // time ran out or the child ended first, which sets ended_ and `status`.
     template <class Done>
@@ -151,6 +162,17 @@ TEST_P(TerminationSignal, EndsTheRunAsFileExitDoes) {
     EXPECT_EQ(values.ShowTipsAtStartup, "No");
     EXPECT_EQ(values.CurrentTip, 3);
     EXPECT_EQ(written, PreferencesText(window, values));
+}
+
+// Before the main window exists, while the "launch from the drive" message waits for its
+// OK, a signal still ends the run; no .PID file is left.
+TEST_P(TerminationSignal, EndsTheRunWhileAMessageBeforeTheMainWindowIsShown) {
+    SignalledRun planner;
+    const int status = planner.run(GetParam(), false);
+    ASSERT_NE(status, -1) << "the program did not start or did not end";
+    ASSERT_TRUE(WIFEXITED(status)) << "ended by signal " << (WIFSIGNALED(status) ? WTERMSIG(status) : 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_FALSE(fs::exists(planner.pidFile(planner.pid())));
 }
 
 INSTANTIATE_TEST_SUITE_P(Signals, TerminationSignal, ::testing::Values(SIGTERM, SIGINT, SIGHUP),

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "record_store/damage_messages.h"
 #include "store_fixture.h"
 
 namespace qh {
@@ -33,12 +34,12 @@ std::string assignment(int n, int classLink, const std::string& description) {
                                           "00 : 30", description, "False", " ", "100", "None"});
 }
 
-// Every record file, each ending in a part record where one can. Term 1 has the live
+// Every record file, whole and undamaged. Term 1 has the live
 // class 10 and the deleted class 11; class 20 belongs to term 2; term 3 lists class 10
 // twice (a hand-edited file), once as "010".
 struct FullDrive : StoreOnDrive {
     FullDrive() {
-        writeFile("Terms.txt", records(kTermsLayout, kTerm, 1, {"Fall 2026", "DELETED RECORD", "Spring"}) + "part");
+        writeFile("Terms.txt", records(kTermsLayout, kTerm, 1, {"Fall 2026", "DELETED RECORD", "Spring"}));
         writeFile("Classes.txt", klass("10", "1", "Biology") + klass("11", "1", "DELETED RECORD") +
                                      klass("20", "2", "History") + klass("010", "3", "Bio") + klass("10", "3", "Bio"));
         writeFile("Assignments.txt", assignment(1, 10, "Lab report") + assignment(2, 11, "Orphan") +
@@ -46,14 +47,13 @@ struct FullDrive : StoreOnDrive {
                                          assignment(5, 10, "Quiz"));
         writeFile("Notes.txt", records(kNotesLayout, kNote, 1, {"1", "0", "3", "-1"}));
         writeFile("StudySessions.txt",
-                  records(kStudySessionsLayout, kSession, 1, {"1", "-1", "0", "3", "2", "5"}) + "part");
+                  records(kStudySessionsLayout, kSession, 1, {"1", "-1", "0", "3", "2", "5"}));
         writeFile("Tasks.txt",
                   records(kTasksLayout, {"", "9", "", "True", "2026.12.01", "Errand", "Low", "False", "", ""}, 2,
-                          {"Buy stamps", "DELETED RECORD", "Call home"}) +
-                      "part");
+                          {"Buy stamps", "DELETED RECORD", "Call home"}));
         writeFile("Events.txt", records(kEventsLayout,
                                         {"", "9", "2026-12-24", "", "Social", "All Day", "Year", "True", "First", "Day",
-                                         "FFFFFFF", "True", "never-ever", "", "None"},
+                                         "FFFFFFF", "False", "never-ever", "", "None"},
                                         3, {"Holiday party", "DELETED RECORD", "Recital"}));
     }
 };
@@ -112,51 +112,29 @@ TEST(Loads, AssignmentsOfTheActiveTermsLiveClassesAndTheirSessions) {
     }
 }
 
-TEST(Loads, AReadErrorEndsTheRoutineWithTheRowsSoFarAndClearsTheFilesFlag) {
+TEST(Loads, AReadErrorEndsTheRoutineAndClearsTheFilesFlag) {
     using S = RecordStore;
     const struct {
         const char* file;
         int failingRead;
         bool (RecordFiles::*load)();
         Int16 S::*flag;
-        TextColumn S::*kept;
-        int keptRows;
-        TextColumn S::*unread;  // of a later file the routine no longer reaches
-        Int16 S::*next;
+        TextColumn S::*unread;  // of the failing file or a later one the routine no longer reaches
     } cases[] = {
-        {"Terms.txt", 3, &RecordFiles::LoadTermsAndClasses, &S::TermsChanged, &S::TermIDs, 2, &S::ClassIDs,
-         &S::NextTermRecord},
-        // Five assignments, the read past their end, then the third note.
-        {"Notes.txt", 9, &RecordFiles::LoadAssignments, &S::NotesChanged, &S::NoteRecordNos, 1,
-         &S::StudySessionRecordNos, &S::NextNoteRecord},
-        {"Events.txt", 3, &RecordFiles::LoadEvents, &S::EventsChanged, &S::EventIDs, 1, nullptr, &S::NextEventRecord},
+        {"Terms.txt", 1, &RecordFiles::LoadTermsAndClasses, &S::TermsChanged, &S::ClassIDs},
+        {"Notes.txt", 2, &RecordFiles::LoadAssignments, &S::NotesChanged, &S::StudySessionRecordNos},
+        {"Events.txt", 1, &RecordFiles::LoadEvents, &S::EventsChanged, &S::EventIDs},
     };
     for (const auto& c : cases) {
         FullDrive d;
         d.store.*c.flag = kTrue;
         d.fake.files.failRead(c.failingRead);
         EXPECT_FALSE((d.files.*c.load)()) << c.file;
-        EXPECT_EQ((d.store.*c.kept).count(), c.keptRows) << c.file;
-        if (c.unread) {
-            EXPECT_TRUE((d.store.*c.unread).empty()) << c.file;
-        }
-        EXPECT_EQ(d.store.*c.next, 3) << c.file;
+        EXPECT_TRUE((d.store.*c.unread).empty()) << c.file;
         EXPECT_EQ(d.store.*c.flag, kFalse) << c.file;
         ASSERT_EQ(d.fake.messages.shown.size(), 1u) << c.file;
         EXPECT_EQ(d.fake.messages.shown[0].text, fileErrorText(c.file, "reading"));
     }
-}
-
-TEST(Loads, AFileOf32767RecordsOverflowsTheCounterAtItsEnd) {
-    StoreOnDrive d;
-    std::string bytes;
-    const std::string one = rawRecord(kTermsLayout, kTerm);
-    for (int i = 0; i < 32767; ++i) bytes += one;
-    d.writeFile("Terms.txt", bytes);
-    EXPECT_FALSE(d.files.LoadTermsAndClasses());
-    EXPECT_EQ(d.store.TermIDs.count(), 32767);
-    EXPECT_EQ(d.store.NextTermRecord, 32767);
-    EXPECT_EQ(d.fake.messages.shown.at(0).text, fileErrorText("Terms.txt", "reading"));
 }
 
 TEST(Saves, AnOverwritePutsTheCounterBackUnlessItFailsSoTheNextAppendLandsThere) {
@@ -191,12 +169,22 @@ TEST(Saves, AnOverwritePutsTheCounterBackUnlessItFailsSoTheNextAppendLandsThere)
     EXPECT_EQ(s.NoteRecord.RecordNo, "");
 }
 
-TEST(Saves, RecordNumbersCannotPass32767) {
+TEST(Saves, AFullFileRefusesANewRecordBeforeWritingAnything) {
     StoreOnDrive d;
+    d.writeFile("Assignments.txt", assignment(1, 10, "Kept"));
     d.store.NextAssignmentRecord = 32767;
+    d.store.AssignmentRecord = {"", "2", "10", dateFromText("2026/11/30"), "Quiz", "Easy", "00 : 30",
+                                "New", "False", "", "5", "None"};
     EXPECT_FALSE(d.files.SaveAssignment(0));
     EXPECT_EQ(d.store.NextAssignmentRecord, 32767);
-    EXPECT_EQ(d.fake.messages.shown.at(0).text, fileErrorText("Assignments.txt", "writing"));
+    ASSERT_EQ(d.fake.messages.shown.size(), 1u);
+    EXPECT_EQ(d.fake.messages.shown[0].text, "Assignments.txt is full: 32,766 assignments.");
+    EXPECT_EQ(d.fake.messages.shown[0].title, "Quillhollow - File Write Error");
+    EXPECT_EQ(d.bytesOf("Assignments.txt"), assignment(1, 10, "Kept"));
+    // A change to a record that is there still goes through.
+    EXPECT_TRUE(d.files.SaveAssignment(1));
+    EXPECT_EQ(FullFileText("Tasks.txt"), "Tasks.txt is full: 32,766 tasks.");
+    EXPECT_EQ(FullFileText("StudySessions.txt"), "StudySessions.txt is full: 32,766 study sessions.");
 }
 
 TEST(Saves, AFailedSaveOfTermsAndClassesLeavesTheOldFilesAndClearsTheFlagOfTheOneItNames) {

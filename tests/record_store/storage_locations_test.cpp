@@ -77,7 +77,7 @@ TEST(StorageLocations, AFileErrorClearsTheFlagOfTheFileItNamesOnly) {
         for (int j = 0; j < 7; ++j) EXPECT_EQ(store.*flags[j], j <= i ? kFalse : kTrue) << names[i] << " " << names[j];
     }
     const ShownMessage& box = fake.messages.shown.at(1);
-    EXPECT_EQ(box.title, "Quillhollow - File Read Error");
+    EXPECT_EQ(box.title, "Quillhollow - File Write Error");
     EXPECT_EQ(box.text,
               "Error writing the file: Terms.txt\r\n\r\nDo not continue working. Exit and restart Quillhollow. If "
               "the error continues, see the Help for more information.");

@@ -22,7 +22,7 @@ std::string describe(const WindowPlacement& w, const PreferenceValues& v) {
 
 // Each text is read over the centred window and kBefore, on a 1280 x 1024 screen unless
 // given. The exact text the writer gives is checked where the main window closes.
-TEST(Preferences, TheReaderTakesWhatFitsAndStopsAtTheFirstFailure) {
+TEST(Preferences, TheReaderTakesWhatFitsAndSkipsALineThatDoesNotRead) {
     const struct {
         const char* name;
         std::string text;
@@ -46,17 +46,18 @@ TEST(Preferences, TheReaderTakesWhatFitsAndStopsAtTheFirstFailure) {
          {0, 3000, 2000, 9600, 701 * 15}, {"Old term", "Sunday", "Yes", 7}},
         {"rounded half to even", "FormMainLocationX=10.5\nFormMainLocationY=11.5\r", {0, 150, 180, 9600, 7200},
          {"Old term", "Sunday", "Yes", 7}},
-        // 2185 pixels are 32775 twips, past 16 bits: on a wide screen the reader stops there.
-        {"twips past 16 bits stop it",
+        // 2185 pixels are 32775 twips, past 16 bits: on a wide screen that line is skipped
+        // and the lines after it are still read.
+        {"twips past 16 bits skip the line",
          "FormMainLocationX=10\r\nFormMainSizeX=2185\r\nFormMainSizeY=50\r\n[Options]\r\nActiveTerm=Fall\r\n"
          "StartDayofWeek=Monday\r\n",
-         {0, 150, 2000, 9600, 7200}, {"Old term", "Sunday", "Yes", 7}, 2560, 1440},
+         {0, 150, 2000, 9600, 750}, {"Fall", "Monday", "Yes", 7}, 2560, 1440},
         {"too wide for the screen is only passed over", "FormMainSizeX=2185\r\nStartDayofWeek=Monday\r\n", kCentred,
          {"Old term", "Monday", "Yes", 7}, 1920, 1080},
-        {"no number stops it", "CurrentTip=3\r\nCurrentTip=three\r\nShowTipsAtStartup=No\r\n", kCentred,
-         {"Old term", "Sunday", "Yes", 3}},
-        {"past 16 bits stops it", "CurrentTip=40000\r\nShowTipsAtStartup=No\r\n", kCentred,
-         {"Old term", "Sunday", "Yes", 7}},
+        {"no number is skipped", "CurrentTip=3\r\nCurrentTip=three\r\nShowTipsAtStartup=No\r\n", kCentred,
+         {"Old term", "Sunday", "No", 3}},
+        {"past 16 bits is skipped", "CurrentTip=40000\r\nShowTipsAtStartup=No\r\n", kCentred,
+         {"Old term", "Sunday", "No", 7}},
     };
     for (const auto& c : cases) {
         WindowPlacement window = kCentred;

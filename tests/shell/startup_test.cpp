@@ -3,6 +3,8 @@
 #include <filesystem>
 
 #include "shell/main_window.h"
+#include "record_store/record_files.h"
+#include "record_store/storage_locations.h"
 #include "shell/module1.h"
 #include "support/main_window_fixture.h"
 
@@ -54,11 +56,12 @@ TEST(MainWindowLoad, AFirstRunOnAnEmptyDriveMakesTheFoldersReadsTheFilesAndOpens
     std::vector<std::string> made, opened;
     for (const std::string& line : main.fake.files.log) {
         if (line.find(" mkdir") != std::string::npos) made.push_back(line);
-        if (line.starts_with("open ")) opened.push_back(fs::path(line.substr(5)).filename().string());
+        if (line.ends_with(" create") && line.find(".PID") == std::string::npos)
+            opened.push_back(fs::path(line.substr(6, line.size() - 13)).filename().string());
     }
     EXPECT_EQ(made, (std::vector<std::string>{"write " + base + " mkdir", "write " + base + "/Data mkdir",
                                               "write " + base + "/Data/Backup mkdir"}));
-    // All seven once, and empty: with no term there is no second read of the term's three.
+    // All seven made once, and empty: with no term there is no second read of the term's three.
     const std::vector<std::string> files{"Terms.txt",         "Classes.txt", "Assignments.txt", "Notes.txt",
                                          "StudySessions.txt", "Tasks.txt",   "Events.txt"};
     EXPECT_EQ(opened, files);
@@ -74,6 +77,32 @@ TEST(MainWindowLoad, AFirstRunOnAnEmptyDriveMakesTheFoldersReadsTheFilesAndOpens
 
 // Closing deletes the process file and writes the preferences, which the next run
 // reads; a failure on the way is silent and the window still closes.
+TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
+    LoadedMainWindow main;
+    main.putDataFile("Terms.txt", termRecord(1, "Fall 2026", "2026/08/31", "2026/12/18"));
+    main.putDataFile("Classes.txt", classRecord(10, 1, "Biology"));
+    main.putDataFile("Assignments.txt", assignmentRecord(1, 10, "2026/11/30", "Lab report", false));
+    main.fake.writeBytes(main.fake.dataDirectory() + "/Preferences.ini", "[Options]\r\nActiveTerm=Fall 2026\r\n");
+    main.fake.files.refuseWrites(FileProblem::ReadOnly, main.fake.documents);
+    MainWindow& window = main.load();
+    EXPECT_TRUE(main.fake.messages.shown.empty());
+    EXPECT_EQ(main.store.AssignmentDescriptions, (TextColumn{"Lab report"}));
+    EXPECT_EQ(window.caption, std::string("Quillhollow Homework System - ") + kReadOnlyText);
+    EXPECT_TRUE(window.c("picStatusBar").accessibleName.starts_with(kReadOnlyText));
+
+    // A save is refused with the same words before anything is written.
+    main.store.AssignmentsChanged = kTrue;  // as a save earlier in the run would leave it
+    EXPECT_FALSE(window.files->SaveAssignment(1));
+    ASSERT_EQ(main.messageTexts(), (std::vector<std::string>{kReadOnlyText}));
+    main.fake.files.log.clear();
+    main.fake.windowing.close(window, UnloadMode::CloseBox);
+    EXPECT_FALSE(fs::exists(main.fake.host + "/4242.PID"));
+    for (const std::string& line : main.fake.files.log)
+        EXPECT_EQ(line.find(main.fake.documents), std::string::npos) << line;
+    EXPECT_EQ(main.fake.bytesOf(main.fake.dataDirectory() + "/Preferences.ini"),
+              "[Options]\r\nActiveTerm=Fall 2026\r\n");
+}
+
 TEST(MainWindowUnload, DeletesTheProcessFileAndWritesThePreferencesSilently) {
     for (bool failing : {false, true}) {
         SCOPED_TRACE(failing);

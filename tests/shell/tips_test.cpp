@@ -54,7 +54,7 @@ TEST(TipOfTheDay, ANumberOutsideTheTipsAsksForQuestionsAtTheContactPage) {
     const struct {
         Int16 stored;
         Int16 next;
-    } cases[] = {{31, 0}, {500, 0}, {-1, 0}, {-7, -6}};
+    } cases[] = {{31, 0}, {500, 0}, {32767, 0}, {-1, 0}, {-7, -6}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.stored);
         EXPECT_EQ(walk(tip, c.stored, 0), std::vector<std::string>{note + ">" + std::to_string(c.next)});

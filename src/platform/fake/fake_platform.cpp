@@ -159,6 +159,7 @@ long long FakeFileSystem::countWrite(const std::string& path, const std::string&
     checkPath(path);
     log.push_back("write " + path + " " + what);
     ++writes_;
+    if (refuses(path)) throw FileFailure("Write refused: " + path, refusal_);
     if (writes_ == failWriteAt_) throw FileFailure("Write fault: " + path);
     if (writes_ == tearWriteAt_) return tearBytes_;
     return -1;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "common/failure.h"
 #include "platform/platform.h"
 #include "platform/posix_file_system.h"
 #include "platform/fake/recording_canvas.h"
@@ -83,6 +84,9 @@ public:
     void writeWhole(const std::string& path, const std::string& bytes) override;
     void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
     void makeDirectory(const std::string& path) override;
+    bool isWritable(const std::string& folder) override {
+        return !(refuses(folder) && refusal_ == FileProblem::ReadOnly) && PosixFileSystem::isWritable(folder);
+    }
     void createEmpty(const std::string& path) override;
     void remove(const std::string& path) override;
     void copy(const std::string& from, const std::string& to) override;
@@ -91,6 +95,13 @@ public:
     // Fail the n-th read (1-based, counted from now) / the n-th write.
     void failRead(int nth) { failReadAt_ = reads_ + nth; }
     void failWrite(int nth) { failWriteAt_ = writes_ + nth; }
+    // Fail every write from now on for this reason, as a full or locked drive does
+    // (FileProblem::Other lets writes through again); with `under`, only the writes of paths
+    // that begin with it (the drive, not the host folder of the .PID files).
+    void refuseWrites(FileProblem why, std::string under = {}) {
+        refusal_ = why;
+        refusedUnder_ = std::move(under);
+    }
     // Fail every operation on files whose name ends with `suffix`.
     void failPath(const std::string& suffix) { failingSuffix_ = suffix; }
     // Tear the n-th write: only its first `bytes` bytes reach the disk, then it fails, as
@@ -112,6 +123,11 @@ private:
     int failReadAt_ = 0, failWriteAt_ = 0, tearWriteAt_ = 0;
     long long tearBytes_ = 0;
     std::string failingSuffix_;
+    FileProblem refusal_ = FileProblem::Other;
+    std::string refusedUnder_;
+    bool refuses(const std::string& path) const {
+        return refusal_ != FileProblem::Other && path.starts_with(refusedUnder_);
+    }
     void checkPath(const std::string& path);
     // Counts a whole-file write; a torn one leaves the old file and throws.
     void countWholeWrite(const std::string& path, const std::string& bytes);

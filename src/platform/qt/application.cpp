@@ -80,6 +80,12 @@ void Application::showAndEnd(const std::string& what) {
 
 void Application::fail(const std::string& what) {
     failing_ = true;
+    if (lastStep_) {
+        try {
+            lastStep_();
+        } catch (...) {
+        }
+    }
     report_(what);
     failing_ = false;
 }

@@ -28,6 +28,9 @@ public:
         report_ = report ? std::move(report) : FailureReport(&Application::showAndEnd);
     }
 
+    // What the run still does before a failure is reported and the run ends.
+    void setLastStep(std::function<void()> step) { lastStep_ = std::move(step); }
+
     // Reports a failure caught outside the event loop (the start of the run) the same way.
     void fail(const std::string& what);
     // The text of the report: "Quillhollow has stopped: <what failed>".
@@ -37,6 +40,7 @@ public:
 private:
     static void showAndEnd(const std::string& what);
     FailureReport report_;
+    std::function<void()> lastStep_;
     bool failing_ = false;
 };
 

@@ -1,0 +1,200 @@
+#include "record_store/record_check.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "common/day_number.h"
+#include "common/int16.h"
+#include "common/text.h"
+#include "record_store/color_vocabulary.h"
+#include "record_store/columns.h"
+
+namespace qh {
+namespace {
+
+enum class Check { Number, Date, Colour };
+
+// A field the planner converts when it shows the record; `whenField` names the flag that
+// says whether the record has the value at all ("True" in it), empty when it always has.
+struct FieldRule {
+    std::string_view field;
+    Check check;
+    std::string_view whenField = {};
+};
+
+struct FileRules {
+    const RecordLayout& layout;
+    // The field whose value marks a deleted record, and that value.
+    std::string_view deletedField;
+    std::string_view deletedValue;
+    std::vector<FieldRule> fields;
+};
+
+const std::vector<FileRules>& allRules() {
+    static const std::vector<FileRules> rules{
+        {kTermsLayout, "Name", kDeletedRecord, {{"ID", Check::Number}, {"Start", Check::Date}, {"End", Check::Date}}},
+        {kClassesLayout,
+         "Name",
+         kDeletedRecord,
+         {{"ID", Check::Number},
+          {"TermLink", Check::Number},
+          {"ForeColor", Check::Colour},
+          {"BackColor", Check::Colour}}},
+        {kAssignmentsLayout,
+         "Description",
+         kDeletedRecord,
+         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"ClassLink", Check::Number}, {"Date", Check::Date}}},
+        {kNotesLayout, "LinkID", "0", {{"RecordNo", Check::Number}, {"LinkID", Check::Number}}},
+        {kStudySessionsLayout,
+         "LinkID",
+         "0",
+         {{"RecordNo", Check::Number}, {"LinkID", Check::Number}, {"Date", Check::Date}}},
+        {kTasksLayout,
+         "Description",
+         kDeletedRecord,
+         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"Date", Check::Date, "DateExists"}}},
+        {kEventsLayout,
+         "Description",
+         kDeletedRecord,
+         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"Date", Check::Date}, {"EndDate", Check::Date, "End"}}},
+    };
+    return rules;
+}
+
+const FileRules& rulesOf(const RecordLayout& layout) {
+    for (const FileRules& rules : allRules())
+        if (&rules.layout == &layout) return rules;
+    return allRules().front();  // not reached: every layout has its rules
+}
+
+// The bytes of a field, trailing spaces removed.
+std::string_view fieldOf(const RecordLayout& layout, std::string_view record, std::string_view name) {
+    std::size_t offset = 0;
+    for (const FieldSpec& field : layout.fields) {
+        if (field.name == name) {
+            std::string_view bytes = record.substr(offset, std::size_t(field.width));
+            while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
+            return bytes;
+        }
+        offset += std::size_t(field.width);
+    }
+    return {};
+}
+
+bool isRecordDate(std::string_view text) {
+    const std::optional<Date> date = parseDateText(repairDateSeparators(std::string(text)));
+    if (!date) return false;
+    const int year = yearOf(*date);
+    return year >= kEarliestRecordYear && year <= kLatestRecordYear;
+}
+
+bool converts(Check check, std::string_view text) {
+    switch (check) {
+        case Check::Number:
+            return parseInt16(text).has_value();
+        case Check::Date:
+            return isRecordDate(text);
+        case Check::Colour:
+            return standardColors().ColorValues.contains(text);
+    }
+    return false;
+}
+
+// A number as the planner writes one at the start of its field: a sign or digit first,
+// digits, then nothing but the field's padding. Stricter than a load's reading, so that
+// text in the middle of a record is not taken for the start of one.
+std::optional<int> writtenNumber(std::string_view field) {
+    while (!field.empty() && field.back() == ' ') field.remove_suffix(1);
+    if (field.empty()) return std::nullopt;
+    if (field.front() != '-' && (field.front() < '0' || field.front() > '9')) return std::nullopt;
+    return parseInt16(field);
+}
+
+bool numbered(const RecordLayout& layout) { return layout.fields.front().name == "RecordNo"; }
+
+// Whether the bytes read as the start of a record: its first two fields are numbers as
+// the planner writes them (a term's second test is one of its dates, its name being text).
+bool startsRecord(const RecordLayout& layout, std::string_view record) {
+    const FieldSpec& first = layout.fields[0];
+    const FieldSpec& second = layout.fields[1];
+    const std::optional<int> lead = writtenNumber(record.substr(0, std::size_t(first.width)));
+    if (!lead || (numbered(layout) && *lead < 1)) return false;
+    if (&layout == &kTermsLayout)
+        return isRecordDate(fieldOf(layout, record, "Start")) || isRecordDate(fieldOf(layout, record, "End"));
+    return writtenNumber(record.substr(std::size_t(first.width), std::size_t(second.width))).has_value();
+}
+
+void setRecordNo(std::string& record, int number, int width) {
+    std::string text = std::to_string(number);
+    text.resize(std::size_t(width), ' ');
+    record.replace(0, std::size_t(width), text);
+}
+
+}  // namespace
+
+int CheckedRecords::readableCount() const { return int(std::count(readable.begin(), readable.end(), true)); }
+
+bool RecordReadable(const RecordLayout& layout, std::string_view record) {
+    const FileRules& rules = rulesOf(layout);
+    if (numbered(layout) && !writtenNumber(fieldOf(layout, record, "RecordNo"))) return false;
+    if (fieldOf(layout, record, rules.deletedField) == rules.deletedValue) return true;
+    for (const FieldRule& rule : rules.fields) {
+        if (!rule.whenField.empty() && fieldOf(layout, record, rule.whenField) != "True") continue;
+        if (!converts(rule.check, fieldOf(layout, record, rule.field))) return false;
+    }
+    return true;
+}
+
+CheckedRecords CheckRecords(const RecordLayout& layout, std::string_view bytes, std::int64_t fileSize) {
+    CheckedRecords out;
+    const std::size_t length = std::size_t(layout.length);
+    const int numberWidth = layout.fields.front().width;
+    const bool hasRecordNo = numbered(layout);
+    int lastNumber = 0;
+    std::size_t offset = 0;
+    while (offset + length <= bytes.size() && out.count() < kMostRecords) {
+        const std::string_view here = bytes.substr(offset, length);
+        // A record numbered by its own place is in place, whatever its other fields hold.
+        const std::optional<int> lead = writtenNumber(here.substr(0, std::size_t(numberWidth)));
+        const bool inPlace = hasRecordNo && offset == std::size_t(out.count()) * length && lead == out.count() + 1;
+        if (!inPlace && !startsRecord(layout, here)) {
+            // Stray bytes: the records go on at the first place that reads as the start of
+            // one (numbered past the last one found, where records are numbered).
+            out.rewrite = true;
+            std::size_t next = offset + 1;
+            // The record must read whole: numbers where numbers belong and dates where
+            // dates do, so that a record shifted by a field is not taken for one.
+            for (; next + length <= bytes.size(); ++next) {
+                const std::string_view candidate = bytes.substr(next, length);
+                if (!startsRecord(layout, candidate)) continue;
+                if (hasRecordNo && *writtenNumber(candidate.substr(0, std::size_t(numberWidth))) <= lastNumber)
+                    continue;
+                if (!RecordReadable(layout, candidate)) continue;
+                break;
+            }
+            offset = next;
+            continue;
+        }
+        std::string record(here);
+        if (hasRecordNo) {
+            const int number = *writtenNumber(here.substr(0, std::size_t(numberWidth)));
+            const int place = out.count() + 1;
+            if (number != place) {
+                out.rewrite = true;
+                setRecordNo(record, place, numberWidth);
+            }
+            lastNumber = number;
+        }
+        out.readable.push_back(RecordReadable(layout, record));
+        out.records += record;
+        offset += length;
+    }
+    // What is left over is a part record, stray bytes or records past the most a file holds.
+    if (std::int64_t(offset) != fileSize) out.rewrite = true;
+    // A part record counts: it is a record cut short.
+    const std::int64_t whole = std::int64_t(length);
+    out.recordsInFile = std::max<std::int64_t>((fileSize + whole - 1) / whole, out.count());
+    return out;
+}
+
+}  // namespace qh
