@@ -340,6 +340,7 @@ ImportResult ApplyImport(RecordStore& store, RecordFiles& files, const ImportPla
         }
         if (id == 0) {
             ++result.skipped;
+            result.full = true;
             continue;
         }
         ++(row == 0 ? result.added : result.updated);

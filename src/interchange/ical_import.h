@@ -57,6 +57,7 @@ struct ImportChoices {
 
 struct ImportResult {
     int added = 0, updated = 0, unchanged = 0, skipped = 0;
+    bool full = false;  // some item was skipped because its record file holds all it can
 };
 
 // Writes the plan: each new record appended and each changed one rewritten, one record at a

@@ -49,13 +49,14 @@ std::vector<ClassChoice> activeTermClasses(const RecordStore& store) {
 std::string resultText(const ImportResult& result) {
     return "Imported: " + std::to_string(result.added) + " added, " + std::to_string(result.updated) +
            " updated, " + std::to_string(result.unchanged) + " unchanged, " + std::to_string(result.skipped) +
-           " skipped.";
+           " skipped." + (result.full ? " A record file is full: the items it could not take were skipped." : "");
 }
 
 }  // namespace
 
 void MainWindow::storeCalendarLinks(const CalendarLinks& links, const std::string& title) {
-    if (!links.changed()) return;
+    // A read-only drive keeps no new names: the next export names the items afresh.
+    if (!links.changed() || store.DriveReadOnly) return;
     try {
         platform.files.writeWhole(dataFilePath(store, CalendarLinks::kFileName), links.text());
         store.CalendarLinksChanged = kTrue;
@@ -106,6 +107,10 @@ void MainWindow::ExportICalendar() {
 }
 
 void MainWindow::ImportICalendar() {
+    if (store.DriveReadOnly) {
+        platform.messages.show(kReadOnlyText, kImportTitle, MessageButtons::OK, MessageIcon::Exclamation);
+        return;
+    }
     std::int32_t flags = 0;
     std::string path, fileTitle;
     if (!CD_ShowOpen_Save(platform, flags, path, fileTitle, store.DocumentDirectory, kImportTitle, kICalendarFilter,

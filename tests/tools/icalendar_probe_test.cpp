@@ -170,5 +170,13 @@ TEST(ProbeICalendar, ARoundTripThroughAnEmptyDriveGivesTheSameFile) {
     EXPECT_EQ(withoutStamps(empty.fake.bytesOf(second)), withoutStamps(full.fake.bytesOf(exported)));
 }
 
+TEST(ProbeICalendar, AReadOnlyDriveRefusesAnImportBeforeAskingForAFile) {
+    LoadedMainWindow planner;
+    planner.load().store.DriveReadOnly = true;
+    planner.window->click("MenuImportICalendar");
+    EXPECT_EQ(planner.messageTexts(), std::vector<std::string>{"Read-only: changes cannot be saved"});
+    EXPECT_TRUE(planner.fake.dialogs.fileRequests.empty());
+}
+
 }  // namespace
 }  // namespace qh
