@@ -1,6 +1,7 @@
 #include "platform/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/failure.h"
 #include "platform/canvas.h"
@@ -95,12 +96,31 @@ void Form::on(const std::string& key, FormEvent event, Handler handler) {
 
 bool Form::handles(const std::string& key, FormEvent event) const { return handlers_.count({key, event}) != 0; }
 
+namespace {
+
+std::string& actionText() {
+    static std::string action;
+    return action;
+}
+
+}  // namespace
+
+const std::string& Form::actionInProgress() { return actionText(); }
+
 void Form::fire(const std::string& key, FormEvent event, const EventArgs& args) {
     auto it = handlers_.find({key, event});
     if (it == handlers_.end()) return;
     // A copy: the handler may replace handlers while it runs.
     Handler handler = it->second;
+    const Control* control = has(key) ? &c(key) : nullptr;
+    const std::string& what = !control                       ? key
+                              : !control->caption.empty()    ? control->caption
+                              : !control->accessibleName.empty() ? control->accessibleName
+                                                             : key;
+    // Put back only when the handler returns: a failure leaves its own action named.
+    std::string outer = std::exchange(actionText(), "\"" + what + "\" in \"" + (caption.empty() ? name_ : caption) + "\"");
     handler(args);
+    actionText() = std::move(outer);
 }
 
 void Form::uncheckOtherRadios(const Control& control) {

@@ -107,6 +107,10 @@ public:
     // built, not at a click.
     void on(const std::string& key, FormEvent event, Handler handler);
     void fire(const std::string& key, FormEvent event, const EventArgs& args = {});
+    // The control whose handler runs now, in words ("OK" in "Quillhollow - Edit Task"),
+    // empty outside any handler. A handler that fails leaves it naming the innermost
+    // handler, so the report of a failure can say what the planner was doing.
+    static const std::string& actionInProgress();
     bool handles(const std::string& key, FormEvent event) const;
 
     // The user's gestures, as the renderer forwards them and tests drive them. Each changes

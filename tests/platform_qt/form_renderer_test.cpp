@@ -311,12 +311,16 @@ TEST_F(FormRendererTest, AUserResizeUpdatesTheModelWithinItsLimits) {
 TEST_F(FormRendererTest, AFailureInAClickHandlerReachesTheFailureReport) {
     renderer.show(window);
     std::vector<std::string> reports;
-    app.setFailureReport([&](const std::string& what) { reports.push_back(Application::reportText(what)); });
+    app.setFailureReport([&](const std::string& action) { reports.push_back(Application::reportText(action)); });
     // The click comes through the event loop, as a user's does.
     QMetaObject::invokeMethod(widget<QPushButton>("ButtonBoom"), &QPushButton::click, Qt::QueuedConnection);
     QCoreApplication::processEvents();
     ASSERT_EQ(reports.size(), 1u);
-    EXPECT_EQ(reports[0], "Quillhollow has stopped: Subscript out of range");
+    // The box names what the student did, never the failure's own words.
+    EXPECT_EQ(reports[0],
+              "Quillhollow has stopped while answering \"Boom\" in \"Sample\". Every change saved before this "
+              "is on the drive; start Quillhollow again to go on.");
+    EXPECT_EQ(Form::actionInProgress(), "\"Boom\" in \"Sample\"");
     app.setFailureReport(nullptr);
 }
 

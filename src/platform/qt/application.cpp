@@ -1,11 +1,14 @@
 #include "platform/qt/application.h"
 
+#include "platform/form.h"
+
 #include <QMessageBox>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
 
@@ -66,12 +69,13 @@ void applyPlannerLook(QApplication& app) {
     app.setPalette(light);
 }
 
-std::string Application::reportText(const std::string& what) {
-    return "Quillhollow has stopped: " + (what.empty() ? std::string("an unknown failure") : what);
+std::string Application::reportText(const std::string& action) {
+    return "Quillhollow has stopped while " + (action.empty() ? std::string("starting") : "answering " + action) +
+           ". Every change saved before this is on the drive; start Quillhollow again to go on.";
 }
 
-void Application::showAndEnd(const std::string& what) {
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Quillhollow"), QString::fromStdString(reportText(what)),
+void Application::showAndEnd(const std::string& action) {
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Quillhollow"), QString::fromStdString(reportText(action)),
                     QMessageBox::Ok);
     box.exec();
     // No destructor, no unload handler, no buffered write: the run ends here.
@@ -86,7 +90,10 @@ void Application::fail(const std::string& what) {
         } catch (...) {
         }
     }
-    report_(what);
+    // The failure's own words are for whoever reads the program's output, not for the
+    // student: the box says what the planner was doing.
+    std::fprintf(stderr, "quillhollow: %s\n", what.empty() ? "an unknown failure" : what.c_str());
+    report_(Form::actionInProgress());
     failing_ = false;
 }
 

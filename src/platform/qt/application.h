@@ -22,7 +22,8 @@ public:
 
     // Shows the report and ends the run. Tests replace the ending step so that they can
     // see the report without losing their process.
-    using FailureReport = std::function<void(const std::string& what)>;
+    // It is handed the action the planner was answering (Form::actionInProgress).
+    using FailureReport = std::function<void(const std::string& action)>;
     // An empty report puts back the usual one.
     void setFailureReport(FailureReport report) {
         report_ = report ? std::move(report) : FailureReport(&Application::showAndEnd);
@@ -33,12 +34,13 @@ public:
 
     // Reports a failure caught outside the event loop (the start of the run) the same way.
     void fail(const std::string& what);
-    // The text of the report: "Quillhollow has stopped: <what failed>".
-    static std::string reportText(const std::string& what);
+    // The text of the report, naming the action the planner was answering (see
+    // Form::actionInProgress), or its start when there was none.
+    static std::string reportText(const std::string& action);
     bool failing() const { return failing_; }
 
 private:
-    static void showAndEnd(const std::string& what);
+    static void showAndEnd(const std::string& action);
     FailureReport report_;
     std::function<void()> lastStep_;
     bool failing_ = false;
