@@ -1,6 +1,7 @@
 // Quillhollow: wires the Qt platform to the planner and runs it. Takes no options.
 #include <exception>
 
+#include <QApplication>
 #include <QEvent>
 #include <QThread>
 #include <QTimer>
@@ -39,13 +40,8 @@ int main() {
     app.setLastStep([&qt] { qh::RemoveProcessFile(qt.platform()); });
     try {
         qh::Module1 module(qt.platform());
-        bool running = false;
-        terminations.listen([&] {
-            if (!running) {
-                qh::RemoveProcessFile(qt.platform());
-                std::fflush(nullptr);
-                std::_Exit(EXIT_SUCCESS);
-            }
+        bool running = false, pending = false;
+        const auto closeMainWindow = [&] {
             qh::MainWindow& main = *module.mainWindow();
             if (!main.visible) return;  // already closing
             qt.platform().windowing.close(main, qh::UnloadMode::ProgramEnd);
@@ -56,9 +52,22 @@ int main() {
                 std::fflush(nullptr);
                 std::_Exit(EXIT_SUCCESS);
             }
+        };
+        terminations.listen([&] {
+            if (running) return closeMainWindow();
+            // A message of the entry checks or of the load waits in a loop of its own, and
+            // nothing is stored yet: the run ends at once. Without one (the splash lets
+            // events through while the files load), the window closes once it is up.
+            if (QApplication::activeModalWidget()) {
+                qh::RemoveProcessFile(qt.platform());
+                std::fflush(nullptr);
+                std::_Exit(EXIT_SUCCESS);
+            }
+            pending = true;
         });
         if (!module.Main()) return 0;
         running = true;
+        if (pending) QTimer::singleShot(0, &app, closeMainWindow);
         // The start-up benchmark (bench/startup.sh) times a run that ends as soon as the
         // main window has been painted once: at its first paint (the splash is gone by
         // now), once that paint has been handled, as the bare window it is compared with.

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -95,7 +96,7 @@ void driveEveryControl(FormWindow& frame, const std::function<void(const std::st
                 if (!usable()) break;
                 combo->setFocus();
                 QTest::keyClick(combo, key);
-                step(str(QTest::toString(key)));
+                step(QKeySequence(key).toString().toStdString());
             }
         } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
             for (int row = 0; row < std::min(list->count(), 3) && usable(); ++row) {
