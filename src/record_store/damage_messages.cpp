@@ -9,9 +9,15 @@ namespace qh {
 const char* const kDamagedFileTitle = "Quillhollow - Damaged File";
 
 std::string withThousands(long long number) {
-    std::string digits = std::to_string(number < 0 ? -number : number);
-    for (int at = int(digits.size()) - 3; at > 0; at -= 3) digits.insert(std::size_t(at), ",");
-    return number < 0 ? "-" + digits : digits;
+    // Built forwards, a digit at a time: an insert into the middle of the text trips a
+    // false alarm of the optimiser's overlap check in a release build.
+    const std::string digits = std::to_string(number < 0 ? -number : number);
+    std::string out = number < 0 ? "-" : "";
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && (digits.size() - i) % 3 == 0) out += ',';
+        out += digits[i];
+    }
+    return out;
 }
 
 std::string DamagedCopyName(const std::string& fileName, Date day) {

@@ -64,7 +64,12 @@ ReminderNotice DesktopReminderNotice(const RecordStore& store, Date day, const L
     notice.text = ReminderCountSentence(rows.HomeworkReminderCount, rows.TaskReminderCount, rows.EventReminderCount);
     std::string items;
     for (int i = 1; i <= count; ++i) {
-        if (std::size_t(i) <= shownItems) notice.text += "\n" + itemLine(rows, i);
+        if (std::size_t(i) <= shownItems) {
+            // Two appends rather than "\n" + line: the latter trips a false alarm of the
+            // optimiser's overlap check in a release build.
+            notice.text += '\n';
+            notice.text += itemLine(rows, i);
+        }
         items += rows.ReminderKinds.valueOr(i, kNoText) + " " + dateText(rows.ReminderDates.valueOr(i, 0)) + " " +
                  rows.ReminderDescriptions.valueOr(i, kNoText) + "\n";
     }

@@ -61,7 +61,10 @@ std::string weekdayCode(int weekday) {
 
 std::string numberList(const std::vector<int>& numbers) {
     std::string out;
-    for (int n : numbers) out += (out.empty() ? "" : ",") + std::to_string(n);
+    for (int n : numbers) {
+        if (!out.empty()) out += ',';
+        out += std::to_string(n);
+    }
     return out;
 }
 
@@ -74,16 +77,33 @@ std::string ruleText(const CalendarItem& item, icaltimezone* zone) {
         case RepeatFrequency::None: return {};
         case RepeatFrequency::Weekly: {
             text = "FREQ=WEEKLY;BYDAY=";
-            for (std::size_t i = 0; i < rule.weekdays.size(); ++i)
-                text += (i ? "," : "") + weekdayCode(rule.weekdays[i]);
+            for (std::size_t i = 0; i < rule.weekdays.size(); ++i) {
+                if (i > 0) text += ',';
+                text += weekdayCode(rule.weekdays[i]);
+            }
             break;
         }
         case RepeatFrequency::Monthly: text = "FREQ=MONTHLY"; break;
-        case RepeatFrequency::Yearly: text = "FREQ=YEARLY;BYMONTH=" + std::to_string(rule.month); break;
+        case RepeatFrequency::Yearly:
+            text = "FREQ=YEARLY;BYMONTH=";
+            text += std::to_string(rule.month);
+            break;
     }
-    if (rule.ordinal != 0) text += ";BYDAY=" + std::to_string(rule.ordinal) + weekdayCode(rule.ordinalWeekday);
-    if (!rule.monthDays.empty()) text += ";BYMONTHDAY=" + numberList(rule.monthDays);
-    if (rule.setPosition != 0) text += ";BYSETPOS=" + std::to_string(rule.setPosition);
+    // Appended piece by piece: a literal put before a fresh string trips a false alarm of
+    // the optimiser's overlap check in a release build.
+    if (rule.ordinal != 0) {
+        text += ";BYDAY=";
+        text += std::to_string(rule.ordinal);
+        text += weekdayCode(rule.ordinalWeekday);
+    }
+    if (!rule.monthDays.empty()) {
+        text += ";BYMONTHDAY=";
+        text += numberList(rule.monthDays);
+    }
+    if (rule.setPosition != 0) {
+        text += ";BYSETPOS=";
+        text += std::to_string(rule.setPosition);
+    }
     if (rule.until) {
         icaltimetype until;
         if (item.startMinutes) {
