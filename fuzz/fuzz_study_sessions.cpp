@@ -14,15 +14,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MemoryDrive drive;
     drive.put("Terms.txt", recordOf(kTermsLayout, {"1", "Fall 2026", "2026/08/24", "2026/12/18"}));
     drive.put("Classes.txt", recordOf(kClassesLayout, {"1", "1", "Biology", "Black", "White", ""}));
-    // Assignment 2 has two records, so its sessions come twice; 4 is deleted.
+    // Assignment 2 has two records (each at its own place), so its sessions come twice; 4
+    // is deleted.
     std::string assignments;
+    int place = 0;
     for (const char* id : {"1", "2", "3", "2", "4"})
-        assignments +=
-            recordOf(kAssignmentsLayout, {id, id, "1", "2026/11/20", "Quiz", "Easy", "00 : 30",
-                                          id[0] == '4' ? "DELETED RECORD" : "Chapter 4", "False", " ", "5", "1 Day"});
+        assignments += recordOf(kAssignmentsLayout, {std::to_string(++place), id, "1", "2026/11/20", "Quiz", "Easy",
+                                                     "00 : 30", id[0] == '4' ? "DELETED RECORD" : "Chapter 4", "False",
+                                                     " ", "5", "1 Day"});
     drive.put("Assignments.txt", assignments);
     drive.put("StudySessions.txt", bytes);
-    require(drive.loadAll(1) && drive.machine.shown.empty(), "StudySessions.txt of any bytes loads");
+    if (!loadedClean(drive.loadAll(1), drive, "StudySessions.txt")) return 0;
     const RecordStore& s = drive.store;
     require(s.AssignmentIDs.count() == 4, "the live assignments are loaded");
     require(s.NextStudySessionRecord == int(records.size()) + 1, "the counter ends one past the whole records");

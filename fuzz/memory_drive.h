@@ -71,6 +71,7 @@ public:
     PrinterAnswer printerDialog() override { return {}; }
     void show(Form&) override {}
     void showModal(Form&, Form*) override {}
+    void raise(Form&) override {}
     void close(Form&, UnloadMode) override {}
     void processEvents() override {}
     void paintPending() override {}
@@ -107,6 +108,18 @@ struct MemoryDrive {
 [[noreturn]] void fail(const std::string& what);
 inline void require(bool holds, const char* what) {
     if (!holds) fail(what);
+}
+
+// Whether the load of a fuzzed file went by without a word. Any bytes load. A file the
+// load finds damaged (a record out of its place, a part record, a field that does not
+// read) is told once, by name, and kept aside and written anew from what could be read:
+// the properties of a whole file then no longer apply to it.
+inline bool loadedClean(bool loaded, const MemoryDrive& drive, const std::string& fileName) {
+    require(loaded, "a file of any bytes loads");
+    if (drive.machine.shown.empty()) return true;
+    require(drive.machine.shown.size() == 1 && drive.machine.shown.front().text.rfind(fileName + " is damaged: ", 0) == 0,
+            "a damaged file is told once, by name");
+    return false;
 }
 
 }  // namespace qh::fuzz
