@@ -222,6 +222,17 @@ std::vector<PlannerRule> candidatesFor(const CalendarRule& rule, Date first) {
 
 }  // namespace
 
+void PutRule(const PlannerRule& rule, EventBuffer& record) {
+    record.Date = dateText(rule.first);
+    record.Recurrence = rule.recurrence;
+    record.SameDate = rule.sameDate;
+    record.RepeatNumber = rule.repeatNumber;
+    record.RepeatDay = rule.repeatDay;
+    record.RepeatDaily = rule.repeatDaily;
+    record.End = rule.end;
+    record.EndDate = dateText(rule.endDate);
+}
+
 std::optional<PlannerRule> PlannerRuleOf(const CalendarItem& item) {
     const CalendarRule rule = explicitRule(item.rule, item.start);
     if (rule.frequency == RepeatFrequency::None) {
@@ -240,13 +251,7 @@ std::optional<PlannerRule> PlannerRuleOf(const CalendarItem& item) {
     for (const PlannerRule& candidate : candidatesFor(rule, first)) {
         EventBuffer record;
         record.Type = "None";
-        record.Recurrence = candidate.recurrence;
-        record.SameDate = candidate.sameDate;
-        record.RepeatNumber = candidate.repeatNumber;
-        record.RepeatDay = candidate.repeatDay;
-        record.RepeatDaily = candidate.repeatDaily;
-        record.End = candidate.end;
-        record.EndDate = dateText(candidate.endDate);
+        PutRule(candidate, record);
         const EventRepetition repetition = RepetitionOf(readEventRule(record, first));
         if (repetition.start == item.start && sameDays(repetition.rule, rule) &&
             repetition.extraDates == item.extraDates)

@@ -39,6 +39,9 @@ struct PlannerRule {
     Date endDate = 0;
 };
 
+// Writes the rule's texts into an event record (Date and the rule's fields; the rest stays).
+void PutRule(const PlannerRule& rule, EventBuffer& record);
+
 // The rule of the event editor whose days are exactly the item's, found by writing each
 // rule the editor could make from the item's first date and keeping the one that comes out
 // as the item's repetition; nothing when none does.

@@ -106,7 +106,7 @@ EventBuffer eventRecordOf(const CalendarItem& item, bool firstOnly, std::vector<
         rule->first = rule->endDate = item.start;
     }
     EventBuffer record;
-    record.Date = dateText(rule->first);
+    PutRule(*rule, record);
     record.Description = fitted(kEventsLayout, "Description", summaryOf(item), "name", changes);
     record.Type = typeOf(item, kEventTypes, "None");
     record.Time = "None";
@@ -116,13 +116,6 @@ EventBuffer eventRecordOf(const CalendarItem& item, bool firstOnly, std::vector<
         record.Time = ClockText(rounded);
         if (rounded != *item.startMinutes && changes) changes->push_back("time rounded to " + record.Time);
     }
-    record.Recurrence = rule->recurrence;
-    record.SameDate = rule->sameDate;
-    record.RepeatNumber = rule->repeatNumber;
-    record.RepeatDay = rule->repeatDay;
-    record.RepeatDaily = rule->repeatDaily;
-    record.End = rule->end;
-    record.EndDate = dateText(rule->endDate);
     record.Notes = fitted(kEventsLayout, "Notes", boxText(item.description), "notes", changes);
     record.Reminder = reminderOf(item, true, changes);
     return record;
