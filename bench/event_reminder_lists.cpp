@@ -85,8 +85,7 @@ struct Planner {
         window.state.ClickedDate = window.state.DisplayedDate = dateFromYmd(2026, 10, 1);
     }
     void enter(Mode mode, const char* list, const char* range, int sortColumn) {
-        const char* menus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
-        for (int i = 0; i < 5; ++i) window.c(menus[i]).checked = int(mode) == i + 1;
+        window.state.CurrentMode = mode;
         window.c("ComboList").text = list;
         window.c("ComboDateRange").text = range;
         window.state.SortColumn = Int16(sortColumn);

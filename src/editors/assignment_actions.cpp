@@ -191,7 +191,7 @@ void RecordActions::NewAssignment() {
     if (!notes.empty()) static_cast<void>(files_.SaveNote(0));
     if (!window.tempStudySessionRecordNoArray.empty()) SaveAddedSessions(s, files_, window, id);
     static_cast<void>(files_.SaveAssignment(0));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Assignment, s.AssignmentRecordNos.count());
 }
 
@@ -254,7 +254,7 @@ void RecordActions::EditAssignment(int row) {
 
     UpdateStudySessions(s, files_, window, row);
     static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Assignment, row);
 }
 

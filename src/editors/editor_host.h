@@ -6,6 +6,7 @@
 #include <string>
 
 #include "common/day_number.h"
+#include "list_view/refresh_reason.h"
 
 namespace qh {
 
@@ -23,8 +24,8 @@ public:
     virtual Date clickedDate() const = 0;
     // "Sunday", "Monday" or "Saturday": the pickers' headers follow it at every showing.
     virtual std::string startDayOfWeek() const = 0;
-    // Sets RefreshReason and runs RefreshDisplay.
-    virtual void refresh(const std::string& reason) = 0;
+    // Runs the display refresh of the reason.
+    virtual void refresh(RefreshReason reason) = 0;
     // Makes a term the active one (SelectTerm).
     virtual void selectTerm(const std::string& termName) = 0;
     // Shows or clears the pressed look of row `row` of the list (1-based).

@@ -52,7 +52,7 @@ void RecordActions::NewEvent() {
     kEventBinding.appendRow(store_, store_.EventRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveEvent(0));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, store_.EventRecordNos.count());
 }
 
@@ -83,7 +83,7 @@ void RecordActions::EditEvent(int row) {
     s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
     kEventBinding.storeRow(s, row, s.EventRecord);
     static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, row);
 }
 

@@ -45,7 +45,7 @@ void RecordActions::NewTask() {
     kTaskBinding.appendRow(store_, store_.TaskRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveTask(0));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, store_.TaskRecordNos.count());
 }
 
@@ -71,7 +71,7 @@ void RecordActions::EditTask(int row) {
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
     kTaskBinding.storeRow(s, row, s.TaskRecord);
     static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
-    host_.refresh("NewRecord");
+    host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, row);
 }
 

@@ -30,8 +30,8 @@ std::string mediumTimeOf(const ListHost& window, const std::string& field) {
 }
 
 void showSummary(const ListHost& window, const EventRows& rows) {
-    Control& classes = window.form.c("TextBoxClasses");
-    Control& others = window.form.c("TextBoxOtherEvents");
+    Control& classes = *window.ui.TextBoxClasses;
+    Control& others = *window.ui.TextBoxOtherEvents;
     classes.text = std::to_string(rows.EventClassCount);
     others.text = std::to_string(rows.EventOtherCount);
     // Events are neither open nor done: the boxes only count.
@@ -56,17 +56,17 @@ EventRows GatherEvents(const RecordStore& store, Date date, std::string_view fil
 void BuildEventList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& list = window.form.c("ComboList").text;
-    const std::string& range = window.form.c("ComboDateRange").text;
+    const std::string& list = window.ui.ComboList->text;
+    const std::string& range = window.ui.ComboDateRange->text;
     const Locale& locale = window.locale;
     EventRows rows;
     if (range == "Day") {
         rows = GatherEvents(store, state.ClickedDate, list);
-        window.form.c("LabelTop").caption = "Events for " + locale.longDate(state.ClickedDate);
+        window.ui.LabelTop->caption = "Events for " + locale.longDate(state.ClickedDate);
     } else {
         rows = ExpandEvents(store, state.ClickedDate, range, list);
         // The title names the last date the range holds.
-        window.form.c("LabelTop").caption = "Events until " + locale.longDate(EventRangeEnd(state.ClickedDate, range));
+        window.ui.LabelTop->caption = "Events until " + locale.longDate(EventRangeEnd(state.ClickedDate, range));
     }
     showSummary(window, rows);
 

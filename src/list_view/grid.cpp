@@ -23,6 +23,17 @@ constexpr std::array<float, 7> kReminderWidths{28, 75, 0.3f, 80, 0.695f, 90, 70}
 
 constexpr int kHeaderCount = 9;
 
+// Where a row's parts sit, in twips from the cell's left edge and the row's top.
+constexpr int kNumberRightEdge = 345;  // the row numbers end here, right-aligned
+constexpr int kNumberDrop = 60;
+constexpr int kCellTextIndent = 45;
+constexpr int kClippedTextRoom = 105;  // what a clipped text leaves free at the cell's right
+constexpr int kCheckIndent = 225;
+constexpr int kCheckDrop = 75;
+constexpr int kFillInsetLeft = 15, kFillInsetRight = 30;  // the coloured fill keeps off the grid lines
+// And in pixels from the row's top: the fill's top and bottom, the text's top.
+constexpr int kFillTopPixel = 1, kFillBottomPixel = 21, kTextTopPixel = 4;
+
 
 // The start of the last whole UTF-8 character of a non-empty text.
 std::size_t lastCharacterStart(const std::string& text) {
@@ -36,7 +47,7 @@ std::size_t lastCharacterStart(const std::string& text) {
 std::string GridHeaderKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }
 
 GridRows CurrentGridRows(const ListHost& window) {
-    return MeasureGridRows(window.form.c("picGrid").canvas->scaleHeight(), window.form.c(GridHeaderKey(0)).height,
+    return MeasureGridRows(window.ui.picGrid->canvas->scaleHeight(), window.form.c(GridHeaderKey(0)).height,
                            window.state.RowPitch);
 }
 
@@ -111,7 +122,7 @@ int RowReleasedAt(const GridRows& rows, int y) {
 
 std::string ClipToCell(const Canvas& canvas, const std::string& value, int cellWidth) {
     std::string text = " " + value;
-    while (!text.empty() && canvas.textWidth(text) > cellWidth - 105) text.erase(lastCharacterStart(text));
+    while (!text.empty() && canvas.textWidth(text) > cellWidth - kClippedTextRoom) text.erase(lastCharacterStart(text));
     return text;
 }
 
@@ -119,8 +130,8 @@ bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p) {
     const int r = (v - 1) * frame.rowPitch;
     const std::string number = std::to_string(p);
     canvas.setForeColor(kBlack);
-    const int x = 345 - canvas.textWidth(number);
-    const int y = r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + 60;
+    const int x = kNumberRightEdge - canvas.textWidth(number);
+    const int y = r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + kNumberDrop;
     if (y > frame.gridBottom * kTwipsPerPixel) return false;
     canvas.printText(x, y, number);
     return true;
@@ -152,15 +163,15 @@ std::vector<std::string> PaintGridRows(Canvas& canvas, const GridFrame& frame, i
         const GridRow row = rowAt(p);
         spoken.push_back(RowSpokenText(p, row));
         const int r = (v - 1) * frame.rowPitch;
-        const int top = (r + frame.headerHeight + 1) * kTwipsPerPixel;
-        const int bottom = (r + frame.headerHeight + 21) * kTwipsPerPixel;
-        const int textY = (r + frame.headerHeight + 4) * kTwipsPerPixel;
+        const int top = (r + frame.headerHeight + kFillTopPixel) * kTwipsPerPixel;
+        const int bottom = (r + frame.headerHeight + kFillBottomPixel) * kTwipsPerPixel;
+        const int textY = (r + frame.headerHeight + kTextTopPixel) * kTwipsPerPixel;
         for (std::size_t c = 1; c < frame.columns.size(); ++c) {
             const ColumnSpan& span = frame.columns[c];
-            canvas.filledBox(span.left + 15, top, span.left + span.width - 30, bottom, row.back);
+            canvas.filledBox(span.left + kFillInsetLeft, top, span.left + span.width - kFillInsetRight, bottom, row.back);
             canvas.setForeColor(row.fore);
             const GridCell cell = c - 1 < row.cells.size() ? row.cells[c - 1] : GridCell{};
-            const int x = span.left + 45;
+            const int x = span.left + kCellTextIndent;
             std::string text;
             switch (cell.kind) {
                 case CellKind::Plain:
@@ -173,8 +184,8 @@ std::vector<std::string> PaintGridRows(Canvas& canvas, const GridFrame& frame, i
                     text = ClipToCell(canvas, cell.text, span.width);
                     break;
                 case CellKind::Check:
-                    canvas.paintPicture(cell.checked ? "Checked" : "Unchecked", span.left + 225,
-                                        r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + 75);
+                    canvas.paintPicture(cell.checked ? "Checked" : "Unchecked", span.left + kCheckIndent,
+                                        r * kTwipsPerPixel + frame.headerHeight * kTwipsPerPixel + kCheckDrop);
                     break;
             }
             if (!text.empty()) canvas.printText(x, textY, text);
@@ -253,17 +264,17 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     }
 
     window.state.GridMargin = 100;
-    const Control& statusBar = window.form.c("picStatusBar");
+    const Control& statusBar = *window.ui.picStatusBar;
     const int gridWidth = std::max(0, window.form.scaleWidth - 200);
     const int gridHeight = std::max(0, window.form.scaleHeight - kGridTop - statusBar.height - 100);
     window.form.move("picGrid", 100, kGridTop, gridWidth, gridHeight);
     window.form.bringToFront("picGrid");
-    Canvas& canvas = *window.form.c("picGrid").canvas;
+    Canvas& canvas = *window.ui.picGrid->canvas;
 
-    Control& scroll = window.form.c("VSGridScroll");
+    Control& scroll = *window.ui.VSGridScroll;
     window.form.move("VSGridScroll", canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
 
-    const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.form.c("picGrid").width, scroll.width);
+    const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.ui.picGrid->width, scroll.width);
     for (int i = 0; i < n; ++i) {
         Control& header = window.form.c(GridHeaderKey(i));
         window.form.move(header.key(), spans[std::size_t(i)].left, header.top, spans[std::size_t(i)].width,
@@ -297,7 +308,7 @@ void PaintList(const ListHost& window, std::span<const char* const> titles,
                const std::function<GridRow(int position)>& rowAt) {
     PaintGridHeaders(window, titles);
     const GridFrame frame = CurrentGridFrame(window, int(titles.size()));
-    Control& grid = window.form.c("picGrid");
+    Control& grid = *window.ui.picGrid;
     grid.items = PaintGridRows(*grid.canvas, frame, window.state.TopRow, window.state.RowCount, rowAt);
     const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
                                         window.state.RowsVisible);

@@ -34,9 +34,9 @@ void appendClasses(const RowsById& classes, const RecordStore& store, Int16 clas
 }
 
 void showSummary(const ListHost& window, const HomeworkRows& rows) {
-    Control& total = window.form.c("TextBoxTotalAssignments");
-    Control& unfinished = window.form.c("TextBoxFinishedAssignments");
-    Control& left = window.form.c("TextBoxTimeRemaining");
+    Control& total = *window.ui.TextBoxTotalAssignments;
+    Control& unfinished = *window.ui.TextBoxFinishedAssignments;
+    Control& left = *window.ui.TextBoxTimeRemaining;
     total.text = std::to_string(rows.HomeworkTotal);
     unfinished.text = std::to_string(rows.HomeworkUnfinished);
     left.text = rows.HomeworkTimeLeft;
@@ -102,10 +102,10 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
 void BuildHomeworkList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& list = window.form.c("ComboList").text;
+    const std::string& list = window.ui.ComboList->text;
     HomeworkRows rows;
     std::string title;
-    if (window.form.c("ComboDateRange").text == "Day") {
+    if (window.ui.ComboDateRange->text == "Day") {
         rows = GatherHomework(store, state.ClickedDate, list);
         title = "Homework for " + window.locale.longDate(state.ClickedDate);
     } else {
@@ -114,7 +114,7 @@ void BuildHomeworkList(const ListHost& window) {
     }
     // Only the active term's assignments are in memory: without a term there is nothing
     // to name.
-    window.form.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
+    window.ui.LabelTop->caption = store.CurrentTermName.empty() ? std::string() : title;
     showSummary(window, rows);
 
     SortHomeworkList(rows, store, state.SortColumn, state.SortDirection, window.locale, &state.ListSortRanks);

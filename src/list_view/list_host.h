@@ -5,6 +5,7 @@
 // stays below the shell that owns the window.
 #include <functional>
 
+#include "list_view/main_window_controls.h"
 #include "list_view/main_window_state.h"
 #include "platform/form.h"
 #include "platform/locale.h"
@@ -15,7 +16,8 @@ struct RecordStore;
 struct ColorVocabulary;
 
 struct ListHost {
-    Form& form;  // the window's controls and client size
+    Form& form;  // the window's client size and the grid's header cells
+    const MainWindowControls& ui;
     MainWindowState& state;
     const RecordStore& store;
     const Locale& locale;

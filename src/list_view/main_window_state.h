@@ -10,11 +10,13 @@
 #include "common/column.h"
 #include "common/day_number.h"
 #include "common/int16.h"
+#include "list_view/refresh_reason.h"
 #include "list_view/text_ranks.h"
 
 namespace qh {
 
 enum class Mode { None, Homework, StudySessions, Tasks, Events, Reminders };
+inline constexpr std::size_t kModeCount = 5;  // the modes but None
 
 // Remembered ComboList and ComboDateRange texts of one mode, for the length of a run.
 struct ViewChoice {
@@ -27,7 +29,9 @@ struct MainWindowState {
     Date DisplayedDate = 0;
     int DisplayedMonth = 13;
     std::string StartDayOfWeek = "Monday";
-    std::string RefreshReason;
+    // The mode ticked in the menu; None until the first mode routine ran.
+    Mode CurrentMode = Mode::None;
+    RefreshReason Refreshing = RefreshReason::None;
     Int16 SuppressComboEvents = kFalse;
     Int16 SortColumn = 7;
     Int16 SortDirection = 1;

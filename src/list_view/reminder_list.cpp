@@ -17,9 +17,9 @@ const std::string kNoText;
 constexpr std::array<const char*, 7> kTitles{"#", "For", "Class", "Type", "Description", "When", "Date"};
 
 void showSummary(const ListHost& window, const ReminderRows& rows) {
-    Control& assignments = window.form.c("TextBoxAssignments");
-    Control& tasks = window.form.c("TextBoxTasks");
-    Control& events = window.form.c("TextBoxEvents");
+    Control& assignments = *window.ui.TextBoxAssignments;
+    Control& tasks = *window.ui.TextBoxTasks;
+    Control& events = *window.ui.TextBoxEvents;
     assignments.text = std::to_string(rows.HomeworkReminderCount);
     tasks.text = std::to_string(rows.TaskReminderCount);
     events.text = std::to_string(rows.EventReminderCount);
@@ -64,8 +64,8 @@ void BuildReminderList(const ListHost& window) {
     MainWindowState& state = window.state;
     const Locale& locale = window.locale;
     // The filter is applied while gathering, after counting: the boxes count every kind.
-    ReminderRows rows = GatherReminders(window.store, state.ClickedDate, window.form.c("ComboList").text);
-    window.form.c("LabelTop").caption = "Reminders for " + locale.longDate(state.ClickedDate);
+    ReminderRows rows = GatherReminders(window.store, state.ClickedDate, window.ui.ComboList->text);
+    window.ui.LabelTop->caption = "Reminders for " + locale.longDate(state.ClickedDate);
     showSummary(window, rows);
 
     SortReminderList(rows, state.SortColumn, state.SortDirection, locale, &state.ListSortRanks);

@@ -69,16 +69,16 @@ void BuildStudySessionList(const ListHost& window) {
     MainWindowState& state = window.state;
     StudySessionRows rows;
     std::string title;
-    if (window.form.c("ComboDateRange").text == "Day") {
+    if (window.ui.ComboDateRange->text == "Day") {
         rows = GatherStudySessions(store, state.ClickedDate);
         title = "Study on " + window.locale.longDate(state.ClickedDate);
     } else {
         rows = GatherStudySessions(store, kAllDatesSentinel);
         title = "Study for " + store.CurrentTermName;
     }
-    window.form.c("LabelTop").caption = store.CurrentTermName.empty() ? std::string() : title;
-    Control& sessions = window.form.c("TextBoxStudySessions");
-    Control& time = window.form.c("TextBoxStudyTime");
+    window.ui.LabelTop->caption = store.CurrentTermName.empty() ? std::string() : title;
+    Control& sessions = *window.ui.TextBoxStudySessions;
+    Control& time = *window.ui.TextBoxStudyTime;
     sessions.text = std::to_string(rows.ListSessionRows.count());
     time.text = rows.StudyTimeTotal;
     sessions.backColor = time.backColor = kWhite;

@@ -55,21 +55,21 @@ TaskRows GatherTasks(const RecordStore& store, Date date, std::string_view dateR
 void BuildTaskList(const ListHost& window) {
     const RecordStore& store = window.store;
     MainWindowState& state = window.state;
-    const std::string& range = window.form.c("ComboDateRange").text;
-    const std::string& list = window.form.c("ComboList").text;
+    const std::string& range = window.ui.ComboDateRange->text;
+    const std::string& list = window.ui.ComboList->text;
     TaskRows rows;
     // Tasks belong to no term: the title never depends on one.
     if (range == "Day") {
         rows = GatherTasks(store, state.ClickedDate, range, list);
-        window.form.c("LabelTop").caption = "Tasks for " + window.locale.longDate(state.ClickedDate);
+        window.ui.LabelTop->caption = "Tasks for " + window.locale.longDate(state.ClickedDate);
     } else {
         rows = GatherTasks(store, kAllDatesSentinel, range, list);
-        window.form.c("LabelTop").caption = range == "All"         ? "All Tasks"
+        window.ui.LabelTop->caption = range == "All"         ? "All Tasks"
                                             : range == "With Date" ? "All Tasks with Dates"
                                                                    : "All Tasks without Dates";
     }
-    Control& total = window.form.c("TextBoxTotalTasks");
-    Control& unfinished = window.form.c("TextBoxFinishedTasks");
+    Control& total = *window.ui.TextBoxTotalTasks;
+    Control& unfinished = *window.ui.TextBoxFinishedTasks;
     total.text = std::to_string(rows.TaskTotal);
     unfinished.text = std::to_string(rows.TaskUnfinished);
     total.backColor = kWhite;

@@ -12,19 +12,19 @@ namespace qh {
 
 void MainWindow::LoadDesktopReminderSettings() {
     desktopReminders_ = ReadDesktopReminderSettings(platform, store);
-    c("MenuDesktopReminders").checked = desktopReminders_.enabled;
+    ui.MenuDesktopReminders->checked = desktopReminders_.enabled;
     // The first notice waits for the window to be painted.
-    c("TimerDesktopReminders").enabled = true;
+    ui.TimerDesktopReminders->enabled = true;
 }
 
 void MainWindow::MenuDesktopReminders_Click() {
     desktopReminders_.enabled = !desktopReminders_.enabled;
-    c("MenuDesktopReminders").checked = desktopReminders_.enabled;
+    ui.MenuDesktopReminders->checked = desktopReminders_.enabled;
     WriteDesktopReminderSettings(platform, store, desktopReminders_);
 }
 
 void MainWindow::TimerDesktopReminders_Timer() {
-    c("TimerDesktopReminders").enabled = false;
+    ui.TimerDesktopReminders->enabled = false;
     NotifyDesktopReminders();
 }
 

@@ -23,27 +23,15 @@ std::string askPagePath(MainWindow& window, const std::string& defaultName, cons
 }  // namespace
 
 void MainWindow::bindFileMenu() {
-    on("MenuExportList", FormEvent::Click, [this](const EventArgs&) { ExportList(); });
-    on("MenuExportCalendar", FormEvent::Click, [this](const EventArgs&) { ExportCalendar(); });
-    on("MenuPrintScreen", FormEvent::Click, [this](const EventArgs&) { PrintScreen(); });
-    on("MenuExportICalendar", FormEvent::Click, [this](const EventArgs&) { ExportICalendar(); });
-    on("MenuImportICalendar", FormEvent::Click, [this](const EventArgs&) { ImportICalendar(); });
-}
-
-Mode MainWindow::ExportMode() const {
-    // The export tries the mode entries in its own order; only one is ever checked.
-    const std::pair<const char*, Mode> entries[] = {{"MenuHomework", Mode::Homework},
-                                                    {"MenuTasks", Mode::Tasks},
-                                                    {"MenuEvents", Mode::Events},
-                                                    {"MenuStudySessions", Mode::StudySessions},
-                                                    {"MenuReminders", Mode::Reminders}};
-    for (const auto& [menu, mode] : entries)
-        if (c(menu).checked) return mode;
-    return Mode::None;
+    on(ui.MenuExportList.key(), FormEvent::Click, [this](const EventArgs&) { ExportList(); });
+    on(ui.MenuExportCalendar.key(), FormEvent::Click, [this](const EventArgs&) { ExportCalendar(); });
+    on(ui.MenuPrintScreen.key(), FormEvent::Click, [this](const EventArgs&) { PrintScreen(); });
+    on(ui.MenuExportICalendar.key(), FormEvent::Click, [this](const EventArgs&) { ExportICalendar(); });
+    on(ui.MenuImportICalendar.key(), FormEvent::Click, [this](const EventArgs&) { ImportICalendar(); });
 }
 
 void MainWindow::ExportList() {
-    const Mode mode = ExportMode();
+    const Mode mode = CurrentMode();
     const ListExportForm* form = ListExportFormOf(mode);
     if (!form) return;
     const std::string path = askPagePath(*this, form->defaultName, form->dialogTitle);
@@ -58,7 +46,7 @@ void MainWindow::ExportList() {
 }
 
 void MainWindow::ExportCalendar() {
-    const CalendarSheet sheet = CalendarSheetOf(ExportMode());
+    const CalendarSheet sheet = CalendarSheetOf(CurrentMode());
     const CalendarSheetForm& form = CalendarSheetFormOf(sheet);
     const std::string monthName = platform.locale.monthName(monthOf(state.ClickedDate));
     const std::string path = askPagePath(*this, CalendarDefaultName(sheet, monthName), form.dialogTitle);
@@ -67,7 +55,7 @@ void MainWindow::ExportCalendar() {
     CalendarFrame frame;
     frame.title = monthName + " " + std::to_string(yearOf(state.ClickedDate)) + form.titleEnding;
     frame.creationNote = CreationNote(platform.locale, platform.clock.today());
-    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = c("LabelCalDay(" + std::to_string(d) + ")").caption;
+    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = ui.LabelCalDay[d].caption;
     std::copy_n(state.CalendarDates.begin(), 42, frame.dates.begin());
     const bool written =
         WriteExportPage(platform, TemplatePath(platform, form.templateFile), path, [&](std::string_view templateText) {

@@ -6,7 +6,7 @@
 namespace qh {
 
 void MainWindow::UpdateGradeList() {
-    Control& combo = c("ComboGPA");
+    Control& combo = *ui.ComboGPA;
     combo.items = ComputeGradeList(store).Entries;
     // The closed list always reads "GPA".
     combo.listIndex = 0;

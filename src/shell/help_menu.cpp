@@ -22,11 +22,11 @@ void MainWindow::bindHelpHandlers() {
     auto onClick = [this](const std::string& key, std::function<void()> action) {
         on(key, FormEvent::Click, [action](const EventArgs&) { action(); });
     };
-    onClick("MenuShowTips", [this] {
+    onClick(ui.MenuShowTips.key(), [this] {
         state.ShowTipsAtStartup = "Yes";
         StartTipsIfWanted();
     });
-    onClick("MenuHelpDB", [this] { ShowHelpFile(); });
+    onClick(ui.MenuHelpDB.key(), [this] { ShowHelpFile(); });
     // The tutorials are pages of the help book, with pictures of each step, not videos.
     for (int n = 1; n <= 3; ++n)
         onClick("MenuVideo" + std::to_string(n), [this, n] {
@@ -37,9 +37,9 @@ void MainWindow::bindHelpHandlers() {
         OpenWithDesktop(platform.processes, platform.messages,
                         HelpBookAddress(platform.environment, kHomeworkHelpPage));
     };
-    onClick("MenuHomeworkHelp", openHomeworkHelp);
-    onClick("PictureBarWeb", openHomeworkHelp);
-    onClick("MenuAbout", [this] { ShowAbout(*this); });
+    onClick(ui.MenuHomeworkHelp.key(), openHomeworkHelp);
+    onClick(ui.PictureBarWeb.key(), openHomeworkHelp);
+    onClick(ui.MenuAbout.key(), [this] { ShowAbout(*this); });
 }
 
 FrmTip& MainWindow::tipWindow() {

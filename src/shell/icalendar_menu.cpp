@@ -149,7 +149,7 @@ void MainWindow::ImportICalendar() {
 
     const ImportResult result = ApplyImport(store, *files, plan, choices, links, fileTitle, platform.clock.today());
     storeCalendarLinks(links, kImportTitle);
-    Refresh("NewRecord");
+    Refresh(RefreshReason::NewRecord);
     platform.messages.show(resultText(result), kImportTitle, MessageButtons::OK, MessageIcon::Information);
 }
 

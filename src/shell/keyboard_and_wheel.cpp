@@ -9,32 +9,32 @@
 namespace qh {
 
 void MainWindow::bindKeyboardAndWheel() {
-    on("picCalendar", FormEvent::KeyDown, [this](const EventArgs& args) {
+    on(ui.picCalendar.key(), FormEvent::KeyDown, [this](const EventArgs& args) {
         if (CurrentMode() == Mode::Reminders) return;  // the date stays today
         if (const auto date = CalendarKeyTarget(state.CalendarDates, state.ClickedDate, args.keyCode)) {
             state.ClickedDate = *date;
-            Refresh("Calendar");
+            Refresh(RefreshReason::Calendar);
         }
     });
-    on("picCalendar", FormEvent::MouseWheel, [this](const EventArgs& args) {
+    on(ui.picCalendar.key(), FormEvent::MouseWheel, [this](const EventArgs& args) {
         if (CurrentMode() == Mode::Reminders || args.notches == 0) return;
         state.ClickedDate = CalendarWheelTarget(state.CalendarDates, state.ClickedDate, args.notches);
-        Refresh("Calendar");
+        Refresh(RefreshReason::Calendar);
     });
 
-    on("picGrid", FormEvent::KeyDown, [this](const EventArgs& args) {
+    on(ui.picGrid.key(), FormEvent::KeyDown, [this](const EventArgs& args) {
         if (args.keyCode == kKeyReturn) {
             if (state.KeyboardRow > 0) GridRowClicked(state.KeyboardRow);
             return;
         }
         showGridView(GridKeyStep({state.TopRow, state.KeyboardRow}, args.keyCode, state.RowCount, state.RowsVisible));
     });
-    on("picGrid", FormEvent::MouseWheel, [this](const EventArgs& args) {
+    on(ui.picGrid.key(), FormEvent::MouseWheel, [this](const EventArgs& args) {
         showGridView(GridWheelStep({state.TopRow, state.KeyboardRow}, args.notches, state.RowCount, state.RowsVisible));
     });
     // The keyboard's row shows only while the grid has the keys.
     for (FormEvent event : {FormEvent::GotFocus, FormEvent::LostFocus})
-        on("picGrid", event, [this](const EventArgs&) {
+        on(ui.picGrid.key(), event, [this](const EventArgs&) {
             if (state.KeyboardRow > 0) RefillGrid();
         });
 }
@@ -53,7 +53,7 @@ void MainWindow::showSavedRow(SavedRecordKind kind, int row) {
         const bool inSight = p >= state.TopRow && p < state.TopRow + state.RowsVisible;
         const int top = inSight ? state.TopRow : p - state.RowsVisible / 2;
         const GridView view = ClampGridView({top, p - top + 1}, state.RowCount, state.RowsVisible);
-        SetFocus("picGrid");
+        SetFocus(ui.picGrid.key());
         showGridView({view.topRow, p - view.topRow + 1});
         RefillGrid();
         return;
@@ -64,7 +64,7 @@ void MainWindow::showGridView(const GridView& view) {
     const GridView before{state.TopRow, state.KeyboardRow};
     if (view == before) return;
     state.KeyboardRow = toInt16(view.keyboardRow);
-    Control& scroll = c("VSGridScroll");
+    Control& scroll = *ui.VSGridScroll;
     if (scroll.enabled) scroll.value = view.topRow;
     RefillGrid();
 }

@@ -11,6 +11,7 @@ namespace qh {
 
 ListHost MainWindow::listHost() {
     return {.form = *this,
+            .ui = ui,
             .state = state,
             .store = store,
             .locale = platform.locale,
@@ -44,7 +45,7 @@ void MainWindow::BuildList(Mode mode) {
 }
 
 void MainWindow::UpdateGridScroll() {
-    Control& scroll = c("VSGridScroll");
+    Control& scroll = *ui.VSGridScroll;
     if (state.RowCount > state.RowsVisible) {
         scroll.enabled = true;
         scroll.minimum = 1;
@@ -67,7 +68,7 @@ void MainWindow::UpdateGridScroll() {
 }
 
 void MainWindow::RefillGrid() {
-    state.TopRow = toInt16(c("VSGridScroll").value);
+    state.TopRow = toInt16(ui.VSGridScroll->value);
     const Mode mode = CurrentMode();
     if (mode == Mode::None) return;
     LayoutGrid(mode);
@@ -76,7 +77,7 @@ void MainWindow::RefillGrid() {
 }
 
 void MainWindow::ResetGridScroll() {
-    Control& scroll = c("VSGridScroll");
+    Control& scroll = *ui.VSGridScroll;
     if (scroll.value != 1) {
         // The bar's change event rebuilds the list.
         scroll.value = 1;
@@ -91,7 +92,7 @@ void MainWindow::ResetGridScroll() {
 
 void MainWindow::HighlightGridRow(int row, bool on) {
     if (row > state.RowCount || row < 1) return;
-    Canvas& canvas = *c("picGrid").canvas;
+    Canvas& canvas = *ui.picGrid->canvas;
     CanvasFont font;
     font.name = "Arial";
     font.size = 9;
@@ -108,7 +109,7 @@ void MainWindow::HighlightGridRow(int row, bool on) {
 
 void MainWindow::picGridMouseDown(const EventArgs& args) {
     state.PressedRow =
-        toInt16(RowPressedAt(CurrentGridRows(listHost()), c("picGrid").canvas->scaleWidth(), args.x, args.y));
+        toInt16(RowPressedAt(CurrentGridRows(listHost()), ui.picGrid->canvas->scaleWidth(), args.x, args.y));
 }
 
 void MainWindow::picGridMouseUp(const EventArgs& args) {

@@ -1,5 +1,7 @@
 #include "shell/main_window.h"
 
+#include <tuple>
+
 #include "calendar_days/day_marks.h"
 #include "editors/editor_windows.h"
 #include "editors/record_actions.h"
@@ -25,6 +27,7 @@ MainWindow::MainWindow(RecordStore& recordStore, Platform& thePlatform)
     buildMenus();
     buildControls();
     setOuterSize(9600, 7215);
+    bindControls();
     bindHandlers();
 }
 
@@ -44,12 +47,12 @@ Color MainWindow::colorValue(const std::string& nameOrHexText) const {
 }
 
 DayMarks MainWindow::MarkEventDaysFor(Date firstCell) {
-    EventDayMarks events = MarkEventDays(store, firstCell, c("ComboList").text);
+    EventDayMarks events = MarkEventDays(store, firstCell, ui.ComboList->text);
     return DayMarks{events.CellMarked, events.ColorMarkedBack};
 }
 
 void MainWindow::MarkDays(Date firstCell) {
-    const std::string& list = c("ComboList").text;
+    const std::string& list = ui.ComboList->text;
     DayMarks marks;
     switch (CurrentMode()) {
         case Mode::StudySessions: marks = MarkStudySessionDays(store, firstCell, state.Colors); break;
@@ -70,86 +73,84 @@ void MainWindow::bindHandlers() {
         on(key, FormEvent::Click, [action](const EventArgs&) { action(); });
     };
 
-    onClick("MenuExit", [this] { platform.windowing.close(*this, UnloadMode::Code); });
+    onClick(ui.MenuExit.key(), [this] { platform.windowing.close(*this, UnloadMode::Code); });
 
     // Mode switches: a click on the current mode does nothing.
-    const std::pair<const char*, const char*> switches[] = {
-        {"MenuHomework", "PictureBarHomework"}, {"MenuStudySessions", "PictureBarStudySessions"},
-        {"MenuTasks", "PictureBarTasks"},       {"MenuEvents", "PictureBarEvents"},
-        {"MenuReminders", "PictureBarReminders"}};
-    const std::function<void()> routines[] = {[this] { SetHomeworkMode(); }, [this] { SetStudySessionMode(); },
-                                              [this] { SetTaskMode(); },     [this] { SetEventMode(); },
-                                              [this] { SetReminderMode(); }};
-    for (int i = 0; i < 5; ++i) {
-        const std::string menu = switches[i].first;
-        auto action = [this, menu, routine = routines[i]] {
-            if (!c(menu).checked) routine();
+    const std::tuple<Mode, const ControlRef*, const ControlRef*> switches[] = {
+        {Mode::Homework, &ui.MenuHomework, &ui.PictureBarHomework},
+        {Mode::StudySessions, &ui.MenuStudySessions, &ui.PictureBarStudySessions},
+        {Mode::Tasks, &ui.MenuTasks, &ui.PictureBarTasks},
+        {Mode::Events, &ui.MenuEvents, &ui.PictureBarEvents},
+        {Mode::Reminders, &ui.MenuReminders, &ui.PictureBarReminders}};
+    for (const auto& [mode, menu, bar] : switches) {
+        auto action = [this, mode] {
+            if (CurrentMode() != mode) applyModeTable(mode);
         };
-        onClick(menu, action);
-        onClick(switches[i].second, action);
+        onClick(menu->key(), action);
+        onClick(bar->key(), action);
     }
 
-    onClick("ComboDateRange", [this] {
-        if (!state.SuppressComboEvents && state.RefreshReason == "None") Refresh("ViewChange");
+    onClick(ui.ComboDateRange.key(), [this] {
+        if (!state.SuppressComboEvents && state.Refreshing == RefreshReason::None) Refresh(RefreshReason::ViewChange);
     });
-    onClick("ComboList", [this] {
+    onClick(ui.ComboList.key(), [this] {
         if (state.SuppressComboEvents) return;
         TintViewPanel();
-        if (state.RefreshReason == "None") Refresh("ViewChange");
+        if (state.Refreshing == RefreshReason::None) Refresh(RefreshReason::ViewChange);
     });
 
-    for (int i = 0; i < 42; ++i) onClick("LabelCalDate(" + std::to_string(i) + ")", [this, i] { dateCellClicked(i); });
-    for (int i = 0; i < 7; ++i) onClick("LabelCalDay(" + std::to_string(i) + ")", [this, i] { dayHeaderClicked(i); });
-    onClick("LabelToday", [this] { quickDateClicked(42); });
-    onClick("LabelTomorrow", [this] { quickDateClicked(45); });
+    for (int i = 0; i < 42; ++i) onClick(ui.LabelCalDate.key(i), [this, i] { dateCellClicked(i); });
+    for (int i = 0; i < 7; ++i) onClick(ui.LabelCalDay.key(i), [this, i] { dayHeaderClicked(i); });
+    onClick(ui.LabelToday.key(), [this] { quickDateClicked(42); });
+    onClick(ui.LabelTomorrow.key(), [this] { quickDateClicked(45); });
     for (const char* button : {"picCalMonthUp", "picCalMonthDown", "picCalDayUp", "picCalDayDown"}) {
         const std::string name = button;
         on(name, FormEvent::MouseDown, [this, name](const EventArgs&) { calendarButtonPressed(name); });
         on(name, FormEvent::MouseUp, [this, name](const EventArgs&) { calendarButtonReleased(name); });
     }
-    on("TimerButton", FormEvent::Timer, [this](const EventArgs&) { TimerButton_Timer(); });
-    onClick("MenuStartMon", [this] { changeStartDay("Monday"); });
-    onClick("MenuStartSat", [this] { changeStartDay("Saturday"); });
-    onClick("MenuStartSun", [this] { changeStartDay("Sunday"); });
+    on(ui.TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { TimerButton_Timer(); });
+    onClick(ui.MenuStartMon.key(), [this] { changeStartDay("Monday"); });
+    onClick(ui.MenuStartSat.key(), [this] { changeStartDay("Saturday"); });
+    onClick(ui.MenuStartSun.key(), [this] { changeStartDay("Sunday"); });
 
-    onClick("ButtonStart", [this] { ButtonStart_Click(); });
-    onClick("ButtonReset", [this] { ButtonReset_Click(); });
-    on("Timer1", FormEvent::Timer, [this](const EventArgs&) { Timer1_Timer(); });
-    onClick("LabelTime", [this] {
+    onClick(ui.ButtonStart.key(), [this] { ButtonStart_Click(); });
+    onClick(ui.ButtonReset.key(), [this] { ButtonReset_Click(); });
+    on(ui.Timer1.key(), FormEvent::Timer, [this](const EventArgs&) { Timer1_Timer(); });
+    onClick(ui.LabelTime.key(), [this] {
         state.StopwatchShowSeconds = !state.StopwatchShowSeconds;
         UpdateStopwatchLabel();
     });
 
-    on("TimerStatusBar", FormEvent::Timer, [this](const EventArgs&) {
+    on(ui.TimerStatusBar.key(), FormEvent::Timer, [this](const EventArgs&) {
         PaintStatusBar();
         CheckDesktopReminderDay();
     });
     // One shot, once the window has been painted.
-    on("TimerDesktopReminders", FormEvent::Timer, [this](const EventArgs&) { TimerDesktopReminders_Timer(); });
-    onClick("MenuDesktopReminders", [this] { MenuDesktopReminders_Click(); });
+    on(ui.TimerDesktopReminders.key(), FormEvent::Timer, [this](const EventArgs&) { TimerDesktopReminders_Timer(); });
+    onClick(ui.MenuDesktopReminders.key(), [this] { MenuDesktopReminders_Click(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
-    on("TimerTip", FormEvent::Timer, [this](const EventArgs&) {
-        c("TimerTip").enabled = false;
+    on(ui.TimerTip.key(), FormEvent::Timer, [this](const EventArgs&) {
+        ui.TimerTip->enabled = false;
         StartTipsIfWanted();
     });
 
-    on("picGrid", FormEvent::MouseDown, [this](const EventArgs& args) { picGridMouseDown(args); });
-    on("picGrid", FormEvent::MouseUp, [this](const EventArgs& args) { picGridMouseUp(args); });
+    on(ui.picGrid.key(), FormEvent::MouseDown, [this](const EventArgs& args) { picGridMouseDown(args); });
+    on(ui.picGrid.key(), FormEvent::MouseUp, [this](const EventArgs& args) { picGridMouseUp(args); });
     for (int i = 0; i < 9; ++i) onClick("picColHeader(" + std::to_string(i) + ")", [this, i] { headerClicked(i); });
-    on("VSGridScroll", FormEvent::Change, [this](const EventArgs&) { RefillGrid(); });
-    on("VSGridScroll", FormEvent::Scroll, [this](const EventArgs&) { RefillGrid(); });
+    on(ui.VSGridScroll.key(), FormEvent::Change, [this](const EventArgs&) { RefillGrid(); });
+    on(ui.VSGridScroll.key(), FormEvent::Scroll, [this](const EventArgs&) { RefillGrid(); });
     // The keyboard belongs to the grid: the scroll bar hands on the focus it gets.
-    on("VSGridScroll", FormEvent::GotFocus, [this](const EventArgs&) { SetFocus("picGrid"); });
+    on(ui.VSGridScroll.key(), FormEvent::GotFocus, [this](const EventArgs&) { SetFocus(ui.picGrid.key()); });
 
-    onClick("ButtonNewAssignment", [this] { NewAssignment(); });
-    onClick("MenuNewAssignment", [this] { NewAssignment(); });
-    onClick("ButtonNewTask", [this] { NewTask(); });
-    onClick("MenuNewTask", [this] { NewTask(); });
-    onClick("ButtonNewEvent", [this] { NewEvent(); });
-    onClick("MenuNewEvent", [this] { NewEvent(); });
-    onClick("ButtonSelectTerm", [this] { EditClassSchedule(); });
-    onClick("MenuClassSchedule", [this] { EditClassSchedule(); });
-    onClick("picHelp", [this] { platform.windowing.enterWhatsThisMode(); });
+    onClick(ui.ButtonNewAssignment.key(), [this] { NewAssignment(); });
+    onClick(ui.MenuNewAssignment.key(), [this] { NewAssignment(); });
+    onClick(ui.ButtonNewTask.key(), [this] { NewTask(); });
+    onClick(ui.MenuNewTask.key(), [this] { NewTask(); });
+    onClick(ui.ButtonNewEvent.key(), [this] { NewEvent(); });
+    onClick(ui.MenuNewEvent.key(), [this] { NewEvent(); });
+    onClick(ui.ButtonSelectTerm.key(), [this] { EditClassSchedule(); });
+    onClick(ui.MenuClassSchedule.key(), [this] { EditClassSchedule(); });
+    onClick(ui.picHelp.key(), [this] { platform.windowing.enterWhatsThisMode(); });
     bindHelpHandlers();
     bindFileMenu();
     bindKeyboardAndWheel();

@@ -20,12 +20,14 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "calendar_days/day_marks.h"
 #include "editors/editor_host.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "record_store/columns.h"
+#include "list_view/main_window_controls.h"
 #include "list_view/main_window_state.h"
 #include "shell/desktop_reminder_settings.h"
 
@@ -53,6 +55,8 @@ public:
     MainWindow(RecordStore& store, Platform& platform);
     ~MainWindow() override;
 
+    // The controls the window's routines use, bound when the window is built.
+    MainWindowControls ui{this};
     RecordStore& store;
     Platform& platform;
     MainWindowState state;
@@ -70,16 +74,16 @@ public:
     // True when the load ended the run (the data directory could not be entered).
     bool loadEndedRun() const { return loadEndedRun_; }
 
-    // The current mode: the mode menu item that carries the tick, tested in the order
-    // Homework, Study Sessions, Tasks, Events, Reminders.
+    // The current mode, the one whose menu item carries the tick.
     Mode CurrentMode() const;
 
     // Display refresh.
     void RefreshDisplay();
-    void Refresh(const std::string& reason);  // sets RefreshReason and refreshes
+    void Refresh(RefreshReason reason);  // runs the reason's steps for the current mode
     void TintViewPanel();
-    // The letters of the steps the last RefreshDisplay ran ("PRCLG"), for tests.
-    const std::string& lastRefreshSteps() const { return lastRefreshSteps_; }
+    // The steps the last RefreshDisplay ran, for tests.
+    const std::vector<RefreshStep>& lastRefreshSteps() const { return lastRefreshSteps_; }
+    RefreshReason lastRefreshReason() const { return lastRefreshReason_; }
 
     // Modes.
     void SetDefaultViewChoices();
@@ -133,7 +137,7 @@ public:
     Form& ownerWindow() override { return *this; }
     Date clickedDate() const override { return state.ClickedDate; }
     std::string startDayOfWeek() const override { return state.StartDayOfWeek; }
-    void refresh(const std::string& reason) override { Refresh(reason); }
+    void refresh(RefreshReason reason) override { Refresh(reason); }
     void selectTerm(const std::string& termName) override { SelectTerm(termName); }
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
     void showSavedRow(SavedRecordKind kind, int row) override;
@@ -146,7 +150,6 @@ public:
     // The Tip of the Day window, loaded at its first use and kept.
     FrmTip& tipWindow();
     // The File menu's export and print commands (file_menu.cpp).
-    Mode ExportMode() const;
     void ExportList();
     void ExportCalendar();
     void PrintScreen();
@@ -207,7 +210,8 @@ private:
     Date desktopReminderDay_ = 0;  // the day the reminders were last looked at; 0 before
     bool desktopReminderFailureShown_ = false;
 
-    std::string lastRefreshSteps_;
+    std::vector<RefreshStep> lastRefreshSteps_;
+    RefreshReason lastRefreshReason_ = RefreshReason::None;
     bool loadEndedRun_ = false;
 };
 

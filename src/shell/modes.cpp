@@ -1,5 +1,5 @@
 // The five modes of the main window. Each mode routine sets everything of its mode, from
-// the menu ticks to the summary fields, then refreshes with "Mode Change".
+// the menu ticks to the summary fields, then refreshes for the mode change.
 #include <vector>
 
 #include "shell/main_window.h"
@@ -7,23 +7,30 @@
 namespace qh {
 namespace {
 
+using Ui = MainWindowControls;
+using Ref = ControlRef Ui::*;
+
 struct SummaryField {
-    const char* label;
+    Ref label;
     int labelTop;
     const char* caption;
-    const char* box;
+    Ref box;
     int boxTop;
 };
 
+// What a mode shows: the Edit menu's entries it allows, the export captions, its bar
+// picture, the item in front of the left panel, the buttons and panels it shows, the
+// choices of the two view combos, the summary fields and the column sorted first.
 struct ModeSettings {
     Mode mode;
-    const char* menu;
-    bool classSchedule, newAssignment, newTask, newEvent;
-    const char* exportCalendar;
+    Ref menu;
+    bool classSchedule = false, newAssignment = false, newTask = false, newEvent = false;
+    const char* exportCalendar = "Homework Calendar...";
     const char* exportList;
-    const char* bar;
-    const char* frontItem;
-    bool buttonNewAssignment, buttonNewTask, buttonNewEvent, boxStudySessions, boxReminders, boxStudyTime, boxTerm;
+    Ref bar;
+    Ref frontItem;
+    bool buttonNewAssignment = false, buttonNewTask = false, buttonNewEvent = false;
+    bool boxStudySessions = false, boxReminders = false, boxStudyTime = false, boxTerm = false;
     std::vector<std::string> listEntries, rangeEntries;
     std::vector<SummaryField> summary;
     const char* statusText;
@@ -32,61 +39,96 @@ struct ModeSettings {
 
 const std::vector<ModeSettings>& modeTable() {
     static const std::vector<ModeSettings> table{
-        {Mode::Homework, "MenuHomework", true, true, false, false, "Homework Calendar...",
-         "This Assignment List...", "PictureBarHomework", "ButtonNewAssignment", true, false, false, false, false,
-         false, true, {"All", "Done", "Not Done"}, {"Day", "Term"},
-         {{"LabelTotalAssignments", 990, "Total Assignments:", "TextBoxTotalAssignments", 930},
-          {"LabelFinishedAssignments", 1380, "Unfinished Assignments:", "TextBoxFinishedAssignments", 1320},
-          {"LabelTimeRemaining", 1770, "Time Left:", "TextBoxTimeRemaining", 1710}},
-         "Homework Mode", 7},
-        {Mode::StudySessions, "MenuStudySessions", false, false, false, false, "Homework Calendar...",
-         "This Study List...", "PictureBarStudySessions", "PictureBoxStudySessions", true, false, false, true, false,
-         false, true, {"All"}, {"Day", "Term"},
-         {{"LabelTotalAssignments", 1230, "Study Sessions:", "TextBoxStudySessions", 1170},
-          {"LabelTimeRemaining", 1650, "Study Time:", "TextBoxStudyTime", 1590}},
-         "Study Session Mode", 6},
-        {Mode::Tasks, "MenuTasks", false, false, true, false, "Task Calendar...", "This Task List...",
-         "PictureBarTasks", "ButtonNewTask", false, true, false, false, false, false, false,
-         {"All", "Done", "Not Done"}, {"Day", "All", "With Date", "Without Date"},
-         {{"LabelTotalAssignments", 1230, "Total Tasks:", "TextBoxTotalTasks", 1170},
-          {"LabelTimeRemaining", 1650, "Unfinished Tasks:", "TextBoxFinishedTasks", 1590}},
-         "Task Mode", 5},
-        {Mode::Events, "MenuEvents", false, false, false, true, "Event Calendar...", "This Event List...",
-         "PictureBarEvents", "ButtonNewEvent", false, false, true, false, false, false, false,
-         {"All", "Classes", "Other Events"}, {"Day", "Week", "Month", "Year"},
-         {{"LabelTotalAssignments", 1230, "Classes:", "TextBoxClasses", 1170},
-          {"LabelTimeRemaining", 1650, "Other Events:", "TextBoxOtherEvents", 1590}},
-         "Event Mode", 3},
-        {Mode::Reminders, "MenuReminders", false, false, false, false, "Homework Calendar...",
-         "This Reminder List...", "PictureBarReminders", "PictureBoxReminders", false, false, false, false, true, true,
-         false, {"All", "Homework", "Tasks", "Events"}, {"Today"},
-         {{"LabelTotalAssignments", 990, "Assignments:", "TextBoxAssignments", 930},
-          {"LabelFinishedAssignments", 1380, "Tasks:", "TextBoxTasks", 1320},
-          {"LabelTimeRemaining", 1770, "Events:", "TextBoxEvents", 1710}},
-         "Today's Reminders", 5},
+        {.mode = Mode::Homework,
+         .menu = &Ui::MenuHomework,
+         .classSchedule = true,
+         .newAssignment = true,
+         .exportList = "This Assignment List...",
+         .bar = &Ui::PictureBarHomework,
+         .frontItem = &Ui::ButtonNewAssignment,
+         .buttonNewAssignment = true,
+         .boxTerm = true,
+         .listEntries = {"All", "Done", "Not Done"},
+         .rangeEntries = {"Day", "Term"},
+         .summary = {{&Ui::LabelTotalAssignments, 990, "Total Assignments:", &Ui::TextBoxTotalAssignments, 930},
+                     {&Ui::LabelFinishedAssignments, 1380, "Unfinished Assignments:", &Ui::TextBoxFinishedAssignments, 1320},
+                     {&Ui::LabelTimeRemaining, 1770, "Time Left:", &Ui::TextBoxTimeRemaining, 1710}},
+         .statusText = "Homework Mode",
+         .sortColumn = 7},
+        {.mode = Mode::StudySessions,
+         .menu = &Ui::MenuStudySessions,
+         .exportList = "This Study List...",
+         .bar = &Ui::PictureBarStudySessions,
+         .frontItem = &Ui::PictureBoxStudySessions,
+         .buttonNewAssignment = true,
+         .boxStudySessions = true,
+         .boxTerm = true,
+         .listEntries = {"All"},
+         .rangeEntries = {"Day", "Term"},
+         .summary = {{&Ui::LabelTotalAssignments, 1230, "Study Sessions:", &Ui::TextBoxStudySessions, 1170},
+                     {&Ui::LabelTimeRemaining, 1650, "Study Time:", &Ui::TextBoxStudyTime, 1590}},
+         .statusText = "Study Session Mode",
+         .sortColumn = 6},
+        {.mode = Mode::Tasks,
+         .menu = &Ui::MenuTasks,
+         .newTask = true,
+         .exportCalendar = "Task Calendar...",
+         .exportList = "This Task List...",
+         .bar = &Ui::PictureBarTasks,
+         .frontItem = &Ui::ButtonNewTask,
+         .buttonNewTask = true,
+         .listEntries = {"All", "Done", "Not Done"},
+         .rangeEntries = {"Day", "All", "With Date", "Without Date"},
+         .summary = {{&Ui::LabelTotalAssignments, 1230, "Total Tasks:", &Ui::TextBoxTotalTasks, 1170},
+                     {&Ui::LabelTimeRemaining, 1650, "Unfinished Tasks:", &Ui::TextBoxFinishedTasks, 1590}},
+         .statusText = "Task Mode",
+         .sortColumn = 5},
+        {.mode = Mode::Events,
+         .menu = &Ui::MenuEvents,
+         .newEvent = true,
+         .exportCalendar = "Event Calendar...",
+         .exportList = "This Event List...",
+         .bar = &Ui::PictureBarEvents,
+         .frontItem = &Ui::ButtonNewEvent,
+         .buttonNewEvent = true,
+         .listEntries = {"All", "Classes", "Other Events"},
+         .rangeEntries = {"Day", "Week", "Month", "Year"},
+         .summary = {{&Ui::LabelTotalAssignments, 1230, "Classes:", &Ui::TextBoxClasses, 1170},
+                     {&Ui::LabelTimeRemaining, 1650, "Other Events:", &Ui::TextBoxOtherEvents, 1590}},
+         .statusText = "Event Mode",
+         .sortColumn = 3},
+        {.mode = Mode::Reminders,
+         .menu = &Ui::MenuReminders,
+         .exportList = "This Reminder List...",
+         .bar = &Ui::PictureBarReminders,
+         .frontItem = &Ui::PictureBoxReminders,
+         .boxReminders = true,
+         .boxStudyTime = true,
+         .listEntries = {"All", "Homework", "Tasks", "Events"},
+         .rangeEntries = {"Today"},
+         .summary = {{&Ui::LabelTotalAssignments, 990, "Assignments:", &Ui::TextBoxAssignments, 930},
+                     {&Ui::LabelFinishedAssignments, 1380, "Tasks:", &Ui::TextBoxTasks, 1320},
+                     {&Ui::LabelTimeRemaining, 1770, "Events:", &Ui::TextBoxEvents, 1710}},
+         .statusText = "Today's Reminders",
+         .sortColumn = 5},
     };
     return table;
 }
 
 // Pictures of the mode bar: each mode's pressed and raised image.
 struct BarImages {
-    const char* bar;
+    Ref bar;
     const char* down;
     const char* up;
 };
-constexpr BarImages kBarImages[] = {{"PictureBarHomework", "HomeworkDown", "HomeworkUp"},
-                                    {"PictureBarStudySessions", "SessionsDown", "SessionsUp"},
-                                    {"PictureBarTasks", "TasksDown", "TasksUp"},
-                                    {"PictureBarEvents", "EventsDown", "EventsUp"},
-                                    {"PictureBarReminders", "RemindersDown", "RemindersUp"}};
+constexpr BarImages kBarImages[] = {{&Ui::PictureBarHomework, "HomeworkDown", "HomeworkUp"},
+                                    {&Ui::PictureBarStudySessions, "SessionsDown", "SessionsUp"},
+                                    {&Ui::PictureBarTasks, "TasksDown", "TasksUp"},
+                                    {&Ui::PictureBarEvents, "EventsDown", "EventsUp"},
+                                    {&Ui::PictureBarReminders, "RemindersDown", "RemindersUp"}};
 
-constexpr const char* kSummaryLabels[] = {"LabelTotalAssignments", "LabelFinishedAssignments", "LabelTimeRemaining"};
-constexpr const char* kSummaryBoxes[] = {"TextBoxTotalAssignments", "TextBoxFinishedAssignments",
-                                         "TextBoxTimeRemaining",    "TextBoxStudySessions",
-                                         "TextBoxStudyTime",        "TextBoxTotalTasks",
-                                         "TextBoxFinishedTasks",    "TextBoxClasses",
-                                         "TextBoxOtherEvents",      "TextBoxAssignments",
-                                         "TextBoxTasks",            "TextBoxEvents"};
+constexpr Ref kSummaryLabels[] = {&Ui::LabelTotalAssignments, &Ui::LabelFinishedAssignments, &Ui::LabelTimeRemaining};
+constexpr Ref kSummaryBoxes[] = {&Ui::TextBoxTotalAssignments, &Ui::TextBoxFinishedAssignments, &Ui::TextBoxTimeRemaining, &Ui::TextBoxStudySessions, &Ui::TextBoxStudyTime, &Ui::TextBoxTotalTasks, &Ui::TextBoxFinishedTasks, &Ui::TextBoxClasses, &Ui::TextBoxOtherEvents, &Ui::TextBoxAssignments, &Ui::TextBoxTasks, &Ui::TextBoxEvents};
 
 ViewChoice& savedChoice(MainWindowState& state, Mode mode) {
     switch (mode) {
@@ -115,15 +157,15 @@ void MainWindow::SaveViewChoices() {
     }
     const Mode mode = CurrentMode();
     if (mode == Mode::None) return;
-    savedChoice(state, mode) = {c("ComboList").text, c("ComboDateRange").text};
+    savedChoice(state, mode) = {ui.ComboList->text, ui.ComboDateRange->text};
 }
 
 void MainWindow::RestoreViewChoices() {
     const Mode mode = CurrentMode();
     if (mode == Mode::None) return;
     const ViewChoice& choice = savedChoice(state, mode);
-    for (auto [combo, text] : {std::pair{"ComboList", &choice.List}, std::pair{"ComboDateRange", &choice.Range}}) {
-        Control& control = c(combo);
+    for (auto [combo, text] : {std::pair{&ui.ComboList, &choice.List}, std::pair{&ui.ComboDateRange, &choice.Range}}) {
+        Control& control = **combo;
         control.text = *text;
         control.listIndex = -1;
         for (std::size_t i = 0; i < control.items.size(); ++i)
@@ -141,50 +183,52 @@ void MainWindow::applyModeTable(Mode mode) {
     state.SuppressComboEvents = kTrue;
     SaveViewChoices();
 
-    for (const ModeSettings& other : modeTable()) c(other.menu).checked = other.mode == mode;
+    state.CurrentMode = mode;
+    for (const ModeSettings& other : modeTable()) (ui.*other.menu)->checked = other.mode == mode;
 
-    c("MenuClassSchedule").enabled = m.classSchedule;
-    c("MenuNewAssignment").enabled = m.newAssignment;
-    c("MenuNewTask").enabled = m.newTask;
-    c("MenuNewEvent").enabled = m.newEvent;
+    ui.MenuClassSchedule->enabled = m.classSchedule;
+    ui.MenuNewAssignment->enabled = m.newAssignment;
+    ui.MenuNewTask->enabled = m.newTask;
+    ui.MenuNewEvent->enabled = m.newEvent;
 
-    c("MenuExportCalendar").caption = m.exportCalendar;
-    c("MenuExportList").caption = m.exportList;
+    ui.MenuExportCalendar->caption = m.exportCalendar;
+    ui.MenuExportList->caption = m.exportList;
 
     for (const BarImages& images : kBarImages)
-        c(images.bar).picture = std::string(images.bar) == m.bar ? images.down : images.up;
+        (ui.*images.bar)->picture = images.bar == m.bar ? images.down : images.up;
 
-    bringToFront(m.frontItem);
-    c(m.frontItem).visible = true;
-    c("ButtonNewAssignment").visible = m.buttonNewAssignment;
+    bringToFront((ui.*m.frontItem).key());
+    (ui.*m.frontItem)->visible = true;
+    ui.ButtonNewAssignment->visible = m.buttonNewAssignment;
     // Under the study panel the button shows at no point, so Tab passes it by.
-    c("ButtonNewAssignment").tabStop = std::string(m.frontItem) == "ButtonNewAssignment";
-    c("ButtonNewTask").visible = m.buttonNewTask;
-    c("ButtonNewEvent").visible = m.buttonNewEvent;
-    c("PictureBoxStudySessions").visible = m.boxStudySessions;
-    c("PictureBoxReminders").visible = m.boxReminders;
-    c("PictureBoxStudyTime").visible = m.boxStudyTime;
-    c("PictureBoxTerm").visible = m.boxTerm;
-    c("PictureBoxTerm").left = 4530;
-    c("PictureBoxTerm").top = 930;
-    c("PictureBoxViewMenus").visible = true;
+    ui.ButtonNewAssignment->tabStop = m.frontItem == &Ui::ButtonNewAssignment;
+    ui.ButtonNewTask->visible = m.buttonNewTask;
+    ui.ButtonNewEvent->visible = m.buttonNewEvent;
+    ui.PictureBoxStudySessions->visible = m.boxStudySessions;
+    ui.PictureBoxReminders->visible = m.boxReminders;
+    ui.PictureBoxStudyTime->visible = m.boxStudyTime;
+    ui.PictureBoxTerm->visible = m.boxTerm;
+    ui.PictureBoxTerm->left = 4530;
+    ui.PictureBoxTerm->top = 930;
+    ui.PictureBoxViewMenus->visible = true;
 
-    for (auto [combo, entries] : {std::pair{"ComboList", &m.listEntries}, std::pair{"ComboDateRange", &m.rangeEntries}}) {
-        Control& control = c(combo);
+    for (auto [combo, entries] :
+         {std::pair{&ui.ComboList, &m.listEntries}, std::pair{&ui.ComboDateRange, &m.rangeEntries}}) {
+        Control& control = **combo;
         control.items = *entries;
         control.listIndex = -1;
         control.text.clear();
     }
     RestoreViewChoices();
 
-    for (const char* name : kSummaryLabels) c(name).visible = false;
-    for (const char* name : kSummaryBoxes) c(name).visible = false;
+    for (Ref label : kSummaryLabels) (ui.*label)->visible = false;
+    for (Ref box : kSummaryBoxes) (ui.*box)->visible = false;
     for (const SummaryField& field : m.summary) {
-        Control& label = c(field.label);
+        Control& label = *(ui.*field.label);
         label.top = field.labelTop;
         label.caption = field.caption;
         label.visible = true;
-        Control& box = c(field.box);
+        Control& box = *(ui.*field.box);
         box.top = field.boxTop;
         // A screen reader calls the figure by its label, without the colon.
         box.accessibleName = std::string(field.caption).substr(0, std::string(field.caption).find(':'));
@@ -198,8 +242,8 @@ void MainWindow::applyModeTable(Mode mode) {
     state.SortDirection = 1;
     state.SuppressComboEvents = kFalse;
 
-    Refresh("Mode Change");
-    c("picLock").visible = mode == Mode::Reminders;
+    Refresh(RefreshReason::ModeChange);
+    ui.picLock->visible = mode == Mode::Reminders;
 }
 
 void MainWindow::SetHomeworkMode() { applyModeTable(Mode::Homework); }

@@ -52,7 +52,7 @@ void MainWindow::PaintCalendarCells() {
     cells.CellBackColors = state.CellBackColors;
     cells.CellBold = state.CellBold;
     cells.CellIsToday = state.CellIsToday;
-    PaintMonthCells(*this, cells, c("LabelMonth").caption);
+    PaintMonthCells(*this, cells, ui.LabelMonth->caption);
 }
 
 void MainWindow::UpdateQuickDateButtons() {
@@ -65,7 +65,7 @@ void MainWindow::ApplyStartDayOfWeek() {
     const std::string menu = ApplyDayHeaders(*this, state.StartDayOfWeek);
     for (const char* item : {"MenuStartSun", "MenuStartMon", "MenuStartSat"}) c(item).checked = item == menu;
     state.ClickedDate = state.DisplayedDate;
-    Refresh("StartDayofWeek");
+    Refresh(RefreshReason::StartDayOfWeek);
 }
 
 void MainWindow::changeStartDay(const std::string& day) {
@@ -75,20 +75,20 @@ void MainWindow::changeStartDay(const std::string& day) {
 }
 
 void MainWindow::dayHeaderClicked(int index) {
-    const std::string day = c("LabelCalDay", index).tag;
+    const std::string day = ui.LabelCalDay[index].tag;
     if (day == "Monday" || day == "Saturday" || day == "Sunday") changeStartDay(day);
 }
 
 void MainWindow::dateCellClicked(int index) {
     if (CurrentMode() == Mode::Reminders) return;
     state.ClickedDate = state.CalendarDates[std::size_t(index)];
-    Refresh("Calendar");
+    Refresh(RefreshReason::Calendar);
 }
 
 void MainWindow::quickDateClicked(int element) {
     if (CurrentMode() == Mode::Reminders) return;
     state.ClickedDate = state.CalendarDates[std::size_t(element)];
-    Refresh("Calendar");
+    Refresh(RefreshReason::Calendar);
 }
 
 void MainWindow::calendarButtonPressed(const std::string& name) {
@@ -99,8 +99,8 @@ void MainWindow::calendarButtonPressed(const std::string& name) {
     state.CalButtonForward = button.forward ? kTrue : kFalse;
     state.CalButtonMonth = button.month ? kTrue : kFalse;
     state.ClickedDate = state.CalendarDates[std::size_t(button.element)];
-    Refresh("Calendar");
-    Control& timer = c("TimerButton");
+    Refresh(RefreshReason::Calendar);
+    Control& timer = *ui.TimerButton;
     timer.interval = state.ButtonRepeatInterval;
     timer.enabled = true;
 }
@@ -109,12 +109,12 @@ void MainWindow::TimerButton_Timer() {
     if (state.CalButtonUp) return;
     const int element = RepeatElement(state.CalButtonForward != 0, state.CalButtonMonth != 0);
     state.ClickedDate = state.CalendarDates[std::size_t(element)];
-    Refresh("Calendar");
+    Refresh(RefreshReason::Calendar);
 }
 
 void MainWindow::calendarButtonReleased(const std::string& name) {
     state.CalButtonUp = kTrue;
-    c("TimerButton").enabled = false;
+    ui.TimerButton->enabled = false;
     c(name).picture = FindCalendarButton(name)->raisedPicture;
 }
 

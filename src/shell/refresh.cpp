@@ -1,4 +1,6 @@
 // The one display refresh: by reason and by the ticked mode, a fixed series of steps.
+#include <array>
+#include <initializer_list>
 #include <map>
 
 #include "shell/main_window.h"
@@ -6,70 +8,89 @@
 namespace qh {
 namespace {
 
-// The steps of each reason per mode, in the order Homework, Study Sessions, Tasks,
-// Events, Reminders. R returns to the shown date, M forces the month to be new, Y selects
-// today, C builds the calendar, P lays out the grid, L builds the list, G refills the
-// grade list, T works out the study time for the selected date.
-const std::map<std::string, std::array<const char*, 5>>& refreshTable() {
-    static const std::map<std::string, std::array<const char*, 5>> table{
-        {"Mode Change", {"PRCLG", "PRCLG", "PRCL", "PRCL", "PMYLCT"}},
-        {"ViewChange", {"RCPL", "RCPL", "RCPL", "RCPL", "RPLCT"}},
-        {"Calendar", {"CPL", "CPL", "CPL", "CPL", "MPLCT"}},
-        {"StartDayofWeek", {"RC", "RC", "RC", "RC", "RC"}},
-        {"NewRecord", {"RCPLG", "RCPLG", "RCPL", "RCPL", "RPLCT"}},
-        {"NewTerm", {"RCPLG", "RCPLG", "", "", ""}},
-        {"Resize", {"PL", "PL", "PL", "PL", "PL"}},
-    };
+using S = RefreshStep;
+
+// The steps of one reason in one mode, in order; at most six.
+struct StepList {
+    std::array<RefreshStep, 6> steps{};
+    std::size_t count = 0;
+    constexpr StepList() = default;
+    constexpr StepList(std::initializer_list<RefreshStep> list) {
+        for (RefreshStep step : list) steps[count++] = step;
+    }
+};
+
+// Each reason's steps per mode, in the order Homework, Study Sessions, Tasks, Events,
+// Reminders. The Reminders list is of the selected day, so it goes to today where the
+// others return to the shown date, and it works out the study time after the list.
+using ReasonSteps = std::array<StepList, kModeCount>;
+constexpr std::array<ReasonSteps, kRefreshReasonCount> kRefreshSteps = [] {
+    const StepList modeChangeLists{S::LayoutGrid, S::ReturnToShownDate, S::BuildCalendar, S::BuildList};
+    const StepList modeChangeGrades{S::LayoutGrid,   S::ReturnToShownDate, S::BuildCalendar, S::BuildList,
+                                    S::FillGradeList};
+    const StepList view{S::ReturnToShownDate, S::BuildCalendar, S::LayoutGrid, S::BuildList};
+    const StepList reminders{S::ReturnToShownDate, S::LayoutGrid, S::BuildList, S::BuildCalendar,
+                             S::WorkOutStudyTime};
+    const StepList calendar{S::BuildCalendar, S::LayoutGrid, S::BuildList};
+    const StepList startDay{S::ReturnToShownDate, S::BuildCalendar};
+    const StepList newRecordGrades{S::ReturnToShownDate, S::BuildCalendar, S::LayoutGrid, S::BuildList,
+                                   S::FillGradeList};
+    const StepList resize{S::LayoutGrid, S::BuildList};
+    std::array<ReasonSteps, kRefreshReasonCount> table{};
+    table[std::size_t(RefreshReason::ModeChange)] = {
+        modeChangeGrades, modeChangeGrades, modeChangeLists, modeChangeLists,
+        StepList{S::LayoutGrid, S::NewMonth, S::SelectToday, S::BuildList, S::BuildCalendar, S::WorkOutStudyTime}};
+    table[std::size_t(RefreshReason::ViewChange)] = {view, view, view, view, reminders};
+    table[std::size_t(RefreshReason::Calendar)] = {
+        calendar, calendar, calendar, calendar,
+        StepList{S::NewMonth, S::LayoutGrid, S::BuildList, S::BuildCalendar, S::WorkOutStudyTime}};
+    table[std::size_t(RefreshReason::StartDayOfWeek)] = {startDay, startDay, startDay, startDay, startDay};
+    table[std::size_t(RefreshReason::NewRecord)] = {newRecordGrades, newRecordGrades, view, view, reminders};
+    // A new term changes only what the term's classes show.
+    table[std::size_t(RefreshReason::NewTerm)] = {newRecordGrades, newRecordGrades, {}, {}, {}};
+    table[std::size_t(RefreshReason::Resize)] = {resize, resize, resize, resize, resize};
     return table;
-}
+}();
 
 }  // namespace
 
-Mode MainWindow::CurrentMode() const {
-    if (c("MenuHomework").checked) return Mode::Homework;
-    if (c("MenuStudySessions").checked) return Mode::StudySessions;
-    if (c("MenuTasks").checked) return Mode::Tasks;
-    if (c("MenuEvents").checked) return Mode::Events;
-    if (c("MenuReminders").checked) return Mode::Reminders;
-    return Mode::None;
-}
+Mode MainWindow::CurrentMode() const { return state.CurrentMode; }
 
-void MainWindow::Refresh(const std::string& reason) {
-    state.RefreshReason = reason;
+void MainWindow::Refresh(RefreshReason reason) {
+    state.Refreshing = reason;
     RefreshDisplay();
 }
 
 void MainWindow::RefreshDisplay() {
     lastRefreshSteps_.clear();
+    lastRefreshReason_ = state.Refreshing;
     const Mode mode = CurrentMode();
-    const auto& table = refreshTable();
-    const auto row = table.find(state.RefreshReason);
-    if (mode != Mode::None && row != table.end()) {
-        const std::string steps = row->second[std::size_t(int(mode) - 1)];
-        for (char step : steps) {
-            lastRefreshSteps_ += step;
+    if (mode != Mode::None) {
+        const StepList& list = kRefreshSteps[std::size_t(state.Refreshing)][std::size_t(mode) - 1];
+        for (std::size_t i = 0; i < list.count; ++i) {
+            const RefreshStep step = list.steps[i];
+            lastRefreshSteps_.push_back(step);
             switch (step) {
-                case 'R':
+                case S::ReturnToShownDate:
                     state.ClickedDate = state.DisplayedDate;
                     state.DisplayedMonth = 13;
                     break;
-                case 'M': state.DisplayedMonth = 13; break;
-                case 'Y': state.ClickedDate = platform.clock.today(); break;
-                case 'C':
+                case S::NewMonth: state.DisplayedMonth = 13; break;
+                case S::SelectToday: state.ClickedDate = platform.clock.today(); break;
+                case S::BuildCalendar:
                     BuildCalendar();
                     // The calendar shows before a long list is built; no click gets in
                     // between, the refresh is one piece of work.
                     platform.windowing.paintPending();
                     break;
-                case 'P': LayoutGrid(mode); break;
-                case 'L': BuildList(mode); break;
-                case 'G': UpdateGradeList(); break;
-                case 'T': UpdateStudyTimeToday(state.ClickedDate); break;
-                default: break;
+                case S::LayoutGrid: LayoutGrid(mode); break;
+                case S::BuildList: BuildList(mode); break;
+                case S::FillGradeList: UpdateGradeList(); break;
+                case S::WorkOutStudyTime: UpdateStudyTimeToday(state.ClickedDate); break;
             }
         }
     }
-    state.RefreshReason = "None";
+    state.Refreshing = RefreshReason::None;
 }
 
 void MainWindow::TintViewPanel() {
@@ -79,8 +100,8 @@ void MainWindow::TintViewPanel() {
         {"Other Events", &MainWindowColors::TintGreen}, {"Homework", &MainWindowColors::TintPink},
         {"Tasks", &MainWindowColors::TintTan},      {"Events", &MainWindowColors::TintGreen},
     };
-    const auto tint = tints.find(c("ComboList").text);
-    if (tint != tints.end()) c("PictureBoxViewMenus").backColor = colorFromText(state.Colors.*(tint->second));
+    const auto tint = tints.find(ui.ComboList->text);
+    if (tint != tints.end()) ui.PictureBoxViewMenus->backColor = colorFromText(state.Colors.*(tint->second));
 }
 
 }  // namespace qh

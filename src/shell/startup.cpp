@@ -47,8 +47,8 @@ void MainWindow::Form_Load() {
         for (const char* control : run.controls) c(control).helpContextId = number++;
     }
 
-    c("TimerButton").enabled = false;
-    c("Timer1").enabled = false;
+    ui.TimerButton->enabled = false;
+    ui.Timer1->enabled = false;
     state.StopwatchRun = state.StopwatchTotal = 0;
     state.StopwatchStart = Moment{};
     store.TermsChanged = store.ClassesChanged = store.AssignmentsChanged = store.NotesChanged =
@@ -123,7 +123,7 @@ void MainWindow::Form_Load() {
     ApplyStartDayOfWeek();
     SelectTerm(preferences.ActiveTerm);
     SetHomeworkMode();
-    c("TimerTip").enabled = true;
+    ui.TimerTip->enabled = true;
     LoadDesktopReminderSettings();
 }
 
@@ -137,8 +137,8 @@ void RemoveProcessFile(Platform& platform) {
 }
 
 void MainWindow::Form_Unload() {
-    c("Timer1").enabled = false;
-    c("TimerButton").enabled = false;
+    ui.Timer1->enabled = false;
+    ui.TimerButton->enabled = false;
     // Closing never stops: a failure of any of these steps passes over the rest of them.
     try {
         const std::string pidFile = pidFilePath();

@@ -6,18 +6,18 @@
 namespace qh {
 
 void MainWindow::ButtonStart_Click() {
-    Control& start = c("ButtonStart");
+    Control& start = *ui.ButtonStart;
     if (start.caption == "Start") {
         start.caption = "Pause";
-        c("ButtonReset").enabled = false;
-        c("LabelTime").foreColor = kBlack;
-        c("Timer1").enabled = true;
+        ui.ButtonReset->enabled = false;
+        ui.LabelTime->foreColor = kBlack;
+        ui.Timer1->enabled = true;
         state.StopwatchStart = platform.clock.now();
     } else {
         start.caption = "Start";
-        c("ButtonReset").enabled = true;
-        c("LabelTime").foreColor = rgb(160, 160, 160);
-        c("Timer1").enabled = false;
+        ui.ButtonReset->enabled = true;
+        ui.LabelTime->foreColor = rgb(160, 160, 160);
+        ui.Timer1->enabled = false;
         state.StopwatchTotal += double(platform.clock.now().secondsSince(state.StopwatchStart));
     }
     focusedControl = "picGrid";
@@ -48,7 +48,7 @@ void MainWindow::UpdateStopwatchLabel() {
         shown = hours + ":" + minutes + ":" + twoDigits(state.StopwatchSeconds);
     else
         shown = hours + (state.StopwatchSeconds % 2 == 0 ? ":" : " ") + minutes;
-    c("LabelTime").caption = shown;
+    ui.LabelTime->caption = shown;
 }
 
 }  // namespace qh

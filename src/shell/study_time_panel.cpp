@@ -10,8 +10,8 @@ namespace qh {
 void MainWindow::UpdateStudyTimeToday(Date date) {
     const StudyAdvice advice = AdviseStudy(GatherStudyLoad(store), date);
     const long long m = advice.minimum, s = advice.suggested;
-    Control& minimum = c("TextBoxMinimum");
-    Control& suggested = c("TextBoxSuggested");
+    Control& minimum = *ui.TextBoxMinimum;
+    Control& suggested = *ui.TextBoxSuggested;
     minimum.text = TimeForm(m);
     suggested.text = TimeForm(s >= m ? s : m);
     // The pink box is the one that rules the day.

@@ -32,20 +32,20 @@ void MainWindow::SelectTerm(std::string termName) {
     const bool noTerm = store.CurrentTermName.empty() || store.CurrentTermName == kDeletedRecord;
     if (!noTerm) files->LoadAssignments();
     if (noTerm) {
-        c("LabelTerm").caption = "No Term Selected";
-        c("LabelDaysLeft").caption.clear();
+        ui.LabelTerm->caption = "No Term Selected";
+        ui.LabelDaysLeft->caption.clear();
     } else {
-        c("LabelTerm").caption = store.CurrentTermName;
+        ui.LabelTerm->caption = store.CurrentTermName;
         const long long left = static_cast<long long>(store.CurrentTermEnd) - platform.clock.today();
-        c("LabelDaysLeft").caption = left == 1  ? "1 Day Left in Term"
+        ui.LabelDaysLeft->caption = left == 1  ? "1 Day Left in Term"
                                      : left > 1 ? std::to_string(left) + " Days Left in Term"
                                                 : "0 Days Left in Term";
     }
-    Refresh("NewTerm");
+    Refresh(RefreshReason::NewTerm);
 }
 
 void MainWindow::PaintStatusBar() {
-    Canvas& bar = *c("picStatusBar").canvas;
+    Canvas& bar = *ui.picStatusBar->canvas;
     bar.clear(kButtonFace);
     const int w = bar.scaleWidth(), h = bar.scaleHeight();
     const Color shadow = rgb(160, 160, 160);
@@ -65,7 +65,7 @@ void MainWindow::PaintStatusBar() {
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
     bar.printText(w - bar.textWidth(right) - 150, 90, right);
-    c("picStatusBar").accessibleName = text + ", " + right;
+    ui.picStatusBar->accessibleName = text + ", " + right;
 }
 
 }  // namespace qh

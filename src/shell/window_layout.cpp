@@ -5,7 +5,7 @@
 namespace qh {
 
 void MainWindow::Form_Resize() {
-    if (windowState != WindowState::Minimized) Refresh("Resize");
+    if (windowState != WindowState::Minimized) Refresh(RefreshReason::Resize);
 }
 
 }  // namespace qh

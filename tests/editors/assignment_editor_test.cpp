@@ -168,7 +168,6 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
         EXPECT_EQ(editor.dataFile("Notes.txt"), c.notes);
         EXPECT_EQ(editor.dataFile("StudySessions.txt"), c.sessions);
         EXPECT_EQ(editor.recordWrites(), c.writes);
-        EXPECT_EQ(editor.window->state.RefreshReason, "None");
         // The columns hold what a fresh load of the files gives.
         RecordStore reloaded = editor.store;
         reloaded.clearTermBoundColumns();
@@ -284,7 +283,7 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
         SCOPED_TRACE(c.name);
         Editor editor;
         editor.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
-        editor.window->state.RefreshReason = "untouched";
+        editor.window->state.Refreshing = RefreshReason::Resize;  // no refresh puts it back to None
         bool stayedOpen = false;
         std::string focus;
         editor.use([&](FrmAssignment& w) {
@@ -304,7 +303,7 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
             EXPECT_EQ(focus, c.focus);
         }
         EXPECT_TRUE(editor.recordWrites().empty());
-        EXPECT_EQ(editor.window->state.RefreshReason, "untouched");
+        EXPECT_EQ(editor.window->state.Refreshing, RefreshReason::Resize);
         EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);
     }
     // A close at the program's end is let through.

@@ -102,7 +102,7 @@ class GridWindowTest : public ::testing::Test {
 protected:
     GridWindowTest() : window(store, fake.platform) {
         window.colors->BuildColorValues();
-        window.c("MenuHomework").checked = true;
+        window.state.CurrentMode = Mode::Homework;
     }
     RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.c("picGrid").canvas); }
 

@@ -102,8 +102,7 @@ public:
         window.colors->BuildColorValues();
         window.colors->BuildColorNames();
         window.state.ClickedDate = window.state.DisplayedDate = fake.clock.today();
-        const char* menus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
-        for (int i = 0; i < 5; ++i) window.c(menus[i]).checked = int(mode) == i + 1;
+        window.state.CurrentMode = mode;
         const Int16 sortColumns[] = {7, 6, 5, 3, 5};
         window.state.SortColumn = sortColumns[int(mode) - 1];
         window.state.SortDirection = 1;

@@ -16,7 +16,7 @@ protected:
     Ymd clicked() const { return ymdOf(window->state.ClickedDate); }
     void show(Ymd date) {
         window->state.ClickedDate = window->state.DisplayedDate = dateFromYmd(date.year, date.month, date.day);
-        window->Refresh("Calendar");
+        window->Refresh(RefreshReason::Calendar);
     }
 };
 
@@ -129,10 +129,10 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     EXPECT_EQ(headers(), "SMTWTFS/16");
     window->click("LabelCalDay(2)");  // Tuesday: nothing
     window->click("LabelCalDay(0)");  // the current start day: nothing
-    EXPECT_EQ(window->lastRefreshSteps(), "PRCLG");  // still the load's
+    EXPECT_EQ(window->lastRefreshReason(), RefreshReason::ModeChange);  // still the load's
     window->click("LabelCalDay(1)");
     EXPECT_EQ(headers(), "MTWTFSS/56");
-    EXPECT_EQ(window->lastRefreshSteps(), "RC");
+    EXPECT_EQ(window->lastRefreshReason(), RefreshReason::StartDayOfWeek);
     window->click("MenuStartSat");
     EXPECT_EQ(headers(), "SSMTWTF/12");
 
@@ -174,7 +174,7 @@ TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSa
     main.store.AssignmentDones.append("False");
     main.store.AssignmentReminders.append("None");
     window->state.DisplayedMonth = 13;  // the marks are made again when the month is built anew
-    window->Refresh("Calendar");
+    window->Refresh(RefreshReason::Calendar);
     const Date first = FirstCellDate(2026, 11, window->state.StartDayOfWeek);
     const auto nameOf = [&](int day) {
         return window->c("LabelCalDate", int(dateFromYmd(2026, 11, day) - first)).accessibleName;

@@ -5,48 +5,88 @@
 namespace qh {
 namespace {
 
-const char* const kModeMenus[] = {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"};
-
-// Steps by letter: R back to the shown date, M new month, Y today, C calendar, P grid
-// layout, L list, G grade list, T study time. A few reasons whose steps differ by mode,
-// and names that are no reason (the case counts).
-TEST(RefreshDisplay, RunsEachReasonsStepsForTheTickedMode) {
-    const struct {
-        const char* reason;
-        std::array<const char*, 5> steps;  // in the order of kModeMenus
-    } rows[] = {
-        {"Mode Change", {"PRCLG", "PRCLG", "PRCL", "PRCL", "PMYLCT"}},
-        {"ViewChange", {"RCPL", "RCPL", "RCPL", "RCPL", "RPLCT"}},
-        {"Calendar", {"CPL", "CPL", "CPL", "CPL", "MPLCT"}},
-        {"NewRecord", {"RCPLG", "RCPLG", "RCPL", "RCPL", "RPLCT"}},
-        {"NewTerm", {"RCPLG", "RCPLG", "", "", ""}},
-        {"StartDayOfWeek", {"", "", "", "", ""}},
-        {"Anything", {"", "", "", "", ""}},
-    };
+class RefreshDisplay : public ::testing::Test {
+protected:
     LoadedMainWindow main;
-    MainWindow& window = main.load();
-    for (int mode = 4; mode >= 0; --mode) {
-        window.click(kModeMenus[mode]);
-        for (const auto& row : rows) {
-            window.Refresh(row.reason);
-            EXPECT_EQ(window.lastRefreshSteps(), row.steps[std::size_t(mode)]) << row.reason << " in " << kModeMenus[mode];
-            EXPECT_EQ(window.state.RefreshReason, "None");
-        }
+    // Fall 2026 with one finished assignment due on 10 November and one unfinished on the 12th;
+    // today is 21 November.
+    MainWindow& load() {
+        main.putDataFile("Terms.txt", termRecord(1, "Fall 2026", "2026/08/20", "2026/12/20"));
+        main.putDataFile("Classes.txt", classRecord(1, 1, "Algebra"));
+        main.putDataFile("Assignments.txt", assignmentRecord(1, 1, "2026/11/10", "Finished", true) +
+                                                assignmentRecord(2, 1, "2026/11/12", "Unfinished", false));
+        return main.load();
     }
-    // With no mode ticked nothing runs, and the reason is still reset.
-    window.c("MenuHomework").checked = false;
-    window.Refresh("Mode Change");
-    EXPECT_EQ(window.lastRefreshSteps(), "");
-    EXPECT_EQ(window.state.RefreshReason, "None");
+    // The days of the month calendar that carry a mark.
+    std::vector<int> markedDays() const {
+        std::vector<int> days;
+        for (std::size_t i = 0; i < 42; ++i)
+            if (main.window->state.CellMarked[i]) days.push_back(ymdOf(main.window->state.CalendarDates[i]).day);
+        return days;
+    }
+    static bool ran(const MainWindow& window, RefreshStep step) {
+        const auto& steps = window.lastRefreshSteps();
+        return std::find(steps.begin(), steps.end(), step) != steps.end();
+    }
+};
+
+// A change of view builds the month anew before it is painted, so the marks are those of
+// the list now chosen and none of the last choice stays behind.
+TEST_F(RefreshDisplay, TheMarkedDaysFollowEachChoiceOfList) {
+    MainWindow& window = load();
+    EXPECT_EQ(markedDays(), (std::vector<int>{10, 12}));
+    window.select("ComboList", "Done");
+    EXPECT_EQ(markedDays(), (std::vector<int>{10}));
+    window.select("ComboList", "Not Done");
+    EXPECT_EQ(markedDays(), (std::vector<int>{12}));
+    EXPECT_EQ(window.state.Refreshing, RefreshReason::None);
 }
 
-TEST(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderWay) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
+// Today's Reminders always stands on today, and its calendar marks the days of the
+// reminders the list has just gathered; the other modes keep the selected date.
+TEST_F(RefreshDisplay, RemindersGoToTodayAndTheOtherModesKeepTheSelectedDate) {
+    MainWindow& window = load();
+    window.click("LabelCalDate(14)");
+    const Date selected = window.state.ClickedDate;
+    ASSERT_NE(selected, main.fake.clock.today());
+    window.click("MenuTasks");
+    EXPECT_EQ(window.state.ClickedDate, selected);
+    window.click("MenuReminders");
+    EXPECT_EQ(window.state.ClickedDate, main.fake.clock.today());
+    EXPECT_EQ(window.c("LabelTop").caption, "Reminders for Saturday, November 21, 2026");
+    window.click("MenuHomework");
+    EXPECT_EQ(window.state.ClickedDate, main.fake.clock.today());
+    EXPECT_EQ(markedDays(), (std::vector<int>{10, 12}));
+}
+
+// A resize lays the list out again without touching the calendar; a new term is nothing
+// to the task and event lists; with no mode ticked nothing runs, and no refresh stays
+// under way after any of them.
+TEST_F(RefreshDisplay, EachReasonDoesOnlyTheWorkItNeeds) {
+    MainWindow& window = load();
+    window.Refresh(RefreshReason::Resize);
+    EXPECT_TRUE(ran(window, RefreshStep::BuildList));
+    EXPECT_FALSE(ran(window, RefreshStep::BuildCalendar));
+    window.Refresh(RefreshReason::NewTerm);
+    EXPECT_TRUE(ran(window, RefreshStep::FillGradeList));
+    window.click("MenuTasks");
+    window.Refresh(RefreshReason::NewTerm);
+    EXPECT_TRUE(window.lastRefreshSteps().empty());
+    window.Refresh(RefreshReason::StartDayOfWeek);
+    EXPECT_TRUE(ran(window, RefreshStep::BuildCalendar));
+    EXPECT_FALSE(ran(window, RefreshStep::BuildList));
+    window.state.CurrentMode = Mode::None;
+    window.Refresh(RefreshReason::ModeChange);
+    EXPECT_TRUE(window.lastRefreshSteps().empty());
+    EXPECT_EQ(window.state.Refreshing, RefreshReason::None);
+}
+
+TEST_F(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderWay) {
+    MainWindow& window = load();
     window.click("LabelCalDate(20)");
     const Date selected = window.state.ClickedDate;
     window.select("ComboDateRange", "Day");  // keeps the selected date and month
-    EXPECT_EQ(window.lastRefreshSteps(), "RCPL");
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ViewChange);
     EXPECT_EQ(window.state.ClickedDate, selected);
     EXPECT_EQ(window.state.DisplayedDate, selected);
     // The list choice tints the view panel.
@@ -54,27 +94,27 @@ TEST(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderW
         window.select("ComboList", list);
         EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, tint) << list;
     }
-    window.Refresh("Resize");
+    window.Refresh(RefreshReason::Resize);
     window.state.SuppressComboEvents = kTrue;
     window.select("ComboList", "Not Done");
-    EXPECT_EQ(window.lastRefreshSteps(), "PL");  // still the resize
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Resize);
     EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE2F7E1u);
     window.state.SuppressComboEvents = kFalse;
-    window.state.RefreshReason = "Calendar";  // a refresh under way
+    window.state.Refreshing = RefreshReason::Calendar;  // a refresh under way
     window.select("ComboDateRange", "Term");
-    EXPECT_EQ(window.state.RefreshReason, "Calendar");
+    EXPECT_EQ(window.state.Refreshing, RefreshReason::Calendar);
 }
 
 TEST(MainWindow, AMinimisedWindowRaisesNoRefreshAndTheScrollBarHandsOnItsFocus) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     window.windowState = WindowState::Minimized;
-    window.Refresh("Calendar");
+    window.Refresh(RefreshReason::Calendar);
     window.Form_Resize();
-    EXPECT_EQ(window.lastRefreshSteps(), "CPL");
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Calendar);
     window.windowState = WindowState::Normal;
     window.Form_Resize();
-    EXPECT_EQ(window.lastRefreshSteps(), "PL");
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Resize);
 
     window.focusedControl = "VSGridScroll";
     window.fire("VSGridScroll", FormEvent::GotFocus);

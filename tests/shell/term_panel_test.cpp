@@ -33,7 +33,7 @@ TEST_F(TermPanel, WithoutAPreferenceTheNewestLiveTermOpensAndSelectingATermReads
     window.SelectTerm("Fall 2026");
     ASSERT_EQ(main.store.AssignmentDescriptions.count(), 1);
     EXPECT_EQ(main.store.AssignmentDescriptions(1), "Fall work");
-    EXPECT_EQ(window.lastRefreshSteps(), "RCPLG");
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::NewTerm);
 
     // Naming the tombstone selects it and reads nothing.
     window.SelectTerm("DELETED RECORD");

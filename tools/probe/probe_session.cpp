@@ -13,12 +13,12 @@
 namespace qh {
 namespace {
 
-const char* menuOfMode(const std::string& mode) {
-    if (mode == "homework") return "MenuHomework";
-    if (mode == "sessions") return "MenuStudySessions";
-    if (mode == "tasks") return "MenuTasks";
-    if (mode == "events") return "MenuEvents";
-    if (mode == "reminders") return "MenuReminders";
+const ControlRef* menuOfMode(const MainWindowControls& ui, const std::string& mode) {
+    if (mode == "homework") return &ui.MenuHomework;
+    if (mode == "sessions") return &ui.MenuStudySessions;
+    if (mode == "tasks") return &ui.MenuTasks;
+    if (mode == "events") return &ui.MenuEvents;
+    if (mode == "reminders") return &ui.MenuReminders;
     return nullptr;
 }
 
@@ -96,7 +96,7 @@ void ProbeSession::start() {
     window_->Form_Load();
     windowing_.show(*window_);
     // The probe's window is painted at once: what waits for the first paint runs now.
-    if (window_->c("TimerDesktopReminders").enabled) window_->tick("TimerDesktopReminders");
+    if (window_->ui.TimerDesktopReminders->enabled) window_->tick(window_->ui.TimerDesktopReminders.key());
 }
 
 Form& ProbeSession::frontWindow() {
@@ -202,22 +202,22 @@ bool ProbeSession::action(const std::string& line) {
     if (!windowing_.modalStack.empty()) return false;  // the main window's verbs wait for it
 
     if (verb == "mode") {
-        const char* menu = menuOfMode(restOf(words));
+        const ControlRef* menu = menuOfMode(w.ui, restOf(words));
         if (!menu) return false;
-        w.click(menu);
+        w.click(menu->key());
     } else if (verb == "list") {
-        w.select("ComboList", restOf(words));
+        w.select(w.ui.ComboList.key(), restOf(words));
     } else if (verb == "range") {
-        w.select("ComboDateRange", restOf(words));
+        w.select(w.ui.ComboDateRange.key(), restOf(words));
     } else if (verb == "cell") {
         int index = -1;
         words >> index;
         if (index < 0 || index > 41) return false;
-        w.click("LabelCalDate(" + std::to_string(index) + ")");
+        w.click(w.ui.LabelCalDate.key(index));
     } else if (verb == "today") {
-        w.click("LabelToday");
+        w.click(w.ui.LabelToday.key());
     } else if (verb == "tomorrow") {
-        w.click("LabelTomorrow");
+        w.click(w.ui.LabelTomorrow.key());
     } else if (verb == "arrow") {
         std::string which;
         int repeats = 0;
@@ -225,17 +225,19 @@ bool ProbeSession::action(const std::string& line) {
         const char* control = arrowControl(which);
         if (!control) return false;
         w.press(control);
-        for (int i = 0; i < repeats; ++i) w.tick("TimerButton");
+        for (int i = 0; i < repeats; ++i) w.tick(w.ui.TimerButton.key());
         w.release(control);
     } else if (verb == "day-header") {
         int index = -1;
         words >> index;
         if (index < 0 || index > 6) return false;
-        w.click("LabelCalDay(" + std::to_string(index) + ")");
+        w.click(w.ui.LabelCalDay.key(index));
     } else if (verb == "start-day") {
         const std::string day = restOf(words);
-        const char* menu = day == "Monday" ? "MenuStartMon" : day == "Saturday" ? "MenuStartSat" : "MenuStartSun";
-        w.click(menu);
+        const ControlRef& menu = day == "Monday"     ? w.ui.MenuStartMon
+                                 : day == "Saturday" ? w.ui.MenuStartSat
+                                                     : w.ui.MenuStartSun;
+        w.click(menu.key());
     } else if (verb == "grid-header") {
         int index = -1;
         words >> index;
@@ -244,18 +246,18 @@ bool ProbeSession::action(const std::string& line) {
     } else if (verb == "scroll") {
         int value = 1;
         words >> value;
-        w.scrollTo("VSGridScroll", value);
+        w.scrollTo(w.ui.VSGridScroll.key(), value);
     } else if (verb == "row") {
         int k = 0;
         words >> k;
         EventArgs at;
         at.x = 600;
         at.y = (w.state.HeaderHeight + (k - 1) * w.state.RowPitch + w.state.RowPitch / 2) * 15;
-        w.press("picGrid", at);
-        w.release("picGrid", at);
+        w.press(w.ui.picGrid.key(), at);
+        w.release(w.ui.picGrid.key(), at);
     } else if (verb == "stopwatch") {
         const std::string what = restOf(words);
-        w.click(what == "start" ? "ButtonStart" : what == "reset" ? "ButtonReset" : "LabelTime");
+        w.click((what == "start" ? w.ui.ButtonStart : what == "reset" ? w.ui.ButtonReset : w.ui.LabelTime).key());
     } else if (verb == "wait") {
         long long seconds = 0;
         words >> seconds;

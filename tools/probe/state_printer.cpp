@@ -25,9 +25,9 @@ const char* modeName(Mode mode) {
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
-void printCombo(const Form& window, const std::string& name, std::ostream& out) {
-    const Control& combo = window.c(name);
-    out << name << ": " << quoted(combo.text) << " of [";
+void printCombo(const ControlRef& ref, std::ostream& out) {
+    const Control& combo = *ref;
+    out << ref.key() << ": " << quoted(combo.text) << " of [";
     for (std::size_t i = 0; i < combo.items.size(); ++i) out << (i ? ", " : "") << combo.items[i];
     out << "]\n";
 }
@@ -67,7 +67,7 @@ void printGrid(const MainWindow& window, std::ostream& out) {
         out << " [" << (canvas ? canvas->textsIn(0, 0, 1 << 20, 1 << 20) : "") << " " << header->picture << "]";
     }
     out << "\n";
-    const RecordingCanvas* grid = recording(window.c("picGrid"));
+    const RecordingCanvas* grid = recording(*window.ui.picGrid);
     if (!grid) return;
     const MainWindowState& s = window.state;
     const int pitch = s.RowPitch * 15;
@@ -92,46 +92,47 @@ void printGrid(const MainWindow& window, std::ostream& out) {
 
 void PrintWindowState(const MainWindow& window, std::ostream& out) {
     out << "== " << modeName(window.CurrentMode()) << "\n";
-    out << "LabelTop: " << quoted(window.c("LabelTop").caption) << "\n";
-    for (const char* label : {"LabelTotalAssignments", "LabelFinishedAssignments", "LabelTimeRemaining"}) {
-        const Control& control = window.c(label);
-        if (control.visible) out << label << ": " << quoted(control.caption) << "\n";
+    out << "LabelTop: " << quoted(window.ui.LabelTop->caption) << "\n";
+    for (const ControlRef* label : {&window.ui.LabelTotalAssignments, &window.ui.LabelFinishedAssignments,
+                                    &window.ui.LabelTimeRemaining}) {
+        const Control& control = **label;
+        if (control.visible) out << label->key() << ": " << quoted(control.caption) << "\n";
     }
     for (const std::string& key : window.order()) {
         const Control& box = window.c(key);
         if (box.kind == ControlKind::TextBox && box.visible && box.container.empty())
             out << key << ": " << quoted(box.text) << " on " << colorText(box.backColor) << "\n";
     }
-    if (window.c("PictureBoxTerm").visible) {
-        out << "Term: " << quoted(window.c("LabelTerm").caption) << " " << quoted(window.c("LabelDaysLeft").caption)
+    if (window.ui.PictureBoxTerm->visible) {
+        out << "Term: " << quoted(window.ui.LabelTerm->caption) << " " << quoted(window.ui.LabelDaysLeft->caption)
             << "\n";
-        printCombo(window, "ComboGPA", out);
+        printCombo(window.ui.ComboGPA, out);
     }
-    if (window.c("PictureBoxStudyTime").visible) {
-        for (const char* box : {"TextBoxMinimum", "TextBoxSuggested"})
-            out << box << ": " << quoted(window.c(box).text) << " on " << colorText(window.c(box).backColor) << "\n";
+    if (window.ui.PictureBoxStudyTime->visible) {
+        for (const ControlRef* box : {&window.ui.TextBoxMinimum, &window.ui.TextBoxSuggested})
+            out << box->key() << ": " << quoted((*box)->text) << " on " << colorText((*box)->backColor) << "\n";
     }
-    if (window.c("PictureBoxStudySessions").visible)
-        out << "Stopwatch: " << quoted(window.c("LabelTime").caption) << " " << window.c("ButtonStart").caption << "\n";
-    printCombo(window, "ComboList", out);
-    printCombo(window, "ComboDateRange", out);
+    if (window.ui.PictureBoxStudySessions->visible)
+        out << "Stopwatch: " << quoted(window.ui.LabelTime->caption) << " " << window.ui.ButtonStart->caption << "\n";
+    printCombo(window.ui.ComboList, out);
+    printCombo(window.ui.ComboDateRange, out);
     out << "Status: " << quoted(window.state.StatusBarText) << "\n";
-    if (const RecordingCanvas* bar = recording(window.c("picStatusBar"))) {
+    if (const RecordingCanvas* bar = recording(*window.ui.picStatusBar)) {
         const auto texts = bar->texts();
         if (texts.size() > 1) out << "Clock: " << quoted(texts.back()) << "\n";
     }
 
-    out << "Calendar: " << window.c("LabelMonth").caption << "\n";
+    out << "Calendar: " << window.ui.LabelMonth->caption << "\n";
     out << "Days:";
     for (int i = 0; i < 7; ++i) {
-        const Control& day = window.c("LabelCalDay", i);
+        const Control& day = window.ui.LabelCalDay[i];
         out << " " << day.caption << (day.underline ? "_" : "");
     }
     out << "\n";
     for (int row = 0; row < 6; ++row) {
         for (int col = 0; col < 7; ++col) {
             const int i = row * 7 + col;
-            const Control& cell = window.c("LabelCalDate", i);
+            const Control& cell = window.ui.LabelCalDate[i];
             out << (col ? "  " : "") << std::setw(2) << cell.caption << (cell.bold ? "*" : " ")
                 << (window.state.CellIsToday[std::size_t(i)] ? "[" : " ") << colorText(cell.foreColor).substr(2)
                 << "/" << colorText(cell.backColor).substr(2);
