@@ -15,7 +15,7 @@
 #include "shell/desktop_open.h"
 #include "shell/help_topics.h"
 #include "shell/main_window.h"
-#include "shell/module1.h"
+#include "shell/planner_run.h"
 
 int main() {
     // Whatever the command line holds is not the planner's business.
@@ -39,10 +39,10 @@ int main() {
     // A failure the planner cannot go on from ends the run too: its .PID file goes first.
     app.setLastStep([&qt] { qh::RemoveProcessFile(qt.platform()); });
     try {
-        qh::Module1 module(qt.platform());
+        qh::PlannerRun run(qt.platform());
         bool running = false, pending = false;
         const auto closeMainWindow = [&] {
-            qh::MainWindow& main = *module.mainWindow();
+            qh::MainWindow& main = *run.mainWindow();
             if (!main.visible) return;  // already closing
             qt.platform().windowing.close(main, qh::UnloadMode::ProgramEnd);
             // Closed from inside a modal window's loop: the routine that opened it must
@@ -65,7 +65,7 @@ int main() {
             }
             pending = true;
         });
-        if (!module.Main()) return 0;
+        if (!run.start()) return 0;
         running = true;
         if (pending) QTimer::singleShot(0, &app, closeMainWindow);
         // The start-up benchmark (bench/startup.sh) times a run that ends as soon as the

@@ -51,7 +51,7 @@ DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
     form.on("TimerButton", FormEvent::Timer, [this](const EventArgs&) { tickRepeat(); });
     form.on("TimerCalendar", FormEvent::Timer, [this](const EventArgs&) {
         form_.c("TimerCalendar").enabled = false;
-        CalendarOpen = kFalse;
+        CalendarOpen = false;
     });
     form.on("picCalendar", FormEvent::LostFocus, [this](const EventArgs&) {
         if (visible()) CloseCalendar();
@@ -71,7 +71,7 @@ void DatePicker::keyPressed(int keyCode) {
         }
         // No click closed it, so none needs keeping from opening it again.
         form_.c("TimerCalendar").enabled = false;
-        CalendarOpen = kFalse;
+        CalendarOpen = false;
     } else if (const auto date = CalendarKeyTarget(cells_.CalendarDates, PickerDate, keyCode)) {
         PickerDate = *date;
         build();
@@ -79,7 +79,7 @@ void DatePicker::keyPressed(int keyCode) {
 }
 
 void DatePicker::returnFocus() {
-    const DateField& f = field(PickFirstField != 0);
+    const DateField& f = field(PickFirstField);
     form_.SetFocus(f.button.empty() ? f.textBox : f.button);
 }
 
@@ -87,22 +87,22 @@ bool DatePicker::visible() const { return form_.c("picCalendar").visible; }
 
 void DatePicker::fieldPressed(bool firstField) {
     if (CalendarOpen) return;
-    PickFirstField = firstField ? kTrue : kFalse;
+    PickFirstField = firstField;
     OpenCalendar();
 }
 
 void DatePicker::OpenCalendar() {
-    const DateField& f = field(PickFirstField != 0);
+    const DateField& f = field(PickFirstField);
     Control& calendar = form_.c("picCalendar");
     calendar.left = f.left;
     calendar.top = f.top;
-    PickerDate = owner_.pickerFieldDate(PickFirstField != 0);
+    PickerDate = owner_.pickerFieldDate(PickFirstField);
     build();
     calendar.visible = calendar.enabled = true;
     // Over everything, also over a frame the window brought to the front since.
     form_.bringToFront("picCalendar");
     form_.SetFocus("picCalendar");
-    CalendarOpen = kTrue;
+    CalendarOpen = true;
 }
 
 void DatePicker::CloseCalendar() {
@@ -134,7 +134,7 @@ void DatePicker::build() {
 void DatePicker::pick(Date date) {
     PickerDate = date;
     build();
-    const bool isFirst = PickFirstField != 0;
+    const bool isFirst = PickFirstField;
     form_.c(field(isFirst).textBox).text = platform_.locale.longDate(PickerDate);
     owner_.pickerWroteDate(isFirst, PickerDate);
     CloseCalendar();
@@ -143,9 +143,9 @@ void DatePicker::pick(Date date) {
 
 void DatePicker::arrowPressed(bool forward) {
     form_.c(forward ? "picCalMonthUp" : "picCalMonthDown").picture = forward ? "CalMonthRightDown" : "CalMonthLeftDown";
-    CalButtonUp = kFalse;
-    CalButtonForward = forward ? kTrue : kFalse;
-    CalButtonMonth = kTrue;
+    CalButtonUp = false;
+    CalButtonForward = forward;
+    CalButtonMonth = true;
     PickerDate = cells_.CalendarDates[forward ? kElementMonthOn : kElementMonthBack];
     build();
     Control& timer = form_.c("TimerButton");
@@ -155,12 +155,12 @@ void DatePicker::arrowPressed(bool forward) {
 
 void DatePicker::tickRepeat() {
     if (CalButtonUp) return;
-    PickerDate = cells_.CalendarDates[std::size_t(RepeatElement(CalButtonForward != 0, CalButtonMonth != 0))];
+    PickerDate = cells_.CalendarDates[std::size_t(RepeatElement(CalButtonForward, CalButtonMonth))];
     build();
 }
 
 void DatePicker::arrowReleased(bool forward) {
-    CalButtonUp = kTrue;
+    CalButtonUp = true;
     form_.c("TimerButton").enabled = false;
     form_.c(forward ? "picCalMonthUp" : "picCalMonthDown").picture = forward ? "CalMonthRightUp" : "CalMonthLeftUp";
 }

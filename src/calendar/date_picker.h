@@ -15,7 +15,6 @@
 #include <string>
 
 #include "calendar/month_cells.h"
-#include "common/int16.h"
 #include "platform/platform.h"
 
 namespace qh {
@@ -56,9 +55,9 @@ public:
 
     bool visible() const;
     Date PickerDate = 0;
-    Int16 CalendarOpen = kFalse;
-    Int16 PickFirstField = kTrue;
-    Int16 CalButtonUp = kFalse, CalButtonForward = kFalse, CalButtonMonth = kFalse;
+    bool CalendarOpen = false;
+    bool PickFirstField = true;
+    bool CalButtonUp = false, CalButtonForward = false, CalButtonMonth = false;
     const MonthCells& cells() const { return cells_; }
 
 private:

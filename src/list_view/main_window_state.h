@@ -32,7 +32,7 @@ struct MainWindowState {
     // The mode ticked in the menu; None until the first mode routine ran.
     Mode CurrentMode = Mode::None;
     RefreshReason Refreshing = RefreshReason::None;
-    Int16 SuppressComboEvents = kFalse;
+    bool SuppressComboEvents = false;
     Int16 SortColumn = 7;
     Int16 SortDirection = 1;
     Int16 RowPitch = 22;
@@ -50,7 +50,7 @@ struct MainWindowState {
     Int16 CalendarCellHeight = 225;
     Int16 ButtonRepeatInterval = 300;
     std::int32_t ProcessID = 0;
-    Int16 FirstModeSetup = kFalse;
+    bool FirstModeSetup = false;
     std::string StatusBarText;
     std::string ShowTipsAtStartup = "Yes";
     Int16 CurrentTip = 0;
@@ -66,7 +66,7 @@ struct MainWindowState {
     std::array<bool, 42> CellIsToday{};
     std::array<bool, 42> CellMarked{};
     std::array<Date, 50> CalendarDates{};
-    Int16 CalButtonUp = kFalse, CalButtonForward = kFalse, CalButtonMonth = kFalse;
+    bool CalButtonUp = false, CalButtonForward = false, CalButtonMonth = false;
 
     // The stopwatch: the moment of the last start and the seconds counted.
     Moment StopwatchStart;

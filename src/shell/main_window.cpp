@@ -41,11 +41,6 @@ void MainWindow::NewEvent() { actions->NewEvent(); }
 void MainWindow::EditEvent(int row) { actions->EditEvent(row); }
 void MainWindow::EditClassSchedule() { actions->EditClassSchedule(); }
 
-Color MainWindow::colorValue(const std::string& nameOrHexText) const {
-    if (nameOrHexText.size() > 1 && nameOrHexText[0] == '&') return colorFromText(nameOrHexText);
-    return colors->ColorValues(nameOrHexText);
-}
-
 DayMarks MainWindow::MarkEventDaysFor(Date firstCell) {
     EventDayMarks events = MarkEventDays(store, firstCell, ui.ComboList->text);
     return DayMarks{events.CellMarked, events.ColorMarkedBack};

@@ -97,7 +97,6 @@ public:
 
     // Month navigator.
     void BuildCalendar();
-    void PaintCalendarCells();
     void UpdateQuickDateButtons();
     void ApplyStartDayOfWeek();
     void MarkDays(Date firstCell);
@@ -169,9 +168,6 @@ public:
     void NotifyDesktopReminders();
     // The notice was chosen: the main window comes forward in Today's Reminders of today.
     void ShowRemindersFromDesktop();
-
-    // Colour of a colour name of the vocabulary, or of an "&H" text.
-    Color colorValue(const std::string& nameOrHexText) const;
 
 private:
     void buildControls();

@@ -152,7 +152,7 @@ void MainWindow::SetDefaultViewChoices() {
 
 void MainWindow::SaveViewChoices() {
     if (state.FirstModeSetup) {
-        state.FirstModeSetup = kFalse;
+        state.FirstModeSetup = false;
         return;
     }
     const Mode mode = CurrentMode();
@@ -180,7 +180,7 @@ void MainWindow::applyModeTable(Mode mode) {
         if (settings.mode == mode) found = &settings;
     const ModeSettings& m = *found;
 
-    state.SuppressComboEvents = kTrue;
+    state.SuppressComboEvents = true;
     SaveViewChoices();
 
     state.CurrentMode = mode;
@@ -240,7 +240,7 @@ void MainWindow::applyModeTable(Mode mode) {
 
     state.SortColumn = m.sortColumn;
     state.SortDirection = 1;
-    state.SuppressComboEvents = kFalse;
+    state.SuppressComboEvents = false;
 
     Refresh(RefreshReason::ModeChange);
     ui.picLock->visible = mode == Mode::Reminders;

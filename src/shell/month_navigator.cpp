@@ -45,16 +45,6 @@ std::string DayMarkName(Mode mode) {
     return "";
 }
 
-void MainWindow::PaintCalendarCells() {
-    MonthCells cells;
-    cells.CellCaptions = state.CellCaptions;
-    cells.CellForeColors = state.CellForeColors;
-    cells.CellBackColors = state.CellBackColors;
-    cells.CellBold = state.CellBold;
-    cells.CellIsToday = state.CellIsToday;
-    PaintMonthCells(*this, cells, ui.LabelMonth->caption);
-}
-
 void MainWindow::UpdateQuickDateButtons() {
     std::optional<Color> grey;
     if (CurrentMode() == Mode::Reminders) grey = colors->ColorValues("DarkGray");
@@ -95,9 +85,9 @@ void MainWindow::calendarButtonPressed(const std::string& name) {
     if (CurrentMode() == Mode::Reminders) return;
     const CalendarButton& button = *FindCalendarButton(name);
     c(name).picture = button.pressedPicture;
-    state.CalButtonUp = kFalse;
-    state.CalButtonForward = button.forward ? kTrue : kFalse;
-    state.CalButtonMonth = button.month ? kTrue : kFalse;
+    state.CalButtonUp = false;
+    state.CalButtonForward = button.forward;
+    state.CalButtonMonth = button.month;
     state.ClickedDate = state.CalendarDates[std::size_t(button.element)];
     Refresh(RefreshReason::Calendar);
     Control& timer = *ui.TimerButton;
@@ -107,13 +97,13 @@ void MainWindow::calendarButtonPressed(const std::string& name) {
 
 void MainWindow::TimerButton_Timer() {
     if (state.CalButtonUp) return;
-    const int element = RepeatElement(state.CalButtonForward != 0, state.CalButtonMonth != 0);
+    const int element = RepeatElement(state.CalButtonForward, state.CalButtonMonth);
     state.ClickedDate = state.CalendarDates[std::size_t(element)];
     Refresh(RefreshReason::Calendar);
 }
 
 void MainWindow::calendarButtonReleased(const std::string& name) {
-    state.CalButtonUp = kTrue;
+    state.CalButtonUp = true;
     ui.TimerButton->enabled = false;
     c(name).picture = FindCalendarButton(name)->raisedPicture;
 }

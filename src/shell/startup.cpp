@@ -103,7 +103,7 @@ void MainWindow::Form_Load() {
 
     editors->LoadAll();
 
-    state.FirstModeSetup = kTrue;
+    state.FirstModeSetup = true;
     SetDefaultViewChoices();
 
     WindowPlacement placement{int(windowState), left, top, width, height};

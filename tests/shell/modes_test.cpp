@@ -69,7 +69,7 @@ TEST(Modes, EachModeSetsItsWholeTableAndItsStatusBar) {
             std::ranges::sort(boxes);
             std::ranges::sort(expected);
             EXPECT_EQ(boxes, expected);
-            EXPECT_EQ(window.state.SuppressComboEvents, kFalse);
+            EXPECT_FALSE(window.state.SuppressComboEvents);
         }
     }
     main.fake.clock.advanceSeconds(60);  // the status bar's clock goes on

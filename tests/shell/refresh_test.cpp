@@ -95,11 +95,11 @@ TEST_F(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnde
         EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, tint) << list;
     }
     window.Refresh(RefreshReason::Resize);
-    window.state.SuppressComboEvents = kTrue;
+    window.state.SuppressComboEvents = true;
     window.select("ComboList", "Not Done");
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Resize);
     EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE2F7E1u);
-    window.state.SuppressComboEvents = kFalse;
+    window.state.SuppressComboEvents = false;
     window.state.Refreshing = RefreshReason::Calendar;  // a refresh under way
     window.select("ComboDateRange", "Term");
     EXPECT_EQ(window.state.Refreshing, RefreshReason::Calendar);

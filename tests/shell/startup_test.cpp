@@ -5,7 +5,7 @@
 #include "shell/main_window.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
-#include "shell/module1.h"
+#include "shell/planner_run.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -28,8 +28,8 @@ TEST(EntryRoutine, RefusesASecondCopyAndAStartWithoutTheDriveTouchingNothing) {
         SCOPED_TRACE(c.message);
         FakePlatform fake;
         c.setUp(fake);
-        Module1 module(fake.platform);
-        EXPECT_FALSE(module.Main());
+        PlannerRun run(fake.platform);
+        EXPECT_FALSE(run.start());
         ASSERT_EQ(fake.messages.shown.size(), 1u);
         EXPECT_EQ(fake.messages.shown[0].text, c.message);
         EXPECT_EQ(fake.messages.shown[0].title, "Quillhollow");
@@ -43,10 +43,10 @@ TEST(EntryRoutine, RefusesASecondCopyAndAStartWithoutTheDriveTouchingNothing) {
 
 TEST(EntryRoutine, ShowsTheSplashWhileTheMainWindowLoads) {
     FakePlatform fake;
-    Module1 module(fake.platform);
-    ASSERT_TRUE(module.Main());
+    PlannerRun run(fake.platform);
+    ASSERT_TRUE(run.start());
     EXPECT_EQ(fake.windowing.log, (std::vector<std::string>{"show frmSplash", "close frmSplash", "show frmMain"}));
-    EXPECT_TRUE(module.mainWindow()->visible);
+    EXPECT_TRUE(run.mainWindow()->visible);
 }
 
 TEST(MainWindowLoad, AFirstRunOnAnEmptyDriveMakesTheFoldersReadsTheFilesAndOpens) {

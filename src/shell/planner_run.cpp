@@ -1,14 +1,14 @@
-#include "shell/module1.h"
+#include "shell/planner_run.h"
 
 #include "shell/main_window.h"
 #include "shell/splash.h"
 
 namespace qh {
 
-Module1::Module1(Platform& platform) : platform_(platform) {}
-Module1::~Module1() = default;
+PlannerRun::PlannerRun(Platform& platform) : platform_(platform) {}
+PlannerRun::~PlannerRun() = default;
 
-bool Module1::Main() {
+bool PlannerRun::start() {
     if (platform_.processes.anotherInstanceRunning()) {
         platform_.messages.show("Quillhollow is already running.", "Quillhollow", MessageButtons::OK,
                                 MessageIcon::Information);

@@ -1,5 +1,5 @@
 #pragma once
-// The entry routine of the planner: refuses a second copy and a start without the drive
+// One run of the planner from its start: refuses a second copy and a start without the drive
 // platform, shows the splash while the main window loads, then shows the main window.
 #include <memory>
 
@@ -10,13 +10,13 @@ namespace qh {
 
 class MainWindow;
 
-class Module1 {
+class PlannerRun {
 public:
-    explicit Module1(Platform& platform);
-    ~Module1();
+    explicit PlannerRun(Platform& platform);
+    ~PlannerRun();
     // Returns true when the main window is on the screen and the event loop should run;
     // false when the run ends here (a message was shown).
-    bool Main();
+    bool start();
     MainWindow* mainWindow() { return main_.get(); }
     RecordStore& store() { return store_; }
 
