@@ -26,7 +26,7 @@ public:
     Form& ownerWindow() override { return owner; }
     Date clickedDate() const override { return dateFromYmd(2026, 11, 21); }
     std::string startDayOfWeek() const override { return "Sunday"; }
-    void refresh(const std::string&) override {}
+    void refresh(RefreshReason) override {}
     void selectTerm(const std::string&) override {}
     void highlightRow(int, bool) override {}
     Form owner{"frmMain"};
