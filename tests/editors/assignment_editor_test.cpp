@@ -260,8 +260,6 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
          },
          {"Add a Description to this Assignment."}, true, "TextBoxDescription"},
         {"NoChange", true, {}, [](FrmAssignment& w) { w.click("ButtonCancel"); }, {}, false, ""},
-        {"CloseBoxNoChange", true, {},
-         [](FrmAssignment& w) { EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox)); }, {}, false, ""},
         {"NewChangedYes", false, {MessageAnswer::Yes},
          [](FrmAssignment& w) {
              w.select("ComboTypeList", "Project");
@@ -307,9 +305,6 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
         EXPECT_EQ(editor.window->state.RefreshReason, "untouched");
         EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);
     }
-    // A close at the program's end is let through.
-    Editor editor;
-    EXPECT_TRUE(editor.window->editors->windows().front()->requestClose(UnloadMode::ProgramEnd));
 }
 
 // The session buttons and the Done box, on a new assignment.
