@@ -25,7 +25,7 @@ void BM_ShowClassSchedule(benchmark::State& state) {
     FrmCourseSchedule& schedule = d.window->editors->courseSchedule();
     const std::string termID = std::to_string(d.store.CurrentTermID);
     for (auto _ : state) {
-        schedule.EditMode = "Edit";
+        schedule.editMode = EditMode::Edit;
         LoadTermIntoSchedule(d.store, schedule, termID, d.fake.clock.today());
         schedule.showing();
         benchmark::DoNotOptimize(schedule.ComboBoxClassList->items.size());
@@ -37,7 +37,7 @@ BENCHMARK(BM_ShowClassSchedule)->Unit(benchmark::kMicrosecond);
 void BM_OpenPicker(benchmark::State& state) {
     Loaded& d = loaded();
     FrmCourseSchedule& schedule = d.window->editors->courseSchedule();
-    schedule.EditMode = "New";
+    schedule.editMode = EditMode::New;
     schedule.showing();
     for (auto _ : state) {
         schedule.tick("TimerCalendar");

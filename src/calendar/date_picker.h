@@ -25,7 +25,7 @@ public:
     virtual ~DatePickerOwner() = default;
     // The date in the field's variable, to open on.
     virtual Date pickerFieldDate(bool firstField) = 0;
-    // A date was picked: set ChangeFlag and the field's variable (the picker has written
+    // A date was picked: count it as a change and set the field's variable (the picker has written
     // the text box in the long date form), and whatever else the window does then.
     virtual void pickerWroteDate(bool firstField, Date date) = 0;
 };

@@ -18,16 +18,13 @@ std::string storedNote(const FrmAssignment& w) { return storedText(kNotesLayout,
 
 struct CurrentClassList {
     std::vector<std::string> names, ids;
-    Date termStart = 0, termEnd = 0;
 };
 
-// The live classes of the active term in the order of the class columns, and its dates.
+// The live classes of the active term in the order of the class columns.
 CurrentClassList BuildCurrentClassList(const RecordStore& s) {
     CurrentClassList list;
     for (int t = 1; t <= s.TermNames.count(); ++t) {
         if (s.TermNames(t) != s.CurrentTermName) continue;
-        list.termStart = parseDateText(repairDateSeparators(s.TermStarts(t))).value_or(0);
-        list.termEnd = parseDateText(repairDateSeparators(s.TermEnds(t))).value_or(0);
         const Int16 termID = int16OrZero(s.TermIDs(t));
         for (int i = 1; i <= s.ClassIDs.count(); ++i) {
             if (int16OrZero(s.ClassTermLinks(i)) != termID || s.ClassNames(i) == kDeletedRecord) continue;
@@ -41,8 +38,6 @@ CurrentClassList BuildCurrentClassList(const RecordStore& s) {
 void handClassList(FrmAssignment& window, const CurrentClassList& list, const RecordStore& s) {
     window.tempClassNameArray = list.names;
     window.tempAssignmentClassLinkArray = list.ids;
-    window.tempTermStartDate = list.termStart;
-    window.tempTermEndDate = list.termEnd;
     window.CurrentTermName = s.CurrentTermName;
     window.DocumentDirectory = s.DocumentDirectory;
 }
@@ -109,11 +104,12 @@ void HandOverStudySessions(RecordStore& s, FrmAssignment& w, int row) {
 }
 
 // Appends the window's sessions left after the existing ones were taken out, row 1 first,
-// as new records linked to `assignmentID`.
-void SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, const std::string& assignmentID) {
+// as new records linked to `assignmentID`. False when a write failed.
+bool SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, const std::string& assignmentID) {
     const auto columns = sessionColumns(s);
     const auto edits = editSessionColumns(s);
     for (TextColumn* column : edits) column->clear();
+    bool written = true;
     for (int i = 1; i <= w.tempStudySessionRecordNoArray.count(); ++i) {
         const std::array<std::string, 4> values{std::to_string(s.NextStudySessionRecord), assignmentID,
                                                 w.tempStudySessionLengthArray(i), w.tempStudySessionDateArray(i)};
@@ -121,24 +117,26 @@ void SaveAddedSessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, con
             columns[f]->append(values[f]);
             edits[f]->append(values[f]);
         }
-        static_cast<void>(files.SaveStudySession(0, i));
+        written &= files.SaveStudySession(0, i);
     }
+    return written;
 }
 
 // After an edit: the sessions the user deleted are written as deleted and leave the
-// columns; then the added ones are appended.
-void UpdateStudySessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, int row) {
+// columns; then the added ones are appended. False when a write failed.
+bool UpdateStudySessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, int row) {
     const auto kept = [&w](const std::string& recordNo) {
         for (const std::string& listed : w.tempStudySessionRecordNoArray)
             if (listed == recordNo) return true;
         return false;
     };
+    bool written = true;
     for (int r = s.EditStudySessionRecordNos.count(); r >= 1; --r) {
         const std::string recordNo = s.EditStudySessionRecordNos(r);
         if (kept(recordNo)) continue;
         s.EditStudySessionLinkIDs(r) = "-1";
         s.EditStudySessionLengths(r).clear();
-        static_cast<void>(files.SaveStudySession(int16OrZero(recordNo), r));
+        written &= files.SaveStudySession(int16OrZero(recordNo), r);
         for (int i = s.StudySessionRecordNos.count(); i >= 1; --i) {
             if (s.StudySessionRecordNos(i) != recordNo) continue;
             for (TextColumn* column : sessionColumns(s)) column->removeAt(i);
@@ -149,34 +147,32 @@ void UpdateStudySessions(RecordStore& s, RecordFiles& files, FrmAssignment& w, i
     for (int i = w.tempStudySessionRecordNoArray.count(); i >= 1; --i)
         if (int16OrZero(w.tempStudySessionRecordNoArray(i)) > 0)
             for (TextColumn* list : windowSessionLists(w)) list->removeAt(i);
-    SaveAddedSessions(s, files, w, s.AssignmentIDs(row));
+    written &= SaveAddedSessions(s, files, w, s.AssignmentIDs(row));
+    return written;
 }
 
 }  // namespace
 
-void RecordActions::NewAssignment() {
+bool RecordActions::NewAssignment() {
     // The editor windows exist once the main window has loaded them.
-    if (!windows_.loaded()) return;
+    if (!windows_.loaded()) return true;
     RecordStore& s = store_;
     const auto ask = [this](const char* question) {
         return platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) ==
                MessageAnswer::Yes;
     };
     if (s.CurrentTermName.empty()) {
-        if (ask("There is no Term selected. Do you want to set the active Term?")) EditClassSchedule();
-        return;
+        return !ask("There is no Term selected. Do you want to set the active Term?") || EditClassSchedule();
     }
     FrmAssignment& window = windows_.assignment();
-    window.FormSmall = kTrue;
-    window.EditMode = "New";
+    window.FormSmall = true;
+    window.editMode = EditMode::New;
     const CurrentClassList classes = BuildCurrentClassList(s);
-    if (classes.names.empty()) {
-        if (ask("This Term has no classes. Do you want to edit the Class Schedule?")) EditClassSchedule();
-        return;
-    }
+    if (classes.names.empty())
+        return !ask("This Term has no classes. Do you want to edit the Class Schedule?") || EditClassSchedule();
     handClassList(window, classes, s);
     platform_.windowing.showModal(window, &host_.ownerWindow());
-    if (window.CancelledFlag) return;
+    if (window.outcome() == EditorOutcome::Cancelled) return true;
 
     const std::string id = std::to_string(s.NextAssignmentRecord);
     s.AssignmentRecord = recordOf(window, id, id, "");
@@ -188,19 +184,21 @@ void RecordActions::NewAssignment() {
         s.NoteLinkIDs.append(id);
     }
     s.NoteRecord = {std::to_string(s.NextNoteRecord), id, notes};
-    if (!notes.empty()) static_cast<void>(files_.SaveNote(0));
-    if (!window.tempStudySessionRecordNoArray.empty()) SaveAddedSessions(s, files_, window, id);
-    static_cast<void>(files_.SaveAssignment(0));
+    bool written = true;
+    if (!notes.empty()) written &= files_.SaveNote(0);
+    if (!window.tempStudySessionRecordNoArray.empty()) written &= SaveAddedSessions(s, files_, window, id);
+    written &= files_.SaveAssignment(0);
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Assignment, s.AssignmentRecordNos.count());
+    return written;
 }
 
-void RecordActions::EditAssignment(int row) {
-    if (!windows_.loaded()) return;
+bool RecordActions::EditAssignment(int row) {
+    if (!windows_.loaded()) return true;
     RecordStore& s = store_;
     FrmAssignment& window = windows_.assignment();
-    window.FormSmall = kFalse;
-    window.EditMode = "Edit";
+    window.FormSmall = false;
+    window.editMode = EditMode::Edit;
     const CurrentClassList classes = BuildCurrentClassList(s);
     handClassList(window, classes, s);
     window.tempAssignmentClassName.clear();
@@ -227,7 +225,7 @@ void RecordActions::EditAssignment(int row) {
     HandOverStudySessions(s, window, row);
 
     platform_.windowing.showModal(window, &host_.ownerWindow());
-    if (window.CancelledFlag) return;
+    if (window.outcome() == EditorOutcome::Cancelled) return true;
 
     s.AssignmentRecord =
         recordOf(window, s.AssignmentRecordNos(row), s.AssignmentIDs(row), s.AssignmentClassLinks(row));
@@ -236,11 +234,12 @@ void RecordActions::EditAssignment(int row) {
     // The note: made, rewritten (changed or not), freed, or none at all.
     const std::string notes = storedNote(window);
     const int note = noteRowOf(s, row);
+    bool written = true;
     if (!notes.empty() && note == 0) {
         s.NoteRecordNos.append(std::to_string(s.NextNoteRecord));
         s.NoteLinkIDs.append(s.AssignmentIDs(row));
         s.NoteRecord = {std::to_string(s.NextNoteRecord), s.AssignmentIDs(row), notes};
-        static_cast<void>(files_.SaveNote(0));
+        written &= files_.SaveNote(0);
     } else if (note > 0) {
         s.NoteRowIndex = toInt16(note);
         const Int16 noteNumber = int16OrZero(s.NoteRecordNos(note));
@@ -249,13 +248,14 @@ void RecordActions::EditAssignment(int row) {
             s.NoteRecordNos.removeAt(note);
             s.NoteLinkIDs.removeAt(note);
         }
-        static_cast<void>(files_.SaveNote(noteNumber));
+        written &= files_.SaveNote(noteNumber);
     }
 
-    UpdateStudySessions(s, files_, window, row);
-    static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
+    written &= UpdateStudySessions(s, files_, window, row);
+    written &= files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Assignment, row);
+    return written;
 }
 
 }  // namespace qh

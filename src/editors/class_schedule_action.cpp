@@ -12,7 +12,7 @@
 
 namespace qh {
 
-void RecordActions::EditClassSchedule() {
+bool RecordActions::EditClassSchedule() {
     FrmSelectCourseSchedule& select = windows_.selectCourseSchedule();
     select.ComboTermList->clearItems();
     select.CheckBoxBasedOnTerm->checked = false;
@@ -38,10 +38,11 @@ void RecordActions::EditClassSchedule() {
     if (select.ComboTermList->items.empty()) select.ButtonEdit->enabled = select.ButtonActive->enabled = false;
 
     platform_.windowing.showModal(select, &host_.ownerWindow());
-    if (select.Cancelled) return;
-    if (select.MakeActive) {
+    if (select.outcome() == EditorOutcome::Cancelled) return true;
+    using TermChoice = FrmSelectCourseSchedule::TermChoice;
+    if (select.choice == TermChoice::MakeActive) {
         host_.selectTerm(select.ComboTermList->text);
-        return;
+        return true;
     }
 
     FrmCourseSchedule& schedule = windows_.courseSchedule();
@@ -52,56 +53,48 @@ void RecordActions::EditClassSchedule() {
         return select.tempTermIDArray[std::size_t(line)];
     };
     std::string termID;
-    if (select.NewCourse && !select.ComboTermList->items.empty() && select.CheckBoxBasedOnTerm->checked) {
-        schedule.EditMode = "NewBasedOn";
+    const bool newTerm = select.choice == TermChoice::NewSchedule;
+    if (newTerm && !select.ComboTermList->items.empty() && select.CheckBoxBasedOnTerm->checked) {
+        schedule.editMode = EditMode::NewBasedOn;
         termID = NextTermID(store_);
-        NewTermBasedOn(store_, schedule, termID, selectedID(), today);
-    } else if (select.NewCourse) {
-        schedule.EditMode = "New";
+        NewTermBasedOn(store_, schedule, selectedID(), today);
+    } else if (newTerm) {
+        schedule.editMode = EditMode::New;
         termID = NextTermID(store_);
         LoadTermIntoSchedule(store_, schedule, termID, today);
     } else {
-        schedule.EditMode = "Edit";
+        schedule.editMode = EditMode::Edit;
         termID = selectedID();
         LoadTermIntoSchedule(store_, schedule, termID, today);
     }
 
-    for (auto* list : {&schedule.tempPreviousTermIDsArray, &schedule.tempPreviousTermNamesArray,
-                       &schedule.tempPreviousTermStartArray, &schedule.tempPreviousTermEndArray})
-        list->clear();
+    schedule.tempPreviousTermNamesArray.clear();
     for (int i = 1; i <= store_.TermIDs.count(); ++i) {
         if (store_.TermNames(i) == kDeletedRecord) continue;
-        schedule.tempPreviousTermIDsArray.push_back(store_.TermIDs(i));
         schedule.tempPreviousTermNamesArray.push_back(store_.TermNames(i));
-        schedule.tempPreviousTermStartArray.push_back(store_.TermStarts(i));
-        schedule.tempPreviousTermEndArray.push_back(store_.TermEnds(i));
-        if (store_.TermIDs(i) == termID) {
-            schedule.ThisTermsPreviousID = store_.TermIDs(i);
-            schedule.ThisTermsPreviousName = store_.TermNames(i);
-        }
+        if (store_.TermIDs(i) == termID) schedule.ThisTermsPreviousName = store_.TermNames(i);
     }
 
     platform_.windowing.showModal(schedule, &host_.ownerWindow());
-    if (schedule.CancelledFlag) return;
+    if (schedule.outcome() == EditorOutcome::Cancelled) return true;
 
     const std::string wasActive = store_.CurrentTermName;
-    // A failed save has already named its file to the user; the columns keep the change,
-    // so the next save writes it.
-    const auto save = [this] { static_cast<void>(files_.SaveTermsAndClasses()); };
-    if (schedule.EditMode == "New" || schedule.EditMode == "NewBasedOn") {
+    bool written = true;
+    if (schedule.editMode != EditMode::Edit) {
         StoreTermRows(store_, schedule, termID);
-        save();
+        written = files_.SaveTermsAndClasses();
         host_.selectTerm(schedule.TextBoxTermName->text);
-    } else if (schedule.DeleteFlag) {
+    } else if (schedule.outcome() == EditorOutcome::Deleted) {
         DeleteTermRows(store_, termID);
-        save();
+        written = files_.SaveTermsAndClasses();
         if (wasActive == schedule.ThisTermsPreviousName) host_.selectTerm(store_.CurrentTermName);
     } else {
         RemoveTermRows(store_, termID);
         StoreTermRows(store_, schedule, termID);
-        save();
+        written = files_.SaveTermsAndClasses();
         if (wasActive == schedule.ThisTermsPreviousName) host_.selectTerm(schedule.TextBoxTermName->text);
     }
+    return written;
 }
 
 }  // namespace qh

@@ -24,7 +24,7 @@ std::optional<EditorRefusal> TaskOkRefusal(const TaskOkFields& fields) {
 
 std::optional<EditorRefusal> AssignmentOkRefusal(const AssignmentOkFields& fields) {
     if (!fields.classChosen) return refuse("Select a Class for this " + fields.type + ".");
-    if (!fields.done && fields.updateEstimateFlag)
+    if (!fields.done && fields.estimateUsedUp)
         return refuse(
             "You have studied longer than the Estimated Time.\r\n"
             "Increase the Estimated Time so the Time Left is more than zero.",
@@ -51,10 +51,11 @@ std::optional<EditorRefusal> DoneCheckRefusal(bool nowSet, int sessionCount) {
 
 std::optional<EditorRefusal> EventOkRefusal(const EventOkFields& fields) {
     // Every test is made before the first failing one is reported.
-    const bool ordinalRule = fields.userRule && (fields.recurrence == "Month" || fields.recurrence == "Year");
+    const bool ordinalRule =
+        fields.userRule && (fields.recurrence == Recurrence::Month || fields.recurrence == Recurrence::Year);
     const std::array<bool, 4> failed = {
         fields.name.empty(),
-        fields.recurrence == "Day" && !fields.anyWeekdayTicked,
+        fields.recurrence == Recurrence::Day && !fields.anyWeekdayTicked,
         fields.endOn && fields.endDate < fields.eventDate,
         ordinalRule && !RuleFitsStartDate(fields.repeatNumber, fields.repeatDay, fields.eventDate),
     };

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "common/day_number.h"
+#include "recurrence/event_rule.h"
 
 namespace qh {
 
@@ -40,7 +41,7 @@ struct AssignmentOkFields {
     std::string type;
     bool classChosen = false;         // ComboClassNameList has a selection
     bool done = false;                // CheckBoxDone
-    bool updateEstimateFlag = false;  // time left below one minute
+    bool estimateUsedUp = false;      // time left below one minute
     std::string description;          // TextBoxDescription
 };
 
@@ -67,11 +68,11 @@ std::optional<EditorRefusal> DeleteStudySessionRefusal(bool done);
 std::optional<EditorRefusal> DoneCheckRefusal(bool nowSet, int sessionCount);
 
 // What the event editor's OK reads. `userRule` is the "User" radio of the panel that
-// `Recurrence` names (`RadioMonthlyUser` for "Month", `RadioYearlyUser` for "Year"), and
+// `recurrence` names (`RadioMonthlyUser` for Month, `RadioYearlyUser` for Year), and
 // `repeatNumber` and `repeatDay` that panel's two combos.
 struct EventOkFields {
     std::string name;              // TextBoxEvent
-    std::string recurrence;        // Recurrence: "None", "Day", "Month", "Year"
+    Recurrence recurrence = Recurrence::None;
     bool anyWeekdayTicked = false; // one of CheckBoxMonday .. CheckBoxSunday is on
     bool endOn = false;            // RadioEndOn
     Date eventDate = 0;            // StoreEventDate
@@ -84,11 +85,11 @@ struct EventOkFields {
 // The event editor's OK: all four tests are made, and the first failing one in this
 // order is reported:
 //   1. an empty name: "This Event has no name.";
-//   2. "Day" with no weekday ticked: "This Event is set to recur Daily, but no days have
+//   2. Day with no weekday ticked: "This Event is set to recur Daily, but no days have
 //      been selected.";
 //   3. an end date on, before the event date: "The 'End on' Date occurs before the Event
 //      Date." (the same day passes);
-//   4. a "Month" or "Year" rule with its "User" radio on that RuleFitsStartDate refuses:
+//   4. a Month or Year rule with its "User" radio on that RuleFitsStartDate refuses:
 //      "This Event does not recur on the same days that it starts on.".
 std::optional<EditorRefusal> EventOkRefusal(const EventOkFields& fields);
 

@@ -17,6 +17,18 @@ void ShowEntry(Control& combo, const std::string& text) {
     combo.text = text;
 }
 
+void ShowEntryAt(Control& combo, int listIndex) {
+    combo.listIndex = listIndex;
+    combo.text = combo.selectedText();
+}
+
+void ShowListedEntry(Control& combo, const std::string& text, int otherwise) {
+    if (std::find(combo.items.begin(), combo.items.end(), text) != combo.items.end())
+        ShowEntry(combo, text);
+    else
+        ShowEntryAt(combo, otherwise);
+}
+
 void ChooseEntry(Form& form, const std::string& key, const std::string& text) {
     Control& combo = form.c(key);
     if (std::find(combo.items.begin(), combo.items.end(), text) != combo.items.end()) {

@@ -13,9 +13,9 @@ namespace qh {
 namespace {
 
 // The event record as the window left it. The rule fields come from the monthly
-// controls for "Month" and from the yearly ones for every other kind.
+// controls for Month and from the yearly ones for every other kind.
 EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const std::string& id) {
-    const bool monthly = form.Recurrence == "Month";
+    const bool monthly = form.recurrence == Recurrence::Month;
     EventBuffer record;
     record.RecordNo = recordNo;
     record.ID = id;
@@ -23,7 +23,7 @@ EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const st
     record.Description = trimRight(form.TextBoxEvent->text);
     record.Type = trimRight(form.ComboType->text);
     record.Time = trimRight(form.ComboTime->text);
-    record.Recurrence = form.Recurrence;
+    record.Recurrence = recurrenceText(form.recurrence);
     record.SameDate = trueFalse(monthly ? form.RadioMonthlyThisDate->checked : form.RadioYearlyThisDate->checked);
     record.RepeatNumber = trimRight((monthly ? form.ComboMonthlyNumber : form.ComboYearlyNumber)->text);
     record.RepeatDay = trimRight((monthly ? form.ComboMonthlyDay : form.ComboYearlyDay)->text);
@@ -37,32 +37,32 @@ EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const st
 
 }  // namespace
 
-void RecordActions::NewEvent() {
+bool RecordActions::NewEvent() {
     // The editor windows load with the main window; before that no record opens.
-    if (!windows_.loaded()) return;
+    if (!windows_.loaded()) return true;
     FrmEvent& form = windows_.event();
     form.FormSmall = true;
-    form.EditMode = "New";
+    form.editMode = EditMode::New;
     form.DocumentDirectory = store_.DocumentDirectory;
     platform_.windowing.showModal(form, &host_.ownerWindow());
-    if (form.CancelledFlag) return;
+    if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     const std::string number = std::to_string(store_.NextEventRecord);
     store_.EventRecord = recordOf(form, number, number);
     kEventBinding.appendRow(store_, store_.EventRecord);
-    // A failed write has named its file to the user; the row stays for this run.
-    static_cast<void>(files_.SaveEvent(0));
+    const bool written = files_.SaveEvent(0);
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, store_.EventRecordNos.count());
+    return written;
 }
 
-void RecordActions::EditEvent(int row) {
+bool RecordActions::EditEvent(int row) {
     // The editor windows load with the main window; before that no record opens.
-    if (!windows_.loaded()) return;
+    if (!windows_.loaded()) return true;
     FrmEvent& form = windows_.event();
     RecordStore& s = store_;
-    form.FormSmall = s.EventRecurrences(row) == "None";
-    form.EditMode = "Edit";
+    form.FormSmall = recurrenceOf(s.EventRecurrences(row)) == Recurrence::None;
+    form.editMode = EditMode::Edit;
     form.DocumentDirectory = s.DocumentDirectory;
     form.tempEventDate = s.EventDates(row);
     form.tempEventDescription = s.EventDescriptions(row);
@@ -78,13 +78,14 @@ void RecordActions::EditEvent(int row) {
     form.tempEventEndDate = s.EventEndDates(row);
     form.tempEventNotes = s.EventNotes(row);
     platform_.windowing.showModal(form, &host_.ownerWindow());
-    if (form.CancelledFlag) return;
+    if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
     kEventBinding.storeRow(s, row, s.EventRecord);
-    static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
+    const bool written = files_.SaveEvent(int16OrZero(s.EventRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, row);
+    return written;
 }
 
 }  // namespace qh

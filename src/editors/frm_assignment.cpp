@@ -1,9 +1,8 @@
 #include "editors/frm_assignment.h"
 
-#include <algorithm>
-
 #include "common/text.h"
 #include "editors/editor_checks.h"
+#include "editors/editor_controls.h"
 #include "editors/editor_host.h"
 #include "editors/shared_file_transfer.h"
 #include "editors/study_session_math.h"
@@ -28,19 +27,6 @@ void addSpans(Control& combo, int lastHour) {
     combo.addItem(twoDigits(lastHour + 1) + " : 00");
 }
 
-// Shows `text` in a combo as the window's own setting, without the events of a click: the
-// entry when the list has it, else the text with nothing selected.
-void showEntry(Control& combo, const std::string& text) {
-    const auto it = std::find(combo.items.begin(), combo.items.end(), text);
-    combo.listIndex = it == combo.items.end() ? -1 : int(it - combo.items.begin());
-    combo.text = text;
-}
-
-void showEntry(Control& combo, int listIndex) {
-    combo.listIndex = listIndex;
-    combo.text = combo.selectedText();
-}
-
 // A stored weight shows as its number when it is a whole number from 1 to 100.
 std::string weightShown(const std::string& stored) {
     const auto weight = parseInt16(stored);
@@ -50,7 +36,7 @@ std::string weightShown(const std::string& stored) {
 }  // namespace
 
 FrmAssignment::FrmAssignment(Platform& platform, EditorHost& host)
-    : Form("frmAssignment"), platform_(platform), host_(host) {
+    : EditorForm("frmAssignment", platform.messages), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
     buildControls();
     buildSessionControls();
@@ -157,12 +143,12 @@ void FrmAssignment::bindHandlers() {
         on(key, FormEvent::Click, [this, handler](const EventArgs&) { (this->*handler)(); });
     };
     onClick("ButtonOK", &FrmAssignment::ButtonOK_Click);
-    onClick("ButtonCancel", &FrmAssignment::ConfirmCancel);
+    onClick("ButtonCancel", &FrmAssignment::cancel);
     onClick("ButtonDelete", &FrmAssignment::ButtonDelete_Click);
     onClick("ButtonShare", &FrmAssignment::ButtonShare_Click);
     on("picHelp", FormEvent::Click, [this](const EventArgs&) { platform_.windowing.enterWhatsThisMode(); });
     on("LabelViewSessions", FormEvent::Click, [this](const EventArgs&) { applyFormSmall(); });
-    const auto changes = [this](const EventArgs&) { ChangeFlag = kTrue; };
+    const auto changes = [this](const EventArgs&) { markChanged(); };
     for (const char* key : {"TextBoxDescription", "TextBoxNotes"}) on(key, FormEvent::Change, changes);
     for (const char* key : {"ComboRemindMe", "ComboTypeList", "ComboDifficulty", "ComboClassNameList", "ComboGrade",
                             "ComboWeight"}) {
@@ -177,8 +163,8 @@ void FrmAssignment::setSmall(bool small) {
 }
 
 void FrmAssignment::applyFormSmall() {
-    setSmall(FormSmall != 0);
-    FormSmall = FormSmall ? kFalse : kTrue;
+    setSmall(FormSmall);
+    FormSmall = !FormSmall;
 }
 
 void FrmAssignment::setDueDate(Date date) {
@@ -198,21 +184,18 @@ void FrmAssignment::showDone(bool done) {
     CheckBoxDone->backColor = LabelDoneBG->backColor = color;
 }
 
-void FrmAssignment::Form_Activate() {
+void FrmAssignment::showRecord() {
     applyFormSmall();
     // Flush with the labels below it: no space before the word.
     LabelClass->caption = "Classes " + CurrentTermName;
     ComboClassNameList->clearItems();
     for (const std::string& name : tempClassNameArray) ComboClassNameList->addItem(name);
-    if (EditMode == "New")
+    if (editMode == EditMode::New)
         showNew();
     else
         showEdit();
     setSessionDate(platform_.clock.today());
     ButtonShare->caption = "Share";
-    ChangeFlag = CloseOK = kFalse;
-    // Only OK and Delete let a showing count: a window hidden any other way was cancelled.
-    CancelledFlag = kTrue;
     picker_->reset();
 }
 
@@ -226,27 +209,27 @@ void FrmAssignment::showNew() {
     TextBoxNotes->text.clear();
     showDone(false);
     ButtonDelete->enabled = false;
-    showEntry(*ComboTypeList, 0);
-    showEntry(*ComboDifficulty, 1);
-    showEntry(*ComboGrade, 0);
-    showEntry(*ComboWeight, kDefaultWeight);
-    showEntry(*ComboEstTime, kDefaultSpan);
-    showEntry(*ComboSessionLength, kDefaultSpan);
-    showEntry(*ComboRemindMe, 0);
+    ShowEntryAt(*ComboTypeList, 0);
+    ShowEntryAt(*ComboDifficulty, 1);
+    ShowEntryAt(*ComboGrade, 0);
+    ShowEntry(*ComboWeight, kDefaultWeight);
+    ShowEntry(*ComboEstTime, kDefaultSpan);
+    ShowEntry(*ComboSessionLength, kDefaultSpan);
+    ShowEntryAt(*ComboRemindMe, 0);
     TextBoxTotalTime->text = "00 : 00";
     TextBoxTimeLeft->text = ComboEstTime->text;
     TextBoxTimeLeft->backColor = standardColors().ColorValues("MistyRose");
     ButtonSessionDelete->enabled = false;
     ListBoxStudySessions->clearItems();
-    UpdateEstimateFlag = kFalse;
-    showEntry(*ComboClassNameList, -1);
+    estimateUsedUp = false;
+    ShowEntryAt(*ComboClassNameList, -1);
     setDueDate(host_.clickedDate());
 }
 
 void FrmAssignment::showEdit() {
     caption = "Quillhollow - Edit Assignment";
-    showEntry(*ComboEstTime, tempAssignmentEstTime);
-    showEntry(*ComboSessionLength, kDefaultSpan);
+    ShowEntry(*ComboEstTime, tempAssignmentEstTime);
+    ShowEntry(*ComboSessionLength, kDefaultSpan);
     ListBoxStudySessions->clearItems();
     for (int row = 1; row <= tempStudySessionLengthArray.count(); ++row)
         ListBoxStudySessions->addItem(StudySessionLine(tempStudySessionLengthArray(row),
@@ -257,26 +240,14 @@ void FrmAssignment::showEdit() {
     TextBoxDescription->text = tempAssignmentDescription;
     TextBoxNotes->text = tempAssignmentNotes;
     ButtonDelete->enabled = true;
-    DeleteFlag = kFalse;
-    showEntry(*ComboTypeList, tempAssignmentType);
-    showEntry(*ComboDifficulty, tempAssignmentDifficulty);
-    const auto& grades = ComboGrade->items;
-    const bool knownGrade = std::find(grades.begin(), grades.end(), tempAssignmentGrade) != grades.end();
-    showEntry(*ComboGrade, knownGrade ? tempAssignmentGrade : std::string(" "));
-    showEntry(*ComboWeight, weightShown(tempAssignmentWeight));
-    showEntry(*ComboRemindMe, 0);
-    if (std::find(ComboRemindMe->items.begin(), ComboRemindMe->items.end(), tempAssignmentReminder) !=
-        ComboRemindMe->items.end())
-        showEntry(*ComboRemindMe, tempAssignmentReminder);
-    showEntry(*ComboClassNameList, -1);
-    if (!tempAssignmentClassName.empty()) showEntry(*ComboClassNameList, tempAssignmentClassName);
+    ShowEntry(*ComboTypeList, tempAssignmentType);
+    ShowEntry(*ComboDifficulty, tempAssignmentDifficulty);
+    ShowListedEntry(*ComboGrade, tempAssignmentGrade, 0);
+    ShowEntry(*ComboWeight, weightShown(tempAssignmentWeight));
+    ShowListedEntry(*ComboRemindMe, tempAssignmentReminder, 0);
+    ShowEntryAt(*ComboClassNameList, -1);
+    if (!tempAssignmentClassName.empty()) ShowEntry(*ComboClassNameList, tempAssignmentClassName);
     setDueDate(dateFromText(tempAssignmentDate));
-}
-
-bool FrmAssignment::Form_QueryUnload(UnloadMode mode) {
-    if (mode != UnloadMode::CloseBox) return true;
-    ConfirmCancel();
-    return false;
 }
 
 void FrmAssignment::Form_MouseDown(const std::string& controlKey) { picker_->windowPressed(controlKey); }
@@ -285,7 +256,7 @@ Date FrmAssignment::pickerFieldDate(bool firstField) { return firstField ? DueDa
 
 void FrmAssignment::pickerWroteDate(bool firstField, Date date) {
     if (firstField) {
-        ChangeFlag = kTrue;
+        markChanged();
         setDueDate(date);
     } else {
         setSessionDate(date);
@@ -294,27 +265,18 @@ void FrmAssignment::pickerWroteDate(bool firstField, Date date) {
 
 void FrmAssignment::ButtonOK_Click() {
     const auto refusal = AssignmentOkRefusal({ComboTypeList->text, ComboClassNameList->listIndex >= 0,
-                                              CheckBoxDone->checked, UpdateEstimateFlag != 0, TextBoxDescription->text});
+                                              CheckBoxDone->checked, estimateUsedUp, TextBoxDescription->text});
     if (refusal) {
         tell(refusal->message);
         if (!refusal->focus.empty()) SetFocus(refusal->focus);
         return;
     }
-    CancelledFlag = kFalse;
-    CloseOK = kTrue;
-    setSmall(true);
-    hide();
+    finish(EditorOutcome::Saved);
 }
 
-void FrmAssignment::ConfirmCancel() {
-    if (ChangeFlag) {
-        const std::string question = EditMode == "New" ? "Cancel this " + ComboTypeList->text + "?"
-                                                       : "Cancel all changes to this " + ComboTypeList->text + "?";
-        if (!ask(question)) return;
-    }
-    CancelledFlag = CloseOK = kTrue;
-    setSmall(true);
-    hide();
+void FrmAssignment::cancel() {
+    confirmCancel(editMode == EditMode::New ? "Cancel this " + ComboTypeList->text + "?"
+                                            : "Cancel all changes to this " + ComboTypeList->text + "?");
 }
 
 void FrmAssignment::ButtonDelete_Click() {
@@ -330,14 +292,11 @@ void FrmAssignment::ButtonDelete_Click() {
         list->clear();
     ListBoxStudySessions->clearItems();
     TextBoxNotes->text.clear();
-    DeleteFlag = CloseOK = kTrue;
-    CancelledFlag = kFalse;
-    setSmall(true);
-    hide();
+    finish(EditorOutcome::Deleted);
 }
 
 void FrmAssignment::ButtonShare_Click() {
-    if (EditMode != "Edit") {
+    if (editMode != EditMode::Edit) {
         shareIn();
         return;
     }
@@ -351,35 +310,15 @@ void FrmAssignment::ButtonShare_Click() {
 void FrmAssignment::shareIn() {
     const auto shared = ShareInAssignment(platform_, DocumentDirectory);
     if (!shared) return;
-    chooseOrSetText(ComboClassNameList, shared->className);
+    // The combos bind Click and Change alike, so a text off their lists counts as a change too.
+    ChooseEntry(*this, ComboClassNameList.key(), shared->className);
     type(TextBoxDescription.key(), shared->description);
     pickerWroteDate(true, shared->dueDate);
-    chooseOrSetText(ComboTypeList, shared->type);
-    chooseOrSetText(ComboDifficulty, shared->difficulty);
-    chooseOrSetText(ComboEstTime, shared->estimatedTime);
-    chooseOrSetText(ComboWeight, shared->weight);
+    ChooseEntry(*this, ComboTypeList.key(), shared->type);
+    ChooseEntry(*this, ComboDifficulty.key(), shared->difficulty);
+    ChooseEntry(*this, ComboEstTime.key(), shared->estimatedTime);
+    ChooseEntry(*this, ComboWeight.key(), shared->weight);
     type(TextBoxNotes.key(), shared->notes);
-}
-
-void FrmAssignment::chooseOrSetText(const ControlRef& combo, const std::string& text) {
-    const auto& items = combo->items;
-    const auto it = std::find(items.begin(), items.end(), text);
-    if (it != items.end()) {
-        select(combo.key(), int(it - items.begin()));
-        return;
-    }
-    combo->listIndex = -1;
-    combo->text = text;
-    fire(combo.key(), FormEvent::Change);
-}
-
-bool FrmAssignment::ask(const std::string& text) {
-    return platform_.messages.show(text, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) ==
-           MessageAnswer::Yes;
-}
-
-void FrmAssignment::tell(const std::string& text) {
-    platform_.messages.show(text, "Quillhollow", MessageButtons::OK, MessageIcon::Information);
 }
 
 }  // namespace qh

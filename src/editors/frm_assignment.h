@@ -1,8 +1,8 @@
 #pragma once
 // frmAssignment: one assignment with its note and its study sessions. It works on copies:
 // the record actions fill the public fields, show the window modal and, after it hides,
-// read CancelledFlag, DeleteFlag, the controls and the session lists into the columns and
-// files. The window itself never touches a record file.
+// read its outcome, the controls and the session lists into the columns and files. The
+// window itself never touches a record file.
 //
 // The due date and the study date are kept as day numbers (DueDate, SessionDate), which
 // the callers and the sessions use, and shown in the long date form; tempAssignmentDate
@@ -13,7 +13,7 @@
 
 #include "calendar/date_picker.h"
 #include "common/column.h"
-#include "common/int16.h"
+#include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
 
@@ -24,40 +24,36 @@ class EditorHost;
 // The two heights of the window (outer, twips): study sessions hidden and shown.
 inline constexpr int kAssignmentWidth = 6360, kAssignmentSmallHeight = 4650, kAssignmentLargeHeight = 7425;
 
-class FrmAssignment : public Form, public DatePickerOwner, public HasDatePicker {
+class FrmAssignment : public EditorForm, public DatePickerOwner, public HasDatePicker {
 public:
     FrmAssignment(Platform& platform, EditorHost& host);
     ~FrmAssignment() override;
 
     // In-out fields, set by the caller before a showing.
     std::vector<std::string> tempClassNameArray, tempAssignmentClassLinkArray;
-    Date tempTermStartDate = 0, tempTermEndDate = 0;
     // The sessions, row 1 the newest; an added one has record number and link "0".
     TextColumn tempStudySessionRecordNoArray, tempStudySessionLinkIDArray, tempStudySessionLengthArray,
         tempStudySessionDateArray;
     std::string tempAssignmentClassName, tempAssignmentDate, tempAssignmentType, tempAssignmentDifficulty,
         tempAssignmentEstTime, tempAssignmentDescription, tempAssignmentDone, tempAssignmentGrade,
         tempAssignmentWeight, tempAssignmentReminder, tempAssignmentNotes;
-    std::string EditMode = "New";
     // The active term's name, for the caption of LabelClass; where the Share dialogs start.
     std::string CurrentTermName, DocumentDirectory;
     // A toggle request, applied at the showing and at a click on LabelViewSessions: true
     // makes the window small and clears itself, false makes it large and sets itself.
-    Int16 FormSmall = kTrue;
-    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, CloseOK = kFalse, UpdateEstimateFlag = kFalse,
-          DeleteFlag = kFalse;
+    bool FormSmall = true;
+    // Less than a minute of the estimate is left; OK refuses it unless the assignment is done.
+    bool estimateUsedUp = false;
     Date DueDate = 0, SessionDate = 0;
 
     void Form_Load() override;
-    void Form_Activate() override;
-    bool Form_QueryUnload(UnloadMode mode) override;
     void Form_MouseDown(const std::string& controlKey) override;
 
     // The study sessions (frm_assignment_sessions.cpp).
     void AddStudySession();
     void RecalculateSessions();
 
-    void ConfirmCancel();
+    void cancel() override;
 
     Date pickerFieldDate(bool firstField) override;
     void pickerWroteDate(bool firstField, Date date) override;
@@ -96,6 +92,8 @@ private:
     void fillLists();
     void bindHandlers();
     void bindSessionHandlers();
+    void showRecord() override;
+    void beforeHide() override { setSmall(true); }
     void applyFormSmall();
     void setSmall(bool small);
     void showNew();
@@ -110,11 +108,6 @@ private:
     void ButtonSessionAdd_Click();
     void ButtonSessionDelete_Click();
     void CheckBoxDone_Click();
-    // Selects the entry `text` of a combo as a click would, or, where the list lacks it,
-    // sets it as the combo's text with nothing selected.
-    void chooseOrSetText(const ControlRef& combo, const std::string& text);
-    bool ask(const std::string& text);
-    void tell(const std::string& text);
 
     Platform& platform_;
     EditorHost& host_;

@@ -113,14 +113,14 @@ void FrmAssignment::CheckBoxDone_Click() {
 }
 
 void FrmAssignment::RecalculateSessions() {
-    ChangeFlag = kTrue;
+    markChanged();
     const StudySessionSummary summary =
         qh::RecalculateSessions(tempStudySessionLengthArray, ComboEstTime->text, CheckBoxDone->checked);
     LabelStudySessions->caption = summary.caption;
     TextBoxTotalTime->text = summary.totalTime;
     TextBoxTimeLeft->text = summary.timeLeft;
     TextBoxTimeLeft->backColor = standardColors().ColorValues(std::string(summary.timeLeftBack));
-    UpdateEstimateFlag = summary.updateEstimateFlag ? kTrue : kFalse;
+    estimateUsedUp = summary.estimateUsedUp;
 }
 
 }  // namespace qh

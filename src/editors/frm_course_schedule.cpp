@@ -30,7 +30,7 @@ constexpr int kNewTermDays = 70;
 }  // namespace
 
 FrmCourseSchedule::FrmCourseSchedule(Platform& platform, EditorHost& host)
-    : Form("frmCourseSchedule"), platform_(platform), host_(host) {
+    : EditorForm("frmCourseSchedule", platform.messages), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
     buildControls();
     picker_ = std::make_unique<DatePicker>(*this, platform, *this, [&host] { return host.startDayOfWeek(); },
@@ -107,7 +107,7 @@ void FrmCourseSchedule::bindHandlers() {
     onClick(ButtonCancelClass, &FrmCourseSchedule::ResetClassPanel);
     onClick(ButtonDeleteClass, &FrmCourseSchedule::ButtonDeleteClass_Click);
     onClick(ButtonOK, &FrmCourseSchedule::ButtonOK_Click);
-    onClick(ButtonCancel, &FrmCourseSchedule::ConfirmCancelSchedule);
+    onClick(ButtonCancel, &FrmCourseSchedule::cancel);
     onClick(ButtonDelete, &FrmCourseSchedule::ButtonDelete_Click);
     on(ButtonAccentColor.key(), FormEvent::Click, [this](const EventArgs&) {
         const bool white = ButtonAccentColor->caption != "W";
@@ -117,7 +117,7 @@ void FrmCourseSchedule::bindHandlers() {
     bindColorGrid();
     on(TextBoxTermName.key(), FormEvent::Change, [this](const EventArgs&) {
         tempTermName = TextBoxTermName->text;
-        ChangeFlag = kTrue;
+        markChanged();
     });
     defaultButton = ButtonOK.key();
     cancelButton = ButtonCancel.key();
@@ -140,8 +140,8 @@ void FrmCourseSchedule::setTermEnd(Date date) {
     TextboxTermEnd->text = platform_.locale.longDate(date);
 }
 
-void FrmCourseSchedule::Form_Activate() {
-    if (EditMode == "New") {
+void FrmCourseSchedule::showRecord() {
+    if (editMode == EditMode::New) {
         caption = "Quillhollow - New Term";
         const Date today = platform_.clock.today();
         const Ymd now = ymdOf(today);
@@ -150,31 +150,19 @@ void FrmCourseSchedule::Form_Activate() {
         TextBoxTermName->text = tempTermName;
         setTermStart(today);
         setTermEnd(today + kNewTermDays);
-        ChangeFlag = kFalse;
-        CancelledFlag = kTrue;
     } else {
-        caption = EditMode == "Edit" ? "Quillhollow - Edit Term" : "Quillhollow - New Term";
+        caption = editMode == EditMode::Edit ? "Quillhollow - Edit Term" : "Quillhollow - New Term";
         TextBoxTermName->text = tempTermName;
         setTermStart(tempTermStartDate);
         setTermEnd(tempTermEndDate);
-        ChangeFlag = EditMode == "Edit" ? kFalse : kTrue;
-        if (EditMode == "Edit") DeleteFlag = kFalse;
-        CancelledFlag = kTrue;
     }
-    ClassEditMode.clear();
+    classPanelMode = ClassPanelMode::Closed;
     // The window lives on between terms: the class panel starts empty, never with the
     // class last edited in another term.
     TextBoxClassName->text.clear();
     TextBoxClassNotes->text.clear();
     ResetClassPanel();
-    CloseOK = kFalse;
     picker_->reset();
-}
-
-bool FrmCourseSchedule::Form_QueryUnload(UnloadMode mode) {
-    if (mode == UnloadMode::ProgramEnd) return true;
-    ConfirmCancelSchedule();
-    return false;
 }
 
 void FrmCourseSchedule::Form_MouseDown(const std::string& controlKey) { picker_->windowPressed(controlKey); }
@@ -182,7 +170,7 @@ void FrmCourseSchedule::Form_MouseDown(const std::string& controlKey) { picker_-
 Date FrmCourseSchedule::pickerFieldDate(bool firstField) { return firstField ? tempTermStartDate : tempTermEndDate; }
 
 void FrmCourseSchedule::pickerWroteDate(bool firstField, Date date) {
-    ChangeFlag = kTrue;
+    markChanged();
     if (firstField)
         setTermStart(date);
     else
@@ -210,7 +198,7 @@ void FrmCourseSchedule::ResetClassPanel() {
     TextBoxClassName->backColor = kWhite;
     OriginalClassName.clear();
     enableClassPanel(false);
-    ButtonDelete->enabled = EditMode == "Edit";
+    ButtonDelete->enabled = editMode == EditMode::Edit;
     FillClassList();
     ButtonEditClass->enabled = !ComboBoxClassList->items.empty();
 }
@@ -227,8 +215,8 @@ void FrmCourseSchedule::FillClassList() {
     }
     const int count = int(list.items.size());
     int selected = count > 0 ? 0 : -1;
-    if (ClassEditMode == "Add") selected = count - 1;
-    if (ClassEditMode == "Edit") selected = remembered < count ? remembered : count - 1;
+    if (classPanelMode == ClassPanelMode::Add) selected = count - 1;
+    if (classPanelMode == ClassPanelMode::Edit) selected = remembered < count ? remembered : count - 1;
     list.listIndex = selected;
     list.text = list.selectedText();
 }
@@ -244,14 +232,14 @@ void FrmCourseSchedule::ButtonAddClass_Click() {
     SelectedClassID = NextClassID;
     SelectedClassIndex = Int16(tempClassNameArray.size());
     OriginalClassName.clear();
-    ClassEditMode = "Add";
+    classPanelMode = ClassPanelMode::Add;
     SetFocus(TextBoxClassName.key());
 }
 
 void FrmCourseSchedule::ButtonEditClass_Click() {
     enableClassPanel(true);
     ButtonDeleteClass->enabled = true;
-    ClassEditMode = "Edit";
+    classPanelMode = ClassPanelMode::Edit;
     const int line = ComboBoxClassList->listIndex;
     if (line < 0 || line >= int(IndexClassIDArray.size())) throw UntrappedFailure("Subscript out of range");
     const std::size_t row = std::size_t(IndexClassIDArray[std::size_t(line)]);
@@ -268,17 +256,15 @@ void FrmCourseSchedule::ButtonEditClass_Click() {
 }
 
 void FrmCourseSchedule::ButtonOKClass_Click() {
-    CheckClass();
-    if (ClassError) return;
+    if (!CheckClass()) return;
     StoreClass();
     ResetClassPanel();
-    ChangeFlag = kTrue;
+    markChanged();
 }
 
-void FrmCourseSchedule::CheckClass() {
-    ClassError = kTrue;
+bool FrmCourseSchedule::CheckClass() {
     const std::string name = TextBoxClassName->text;
-    const bool renamed = EditMode == "Edit" && name != OriginalClassName && !OriginalClassName.empty();
+    const bool renamed = editMode == EditMode::Edit && name != OriginalClassName && !OriginalClassName.empty();
     bool duplicate = false;
     for (std::size_t row = 0; row < tempClassNameArray.size(); ++row)
         if (int16OrZero(tempClassIDArray[row]) != SelectedClassID &&
@@ -286,23 +272,25 @@ void FrmCourseSchedule::CheckClass() {
             duplicate = true;
     if (trim(name).empty()) {
         tell("Enter a name for this class.");
-    } else if (duplicate) {
+        return false;
+    }
+    if (duplicate) {
         tell("There is already a class with this name.");
         TextBoxClassName->text = OriginalClassName;
-    } else if (renamed) {
-        if (ask("You have changed the name of this class. If you have created assignments for '" + OriginalClassName +
-                "', they will now be for '" + name + "'.\r\nClick 'Yes' to rename this class."))
-            ClassError = kFalse;
-        else
-            TextBoxClassName->text = OriginalClassName;
-    } else {
-        ClassError = kFalse;
+        return false;
     }
+    if (renamed &&
+        !ask("You have changed the name of this class. If you have created assignments for '" + OriginalClassName +
+             "', they will now be for '" + name + "'.\r\nClick 'Yes' to rename this class.")) {
+        TextBoxClassName->text = OriginalClassName;
+        return false;
+    }
+    return true;
 }
 
 void FrmCourseSchedule::StoreClass() {
     const std::size_t row = std::size_t(SelectedClassIndex);
-    if (ClassEditMode == "Add") {
+    if (classPanelMode == ClassPanelMode::Add) {
         // The term link is left out: storing the term's rows supplies it.
         tempClassIDArray.push_back(std::to_string(SelectedClassID));
         tempClassNameArray.push_back(TextBoxClassName->text);
@@ -310,7 +298,7 @@ void FrmCourseSchedule::StoreClass() {
         tempClassBackColorArray.push_back(BackColorName);
         tempClassForeColorArray.push_back(ForeColorName);
         NextClassID = Int16(NextClassID + 1);
-    } else if (ClassEditMode == "Edit") {
+    } else if (classPanelMode == ClassPanelMode::Edit) {
         tempClassNameArray.at(row) = TextBoxClassName->text;
         tempClassNotesArray.at(row) = TextBoxClassNotes->text;
         tempClassBackColorArray.at(row) = BackColorName;
@@ -327,9 +315,9 @@ void FrmCourseSchedule::ButtonDeleteClass_Click() {
     if (!ask("Delete this class?")) return;
     // The change flag is left as it was: a later Cancel drops this delete with the rest
     // without asking.
-    if (EditMode == "Edit" && !ask("Are you sure you want to Delete '" + OriginalClassName +
-                                   "'? If you have assignments for '" + OriginalClassName +
-                                   "', they will also be Deleted."))
+    if (editMode == EditMode::Edit &&
+        !ask("Are you sure you want to Delete '" + OriginalClassName + "'? If you have assignments for '" +
+             OriginalClassName + "', they will also be Deleted."))
         return;
     MarkClassDeleted();
     ResetClassPanel();
@@ -339,7 +327,7 @@ void FrmCourseSchedule::ButtonOK_Click() {
     const std::string name = TextBoxTermName->text;
     bool taken = false;
     for (const std::string& previous : tempPreviousTermNamesArray)
-        if (previous == name && (EditMode != "Edit" || previous != ThisTermsPreviousName)) taken = true;
+        if (previous == name && (editMode != EditMode::Edit || previous != ThisTermsPreviousName)) taken = true;
     if (static_cast<long long>(tempTermEndDate) - static_cast<long long>(tempTermStartDate) < 1) {
         tell("The Term End Date must be later then the Term Start Date.");
     } else if (trim(name).empty()) {
@@ -347,34 +335,16 @@ void FrmCourseSchedule::ButtonOK_Click() {
     } else if (taken) {
         tell("There is already a Term with this name.");
     } else {
-        CancelledFlag = kFalse;
-        CloseOK = kTrue;
-        hide();
+        finish(EditorOutcome::Saved);
     }
 }
 
-void FrmCourseSchedule::ConfirmCancelSchedule() {
-    if (ChangeFlag && !ask("Cancel changes to this Term's Class Schedule?")) return;
-    CloseOK = kTrue;
-    hide();
-}
+void FrmCourseSchedule::cancel() { confirmCancel("Cancel changes to this Term's Class Schedule?"); }
 
 void FrmCourseSchedule::ButtonDelete_Click() {
     if (!ask("Delete this Term? All assignments for classes in this Class Schedule will also be deleted.")) return;
     if (!ask("Are you sure? This action cannot be undone!")) return;
-    DeleteFlag = kTrue;
-    CloseOK = kTrue;
-    CancelledFlag = kFalse;
-    hide();
-}
-
-bool FrmCourseSchedule::ask(const std::string& text) {
-    return platform_.messages.show(text, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) ==
-           MessageAnswer::Yes;
-}
-
-void FrmCourseSchedule::tell(const std::string& text) {
-    platform_.messages.show(text, "Quillhollow", MessageButtons::OK, MessageIcon::Information);
+    finish(EditorOutcome::Deleted);
 }
 
 }  // namespace qh

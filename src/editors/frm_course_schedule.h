@@ -1,7 +1,7 @@
 #pragma once
 // frmCourseSchedule: one term with its whole class schedule. It works on copies: the
 // schedule procedure fills the public fields, shows the window modal and, after it hides,
-// reads CancelledFlag, DeleteFlag and the fields into the term and class columns.
+// reads its outcome and the fields into the term and class columns.
 //
 // The dates are kept twice: as texts in the short date form (tempTermStart, tempTermEnd),
 // as the window's callers know them, and as day numbers (tempTermStartDate,
@@ -12,6 +12,7 @@
 
 #include "calendar/date_picker.h"
 #include "common/int16.h"
+#include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
 
@@ -29,28 +30,28 @@ std::pair<int, int> ColorGridCellOrigin(int n);
 // and End to the first and last; it stays at the grid's edges.
 int ColorGridKeyStep(int cell, int keyCode);
 
-class FrmCourseSchedule : public Form, public DatePickerOwner, public HasDatePicker {
+class FrmCourseSchedule : public EditorForm, public DatePickerOwner, public HasDatePicker {
 public:
     FrmCourseSchedule(Platform& platform, EditorHost& host);
     ~FrmCourseSchedule() override;
 
     // In-out fields.
-    std::string tempTermID, tempTermName, tempTermStart, tempTermEnd;
+    std::string tempTermName, tempTermStart, tempTermEnd;
     Date tempTermStartDate = 0, tempTermEndDate = 0;
     std::vector<std::string> tempClassIDArray, tempClassTermLinkArray, tempClassNameArray, tempClassForeColorArray,
         tempClassBackColorArray, tempClassNotesArray;
     std::vector<int> IndexClassIDArray;  // for each line of ComboBoxClassList, its row (0-based) of the class lists
-    std::vector<std::string> tempPreviousTermIDsArray, tempPreviousTermNamesArray, tempPreviousTermStartArray,
-        tempPreviousTermEndArray;
-    std::string ThisTermsPreviousID, ThisTermsPreviousName;
-    std::string AccentColor;
+    // The names of the other live terms, which the term's name must not take, and this
+    // term's name before the edit.
+    std::vector<std::string> tempPreviousTermNamesArray;
+    std::string ThisTermsPreviousName;
     Int16 SelectedClassIndex = 0, SelectedClassID = 0;
-    std::string ClassEditMode;
+    // What the class panel is open for; it stays after the panel closes, so that the class
+    // list selects the class just added or edited.
+    enum class ClassPanelMode { Closed, Add, Edit };
+    ClassPanelMode classPanelMode = ClassPanelMode::Closed;
     std::string OriginalClassName;
     Int16 NextClassID = 1;
-    Int16 ClassError = kFalse;
-    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, CloseOK = kFalse, DeleteFlag = kFalse;
-    std::string EditMode = "New";
     std::string ForeColorName = "Black", BackColorName = "White";
     int KeyboardColorCell = 1;  // the grid's cell the arrows stand on
 
@@ -59,16 +60,16 @@ public:
     void setTermEnd(Date date);
 
     void Form_Load() override;
-    void Form_Activate() override;
-    bool Form_QueryUnload(UnloadMode mode) override;
     void Form_MouseDown(const std::string& controlKey) override;
 
     void ResetClassPanel();
     void FillClassList();
-    void CheckClass();
+    // Whether the class panel's name may be stored: not empty, no other class's, and a
+    // rename confirmed; a refusal has told why and put the original name back.
+    bool CheckClass();
     void StoreClass();
     void MarkClassDeleted();
-    void ConfirmCancelSchedule();
+    void cancel() override;
     void PaintColorGrid();
 
     Date pickerFieldDate(bool firstField) override;
@@ -97,6 +98,7 @@ public:
 private:
     void buildControls();
     void bindHandlers();
+    void showRecord() override;
     void enableClassPanel(bool panel);
     void ButtonAddClass_Click();
     void ButtonEditClass_Click();
@@ -106,8 +108,6 @@ private:
     void ButtonDelete_Click();
     void bindColorGrid();
     void chooseColor(int n);
-    bool ask(const std::string& text);
-    void tell(const std::string& text);
 
     Platform& platform_;
     EditorHost& host_;

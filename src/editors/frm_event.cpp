@@ -10,7 +10,8 @@
 
 namespace qh {
 
-FrmEvent::FrmEvent(Platform& platform, EditorHost& host) : Form("frmEvent"), platform_(platform), host_(host) {
+FrmEvent::FrmEvent(Platform& platform, EditorHost& host)
+    : EditorForm("frmEvent", platform.messages), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
     buildControls();
     buildRecurrencePanel();
@@ -72,13 +73,13 @@ void FrmEvent::bindHandlers() {
         on(control.key(), FormEvent::Click, [this, handler](const EventArgs&) { (this->*handler)(); });
     };
     onClick(ButtonOK, &FrmEvent::ButtonOK_Click);
-    onClick(ButtonCancel, &FrmEvent::CancelEvent);
+    onClick(ButtonCancel, &FrmEvent::cancel);
     onClick(ButtonDelete, &FrmEvent::ButtonDelete_Click);
     onClick(ButtonShare, &FrmEvent::ButtonShare_Click);
     on(LabelViewRecurring.key(), FormEvent::Click, [this](const EventArgs&) { showSize(!FormSmall); });
     const auto changes = [this](const std::string& key, FormEvent event) {
         on(key, event, [this](const EventArgs&) {
-            if (!quiet_) ChangeFlag = kTrue;
+            if (!quiet_) markChanged();
         });
     };
     for (const ControlRef* box : {&TextBoxEvent, &TextBoxNotes}) changes(box->key(), FormEvent::Change);
@@ -113,19 +114,18 @@ void FrmEvent::setQuietly(const std::string& key, bool checked) {
     quiet_ = was;
 }
 
-void FrmEvent::Form_Activate() {
+void FrmEvent::showRecord() {
     showSize(FormSmall);
-    if (EditMode == "New")
+    if (editMode == EditMode::New)
         fillForNew();
     else
         fillForEdit();
-    ChangeFlag = CancelledFlag = CloseOK = kFalse;
     picker_->reset();
 }
 
 void FrmEvent::fillForNew() {
     caption = "Quillhollow - New Event";
-    showRecurrence("None");
+    showRecurrence(Recurrence::None);
     for (const char* box : kWeekdayBoxes) setQuietly(box, false);
     setQuietly(RadioMonthlyThisDate.key(), true);
     setQuietly(RadioYearlyThisDate.key(), true);
@@ -133,7 +133,7 @@ void FrmEvent::fillForNew() {
     TextBoxNotes->text.clear();
     ShowEntry(*ComboTime, "None");
     ShowEntry(*ComboType, "None");
-    ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
+    ShowEntryAt(*ComboRemindMe, 0);
     StoreEventDate = StoreEndDate = host_.clickedDate();
     TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
     showEndDate(StoreEndDate);
@@ -148,24 +148,19 @@ void FrmEvent::fillForEdit() {
     TextBoxNotes->text = tempEventNotes;
     ShowEntry(*ComboType, tempEventType);
     ShowEntry(*ComboTime, tempEventTime);
-    ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
-    for (const std::string& entry : ComboRemindMe->items)
-        if (entry == tempEventReminder) {
-            ShowEntry(*ComboRemindMe, entry);
-            break;
-        }
+    ShowListedEntry(*ComboRemindMe, tempEventReminder, 0);
     StoreEventDate = parseDateText(tempEventDate).value_or(host_.clickedDate());
     TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
     setQuietly(RadioMonthlyThisDate.key(), true);
     setQuietly(RadioYearlyThisDate.key(), true);
-    showRecurrence(tempEventRecurrence);
-    if (Recurrence == "Month" || Recurrence == "Year") {
-        const bool monthly = Recurrence == "Month";
+    showRecurrence(recurrenceOf(tempEventRecurrence));
+    if (recurrence == Recurrence::Month || recurrence == Recurrence::Year) {
+        const bool monthly = recurrence == Recurrence::Month;
         if (tempEventSameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
         ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEventRepeatNumber);
         ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEventRepeatDay);
         if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
-    } else if (Recurrence == "Day") {
+    } else if (recurrence == Recurrence::Day) {
         for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i)
             setQuietly(kWeekdayBoxes[i], i < tempEventRepeatDaily.size() && tempEventRepeatDaily[i] == 'T');
     }
@@ -174,69 +169,45 @@ void FrmEvent::fillForEdit() {
     const std::optional<Date> end = parseDateText(tempEventEndDate);
     StoreEndDate = end.value_or(StoreEventDate);
     const bool endOn = tempEventEnd == "True";
-    showEndDate(endOn ? StoreEndDate : ProposedEndDate(Recurrence, StoreEventDate));
+    showEndDate(endOn ? StoreEndDate : ProposedEndDate(recurrence, StoreEventDate));
     showEndLine(endOn);
     ResetDays = false;
     ButtonDelete->enabled = true;
 }
 
 void FrmEvent::ButtonOK_Click() {
-    const bool monthly = Recurrence == "Month";
+    const bool monthly = recurrence == Recurrence::Month;
     const bool anyDay = weekdayLetters().find('T') != std::string::npos;
     const auto refusal = EventOkRefusal({
         .name = TextBoxEvent->text,
-        .recurrence = Recurrence,
+        .recurrence = recurrence,
         .anyWeekdayTicked = anyDay,
         .endOn = RadioEndOn->checked,
         .eventDate = StoreEventDate,
         .endDate = StoreEndDate,
-        .userRule = monthly ? RadioMonthlyUser->checked : Recurrence == "Year" && RadioYearlyUser->checked,
+        .userRule = monthly ? RadioMonthlyUser->checked : recurrence == Recurrence::Year && RadioYearlyUser->checked,
         .repeatNumber = (monthly ? ComboMonthlyNumber : ComboYearlyNumber)->text,
         .repeatDay = (monthly ? ComboMonthlyDay : ComboYearlyDay)->text,
     });
     if (refusal) {
-        platform_.messages.show(refusal->message, "Quillhollow", MessageButtons::OK, MessageIcon::Information);
+        tell(refusal->message);
         return;
     }
-    CancelledFlag = DeleteFlag = kFalse;
-    leave();
+    finish(EditorOutcome::Saved);
 }
 
-void FrmEvent::leave() {
-    CloseOK = kTrue;
-    showSize(true);
-    hide();
-}
-
-void FrmEvent::CancelEvent() {
-    if (ChangeFlag) {
-        const std::string question = EditMode == "New" ? "Cancel this Event?" : "Cancel all changes to this Event?";
-        if (platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Information) !=
-            MessageAnswer::Yes)
-            return;
-    }
-    CancelledFlag = kTrue;
-    leave();
-}
-
-bool FrmEvent::Form_QueryUnload(UnloadMode mode) {
-    if (mode == UnloadMode::ProgramEnd) return true;
-    CancelEvent();
-    return false;
+void FrmEvent::cancel() {
+    confirmCancel(editMode == EditMode::New ? "Cancel this Event?" : "Cancel all changes to this Event?");
 }
 
 void FrmEvent::ButtonDelete_Click() {
-    if (platform_.messages.show("Are you sure you want to Delete this Event?", "Quillhollow", MessageButtons::YesNo,
-                                MessageIcon::Information) != MessageAnswer::Yes)
-        return;
+    if (!ask("Are you sure you want to Delete this Event?")) return;
     TextBoxEvent->text = kDeletedRecord;
-    DeleteFlag = kTrue;
-    CancelledFlag = kFalse;
-    leave();
+    finish(EditorOutcome::Deleted);
 }
 
 void FrmEvent::ButtonShare_Click() {
-    if (EditMode == "Edit")
+    if (editMode == EditMode::Edit)
         shareOut();
     else
         shareIn();
@@ -247,7 +218,7 @@ void FrmEvent::shareOut() {
                       .firstDate = StoreEventDate,
                       .type = ComboType->text,
                       .time = ComboTime->text,
-                      .recurrence = Recurrence,
+                      .recurrence = recurrenceText(recurrence),
                       .monthlyThisDate = RadioMonthlyThisDate->checked,
                       .monthlyNumber = ComboMonthlyNumber->text,
                       .monthlyDay = ComboMonthlyDay->text,
@@ -267,14 +238,15 @@ void FrmEvent::shareIn() {
     type(TextBoxEvent.key(), event->name);
     StoreEventDate = event->firstDate;
     TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
-    ChangeFlag = kTrue;
+    markChanged();
     ChooseEntry(*this, ComboType.key(), event->type);
     ChooseEntry(*this, ComboTime.key(), event->time);
     // The radio runs the panel's defaults for the date; the rule read then overwrites them.
     ResetDays = true;
-    setChecked(RecurrenceRadio(event->recurrence), true);
-    if (event->recurrence == "Month" || event->recurrence == "Year") {
-        const bool monthly = event->recurrence == "Month";
+    const Recurrence shared = recurrenceOf(event->recurrence);
+    setChecked(RecurrenceRadio(shared), true);
+    if (shared == Recurrence::Month || shared == Recurrence::Year) {
+        const bool monthly = shared == Recurrence::Month;
         const bool sameDate = monthly ? event->monthlyThisDate : event->yearlyThisDate;
         if (monthly)
             setChecked(sameDate ? RadioMonthlyThisDate.key() : RadioMonthlyUser.key(), true);
@@ -284,11 +256,11 @@ void FrmEvent::shareIn() {
         ChooseEntry(*this, ComboMonthlyDay.key(), event->monthlyDay);
         ChooseEntry(*this, ComboYearlyNumber.key(), event->yearlyNumber);
         ChooseEntry(*this, ComboYearlyDay.key(), event->yearlyDay);
-    } else if (event->recurrence == "Day") {
+    } else if (shared == Recurrence::Day) {
         for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i) setChecked(kWeekdayBoxes[i], event->weekdays[i]);
     }
     StoreEndDate = event->endDate;
-    showEndDate(event->endOn ? StoreEndDate : ProposedEndDate(Recurrence, StoreEventDate));
+    showEndDate(event->endOn ? StoreEndDate : ProposedEndDate(recurrence, StoreEventDate));
     showEndLine(event->endOn);
     type(TextBoxNotes.key(), event->notes);
 }
@@ -298,7 +270,7 @@ void FrmEvent::Form_MouseDown(const std::string& controlKey) { picker_->windowPr
 Date FrmEvent::pickerFieldDate(bool firstField) { return firstField ? StoreEventDate : shownEndDate_; }
 
 void FrmEvent::pickerWroteDate(bool firstField, Date date) {
-    ChangeFlag = kTrue;
+    markChanged();
     if (firstField) {
         StoreEventDate = date;
         ResetDays = true;

@@ -1,7 +1,7 @@
 #pragma once
 // frmEvent: one event made, changed or deleted, with the recurrence panel that is the only
 // source of its rule. The event procedures fill the public fields, show the window modal
-// and, after it hides, read CancelledFlag, the form's dates and its controls into the
+// and, after it hides, read its outcome, the form's dates and its controls into the
 // event columns.
 //
 // The window has two heights: small shows the event alone, large adds the recurrence
@@ -12,15 +12,16 @@
 #include <string>
 
 #include "calendar/date_picker.h"
-#include "common/int16.h"
+#include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "recurrence/event_rule.h"
 
 namespace qh {
 
 class EditorHost;
 
-class FrmEvent : public Form, public DatePickerOwner, public HasDatePicker {
+class FrmEvent : public EditorForm, public DatePickerOwner, public HasDatePicker {
 public:
     static constexpr int kOuterWidth = 6330, kSmallHeight = 4305, kLargeHeight = 6645;
 
@@ -29,7 +30,6 @@ public:
 
     // Set by the caller before the showing; for an edit also the thirteen texts of the
     // record as its columns hold them.
-    std::string EditMode = "New";
     bool FormSmall = true;
     std::string tempEventDate, tempEventDescription, tempEventType, tempEventTime, tempEventReminder,
         tempEventRecurrence, tempEventSameDate, tempEventRepeatNumber, tempEventRepeatDay, tempEventRepeatDaily,
@@ -37,22 +37,18 @@ public:
     // Where the share dialogs start.
     std::string DocumentDirectory;
 
-    // The form's state; the caller reads the two dates and Recurrence after a save.
+    // The form's state; the caller reads the two dates and the recurrence after a save.
     Date StoreEventDate = 0, StoreEndDate = 0;
-    std::string Recurrence = "None";
+    Recurrence recurrence = Recurrence::None;
     bool ResetDays = true;
-    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, DeleteFlag = kFalse, CloseOK = kFalse;
 
     void Form_Load() override;
-    void Form_Activate() override;
-    bool Form_QueryUnload(UnloadMode mode) override;
     void Form_MouseDown(const std::string& controlKey) override;
 
-    // Sets the panel of Recurrence to the defaults of StoreEventDate and proposes the end
-    // date that kind of repetition starts with.
+    // Sets the panel of the recurrence to the defaults of StoreEventDate and proposes the
+    // end date that kind of repetition starts with.
     void ShowRecurrencePanel();
-    // ButtonCancel and the close box.
-    void CancelEvent();
+    void cancel() override;
     // Monday first, the weekday boxes as "T" and "F" letters.
     std::string weekdayLetters() const;
 
@@ -91,9 +87,9 @@ public:
     ControlRef ButtonDelete{this, "ButtonDelete"};
     ControlRef ButtonShare{this, "ButtonShare"};
 
-    // The radio that chooses a recurrence ("Day": RadioRepeatDaily); RadioRepeatNone for
-    // any text but the four.
-    static std::string RecurrenceRadio(const std::string& recurrence);
+    // The radio that chooses a recurrence (Day: RadioRepeatDaily); RadioRepeatNone for
+    // Other.
+    static std::string RecurrenceRadio(Recurrence recurrence);
     // CheckBoxMonday .. CheckBoxSunday.
     static const std::array<const char*, 7> kWeekdayBoxes;
 
@@ -102,13 +98,16 @@ private:
     void buildRecurrencePanel();
     void bindHandlers();
     void bindRecurrenceHandlers();
+    void showRecord() override;
+    void beforeHide() override { showSize(true); }
     void fillForNew();
     void fillForEdit();
     void showSize(bool small);
     // Sets a box or radio from code without its click's consequences.
     void setQuietly(const std::string& key, bool checked);
-    // The recurrence radio's frame in front, Recurrence and the date's label.
-    void showRecurrence(const std::string& recurrence);
+    // The recurrence radio's frame in front, `recurrence` and the date's label; Other
+    // shows as None.
+    void showRecurrence(Recurrence shown);
     // The end-date line on (the end date counts) or off, with the date it shows.
     void showEndLine(bool on);
     void showEndDate(Date date);
@@ -117,7 +116,6 @@ private:
     void ButtonShare_Click();
     void shareOut();
     void shareIn();
-    void leave();
 
     Platform& platform_;
     EditorHost& host_;

@@ -14,15 +14,15 @@ constexpr int kPanelLeft = 1560, kPanelTop = 3840, kPanelWidth = 4530, kPanelHei
 struct RecurrenceChoice {
     const char* radio;
     const char* frame;
-    const char* recurrence;
+    Recurrence recurrence;
     const char* caption;
 };
-constexpr RecurrenceChoice kChoices[] = {{"RadioRepeatNone", "FrameNone", "None", "None"},
-                                         {"RadioRepeatDaily", "FrameDaily", "Day", "Daily"},
-                                         {"RadioRepeatMonthly", "FrameMonthly", "Month", "Monthly"},
-                                         {"RadioRepeatYearly", "FrameYearly", "Year", "Yearly"}};
+constexpr RecurrenceChoice kChoices[] = {{"RadioRepeatNone", "FrameNone", Recurrence::None, "None"},
+                                         {"RadioRepeatDaily", "FrameDaily", Recurrence::Day, "Daily"},
+                                         {"RadioRepeatMonthly", "FrameMonthly", Recurrence::Month, "Monthly"},
+                                         {"RadioRepeatYearly", "FrameYearly", Recurrence::Year, "Yearly"}};
 
-const RecurrenceChoice& choiceFor(const std::string& recurrence) {
+const RecurrenceChoice& choiceFor(Recurrence recurrence) {
     for (const RecurrenceChoice& choice : kChoices)
         if (recurrence == choice.recurrence) return choice;
     return kChoices[0];
@@ -34,7 +34,7 @@ const std::array<const char*, 7> FrmEvent::kWeekdayBoxes = {"CheckBoxMonday",   
                                                             "CheckBoxThursday", "CheckBoxFriday",  "CheckBoxSaturday",
                                                             "CheckBoxSunday"};
 
-std::string FrmEvent::RecurrenceRadio(const std::string& recurrence) { return choiceFor(recurrence).radio; }
+std::string FrmEvent::RecurrenceRadio(Recurrence recurrence) { return choiceFor(recurrence).radio; }
 
 void FrmEvent::buildRecurrencePanel() {
     const auto onFace = [](Control& control) -> Control& {
@@ -89,15 +89,16 @@ void FrmEvent::buildRecurrencePanel() {
 
 void FrmEvent::bindRecurrenceHandlers() {
     for (const RecurrenceChoice& choice : kChoices) {
-        const std::string radio = choice.radio, recurrence = choice.recurrence;
-        on(radio, FormEvent::Click, [this, radio, recurrence](const EventArgs&) {
+        const std::string radio = choice.radio;
+        const Recurrence chosen = choice.recurrence;
+        on(radio, FormEvent::Click, [this, radio, chosen](const EventArgs&) {
             if (quiet_ || !c(radio).checked) return;
-            showRecurrence(recurrence);
-            if (recurrence == "None")
+            showRecurrence(chosen);
+            if (chosen == Recurrence::None)
                 showEndLine(false);
             else
                 ShowRecurrencePanel();
-            ChangeFlag = kTrue;
+            markChanged();
         });
     }
     on(CheckboxEndDate.key(), FormEvent::Click, [this](const EventArgs&) {
@@ -105,16 +106,16 @@ void FrmEvent::bindRecurrenceHandlers() {
         // Switched on, the date the line shows is the end date, the proposal included.
         if (CheckboxEndDate->checked) StoreEndDate = shownEndDate_;
         showEndLine(CheckboxEndDate->checked);
-        ChangeFlag = kTrue;
+        markChanged();
     });
 }
 
-void FrmEvent::showRecurrence(const std::string& recurrence) {
-    const RecurrenceChoice& choice = choiceFor(recurrence);
-    Recurrence = choice.recurrence;
+void FrmEvent::showRecurrence(Recurrence shown) {
+    const RecurrenceChoice& choice = choiceFor(shown);
+    recurrence = choice.recurrence;
     setQuietly(choice.radio, true);
     bringToFront(choice.frame);
-    LabelDate->caption = Recurrence == "None" ? "Date" : "Start Date";
+    LabelDate->caption = recurrence == Recurrence::None ? "Date" : "Start Date";
 }
 
 void FrmEvent::showEndLine(bool on) {
@@ -130,26 +131,26 @@ void FrmEvent::showEndDate(Date date) {
 }
 
 void FrmEvent::ShowRecurrencePanel() {
-    if (Recurrence == "None") {
+    if (recurrence == Recurrence::None) {
         showEndLine(false);
         return;
     }
-    if (Recurrence == "Day" && ResetDays) {
+    if (recurrence == Recurrence::Day && ResetDays) {
         const std::array<bool, 7> boxes = WeekdayBoxesFor(StoreEventDate);
         for (std::size_t i = 0; i < boxes.size(); ++i) setQuietly(kWeekdayBoxes[i], boxes[i]);
         ResetDays = false;
     }
-    if (Recurrence == "Month" || Recurrence == "Year") {
-        const bool monthly = Recurrence == "Month";
+    if (recurrence == Recurrence::Month || recurrence == Recurrence::Year) {
+        const bool monthly = recurrence == Recurrence::Month;
         const RepeatOrdinal ordinal = RepeatOrdinalFor(StoreEventDate);
         ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, std::string(ordinal.number));
         ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, std::string(ordinal.day));
         setQuietly(monthly ? RadioMonthlyThisDate.key() : RadioYearlyThisDate.key(), true);
         if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
     }
-    StoreEndDate = ProposedEndDate(Recurrence, StoreEventDate);
+    StoreEndDate = ProposedEndDate(recurrence, StoreEventDate);
     showEndDate(StoreEndDate);
-    showEndLine(EndDateStartsOn(Recurrence));
+    showEndLine(EndDateStartsOn(recurrence));
 }
 
 std::string FrmEvent::weekdayLetters() const {

@@ -2,7 +2,8 @@
 
 namespace qh {
 
-FrmSelectCourseSchedule::FrmSelectCourseSchedule(Platform&) : Form("frmSelectCourseSchedule") {
+FrmSelectCourseSchedule::FrmSelectCourseSchedule(Platform& platform)
+    : EditorForm("frmSelectCourseSchedule", platform.messages) {
     caption = "Quillhollow - Select a Term";
     fixedSize = true;
     setOuterSize(4770, 3300);
@@ -19,16 +20,16 @@ FrmSelectCourseSchedule::FrmSelectCourseSchedule(Platform&) : Form("frmSelectCou
     bindControls();
     cancelButton = ButtonCancel.key();
 
-    const auto leaveWith = [this](Int16 FrmSelectCourseSchedule::*flag, Int16 value) {
-        return [this, flag, value](const EventArgs&) {
-            this->*flag = value;
-            hide();
+    const auto choose = [this](TermChoice chosen) {
+        return [this, chosen](const EventArgs&) {
+            choice = chosen;
+            finish(EditorOutcome::Saved);
         };
     };
-    on(ButtonActive.key(), FormEvent::Click, leaveWith(&FrmSelectCourseSchedule::MakeActive, kTrue));
-    on(ButtonEdit.key(), FormEvent::Click, leaveWith(&FrmSelectCourseSchedule::NewCourse, kFalse));
-    on(ButtonNew.key(), FormEvent::Click, leaveWith(&FrmSelectCourseSchedule::NewCourse, kTrue));
-    on(ButtonCancel.key(), FormEvent::Click, leaveWith(&FrmSelectCourseSchedule::Cancelled, kTrue));
+    on(ButtonActive.key(), FormEvent::Click, choose(TermChoice::MakeActive));
+    on(ButtonEdit.key(), FormEvent::Click, choose(TermChoice::EditSchedule));
+    on(ButtonNew.key(), FormEvent::Click, choose(TermChoice::NewSchedule));
+    on(ButtonCancel.key(), FormEvent::Click, [this](const EventArgs&) { cancel(); });
 }
 
 void FrmSelectCourseSchedule::Form_Load() {
@@ -36,18 +37,6 @@ void FrmSelectCourseSchedule::Form_Load() {
     for (const ControlRef* control :
          {&Label1, &ComboTermList, &ButtonEdit, &ButtonActive, &ButtonNew, &CheckBoxBasedOnTerm, &ButtonCancel})
         (*control)->helpContextId = number++;
-}
-
-void FrmSelectCourseSchedule::Form_Activate() {
-    Cancelled = NewCourse = MakeActive = kFalse;
-}
-
-bool FrmSelectCourseSchedule::Form_QueryUnload(UnloadMode mode) {
-    if (mode == UnloadMode::ProgramEnd) return true;
-    // The close box is Cancel; the window stays loaded for the next time.
-    Cancelled = kTrue;
-    hide();
-    return false;
 }
 
 }  // namespace qh

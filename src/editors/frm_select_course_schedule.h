@@ -1,30 +1,28 @@
 #pragma once
 // frmSelectCourseSchedule: which term, and what to do with it. The schedule procedure
-// (RecordActions::EditClassSchedule) fills the term list, shows the window modal and
-// reads the three flags after it hides.
+// (RecordActions::EditClassSchedule) fills the term list, shows the window modal and,
+// unless the outcome is Cancelled, acts on the choice.
 #include <string>
 #include <vector>
 
-#include "common/int16.h"
+#include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
 
 namespace qh {
 
-class FrmSelectCourseSchedule : public Form {
+class FrmSelectCourseSchedule : public EditorForm {
 public:
     explicit FrmSelectCourseSchedule(Platform& platform);
 
-    // Public fields, read by the caller after the window hides.
-    Int16 Cancelled = kFalse;
-    Int16 NewCourse = kFalse;
-    Int16 MakeActive = kFalse;
-    std::string SelectedCourse, SelectedTermID;  // kept, not used by the schedule procedure
-    std::vector<std::string> tempTermIDArray;    // term IDs in the order of ComboTermList
+    // The button that ended the showing; read only when the outcome is Saved.
+    enum class TermChoice { EditSchedule, NewSchedule, MakeActive };
+    TermChoice choice = TermChoice::EditSchedule;
+    std::vector<std::string> tempTermIDArray;  // term IDs in the order of ComboTermList
 
     void Form_Load() override;
-    void Form_Activate() override;
-    bool Form_QueryUnload(UnloadMode mode) override;
+    // Cancel and the close box leave at once: nothing here is worth a question.
+    void cancel() override { finish(EditorOutcome::Cancelled); }
 
     ControlRef Label1{this, "Label1"};
     ControlRef ComboTermList{this, "ComboTermList"};
@@ -33,6 +31,9 @@ public:
     ControlRef ButtonNew{this, "ButtonNew"};
     ControlRef CheckBoxBasedOnTerm{this, "CheckBoxBasedOnTerm"};
     ControlRef ButtonCancel{this, "ButtonCancel"};
+
+private:
+    void showRecord() override {}
 };
 
 }  // namespace qh

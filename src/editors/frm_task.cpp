@@ -9,7 +9,8 @@
 
 namespace qh {
 
-FrmTask::FrmTask(Platform& platform, EditorHost& host) : Form("FrmTask"), platform_(platform), host_(host) {
+FrmTask::FrmTask(Platform& platform, EditorHost& host)
+    : EditorForm("FrmTask", platform.messages), platform_(platform), host_(host) {
     setCanvasFactory(&platform.canvases);
     buildControls();
     picker_ = std::make_unique<DatePicker>(*this, platform, *this, [&host] { return host.startDayOfWeek(); },
@@ -76,22 +77,19 @@ void FrmTask::bindHandlers() {
     onClick(ButtonOK, &FrmTask::ButtonOK_Click);
     onClick(ButtonDelete, &FrmTask::ButtonDelete_Click);
     onClick(ButtonShare, &FrmTask::ButtonShare_Click);
-    on(ButtonCancel.key(), FormEvent::Click, [this](const EventArgs&) {
-        CancelTask();
-        if (CloseOK) hide();
-    });
+    onClick(ButtonCancel, &FrmTask::cancel);
     const auto changes = [this](const ControlRef& control, FormEvent event) {
-        on(control.key(), event, [this](const EventArgs&) { ChangeFlag = kTrue; });
+        on(control.key(), event, [this](const EventArgs&) { markChanged(); });
     };
     changes(TextBoxDescription, FormEvent::Change);
     changes(TextBoxNotes, FormEvent::Change);
     for (const ControlRef* combo : {&ComboRemindMe, &ComboType, &ComboPriority}) changes(*combo, FormEvent::Click);
     on(CheckBoxDone.key(), FormEvent::Click, [this](const EventArgs&) {
-        ChangeFlag = kTrue;
+        markChanged();
         showDone();
     });
     on(CheckBoxDeadline.key(), FormEvent::Click, [this](const EventArgs&) {
-        ChangeFlag = kTrue;
+        markChanged();
         showDeadline(CheckBoxDeadline->checked);
     });
     on("picHelp", FormEvent::Click, [this](const EventArgs&) { platform_.windowing.enterWhatsThisMode(); });
@@ -127,8 +125,8 @@ void FrmTask::showDone() {
     CheckBoxDone->backColor = LabelDoneBG->backColor = back;
 }
 
-void FrmTask::Form_Activate() {
-    if (EditMode == "New") {
+void FrmTask::showRecord() {
+    if (editMode == EditMode::New) {
         caption = "Quillhollow - New Task";
         TextBoxDescription->text.clear();
         TextBoxNotes->text.clear();
@@ -136,7 +134,7 @@ void FrmTask::Form_Activate() {
         ButtonDelete->visible = false;
         ShowEntry(*ComboPriority, "None");
         ShowEntry(*ComboType, "None");
-        ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
+        ShowEntryAt(*ComboRemindMe, 0);
         tempTaskDate = host_.clickedDate();
         setChecked(CheckBoxDeadline.key(), false);
     } else {
@@ -147,13 +145,7 @@ void FrmTask::Form_Activate() {
         ButtonDelete->visible = true;
         ShowEntry(*ComboPriority, tempTaskPriority);
         ShowEntry(*ComboType, tempTaskType);
-        // A reminder the list doesn't hold leaves the first entry.
-        ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
-        for (const std::string& entry : ComboRemindMe->items)
-            if (entry == tempTaskReminder) {
-                ShowEntry(*ComboRemindMe, entry);
-                break;
-            }
+        ShowListedEntry(*ComboRemindMe, tempTaskReminder, 0);
         setChecked(CheckBoxDeadline.key(), tempTaskDateExists == "True");
     }
     TextboxTaskDate->text = platform_.locale.longDate(tempTaskDate);
@@ -161,8 +153,6 @@ void FrmTask::Form_Activate() {
     showDone();
     ButtonShare->caption = "Share";
     SetFocus(TextBoxDescription.key());
-    // The filling above fired the boxes' clicks; it counts as no change.
-    ChangeFlag = CancelledFlag = CloseOK = kFalse;
     picker_->reset();
 }
 
@@ -170,46 +160,26 @@ void FrmTask::ButtonOK_Click() {
     const auto refusal = TaskOkRefusal(
         {.description = TextBoxDescription->text, .reminder = ComboRemindMe->text, .deadline = CheckBoxDeadline->checked});
     if (refusal) {
-        platform_.messages.show(refusal->message, "Quillhollow", MessageButtons::OK, MessageIcon::Information);
+        tell(refusal->message);
         return;
     }
-    CloseOK = kTrue;
-    CancelledFlag = DeleteFlag = kFalse;
-    hide();
+    finish(EditorOutcome::Saved);
 }
 
-void FrmTask::CancelTask() {
-    if (ChangeFlag) {
-        const std::string question = EditMode == "New" ? "Cancel this Task?" : "Cancel all changes to this Task?";
-        if (platform_.messages.show(question, "Quillhollow", MessageButtons::YesNo, MessageIcon::Question) !=
-            MessageAnswer::Yes)
-            return;
-    }
-    CancelledFlag = CloseOK = kTrue;
-}
-
-bool FrmTask::Form_QueryUnload(UnloadMode mode) {
-    if (mode == UnloadMode::ProgramEnd) return true;
-    CancelTask();
-    if (CloseOK) hide();
-    return false;
+void FrmTask::cancel() {
+    confirmCancel(editMode == EditMode::New ? "Cancel this Task?" : "Cancel all changes to this Task?",
+                  MessageIcon::Question);
 }
 
 void FrmTask::ButtonDelete_Click() {
-    DeleteFlag = kFalse;
-    if (platform_.messages.show("Are you sure you want to Delete this Task?", "Quillhollow", MessageButtons::YesNo,
-                                MessageIcon::Question) != MessageAnswer::Yes)
-        return;
+    if (!ask("Are you sure you want to Delete this Task?", MessageIcon::Question)) return;
     TextBoxDescription->text = kDeletedRecord;
     setChecked(CheckBoxDone.key(), true);
-    DeleteFlag = kTrue;
-    CancelledFlag = kFalse;
-    CloseOK = kTrue;
-    hide();
+    finish(EditorOutcome::Deleted);
 }
 
 void FrmTask::ButtonShare_Click() {
-    if (EditMode == "Edit") {
+    if (editMode == EditMode::Edit) {
         const SharedTask task{.description = TextBoxDescription->text,
                               .deadline = CheckBoxDeadline->checked,
                               .date = tempTaskDate,
@@ -236,7 +206,7 @@ void FrmTask::Form_MouseDown(const std::string& controlKey) { picker_->windowPre
 Date FrmTask::pickerFieldDate(bool) { return tempTaskDate; }
 
 void FrmTask::pickerWroteDate(bool, Date date) {
-    ChangeFlag = kTrue;
+    markChanged();
     tempTaskDate = date;
     // A picked date is a deadline.
     if (!CheckBoxDeadline->checked) setChecked(CheckBoxDeadline.key(), true);

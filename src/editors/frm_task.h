@@ -1,12 +1,12 @@
 #pragma once
 // FrmTask: one task made, changed or deleted. The window holds no record logic: the task
-// procedures fill its public fields, show it modal and, after it hides, read
-// CancelledFlag and its controls into the task columns.
+// procedures fill its public fields, show it modal and, after it hides, read its outcome
+// and its controls into the task columns.
 #include <memory>
 #include <string>
 
 #include "calendar/date_picker.h"
-#include "common/int16.h"
+#include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
 
@@ -14,7 +14,7 @@ namespace qh {
 
 class EditorHost;
 
-class FrmTask : public Form, public DatePickerOwner, public HasDatePicker {
+class FrmTask : public EditorForm, public DatePickerOwner, public HasDatePicker {
 public:
     FrmTask(Platform& platform, EditorHost& host);
     ~FrmTask() override;
@@ -24,20 +24,13 @@ public:
     std::string tempTaskDescription, tempTaskDateExists, tempTaskType, tempTaskPriority, tempTaskDone,
         tempTaskNotes, tempTaskReminder;
     Date tempTaskDate = 0;
-    int SelectedTaskIndex = 0;
-    std::string EditMode = "New";
     // Where the share dialogs start.
     std::string DocumentDirectory;
-    Int16 ChangeFlag = kFalse, CancelledFlag = kTrue, DeleteFlag = kFalse, CloseOK = kFalse;
 
     void Form_Load() override;
-    void Form_Activate() override;
-    bool Form_QueryUnload(UnloadMode mode) override;
     void Form_MouseDown(const std::string& controlKey) override;
 
-    // ButtonCancel and the close box: asks when something changed, then sets
-    // CancelledFlag and CloseOK; any answer but Yes leaves both as they were.
-    void CancelTask();
+    void cancel() override;
 
     Date pickerFieldDate(bool firstField) override;
     void pickerWroteDate(bool firstField, Date date) override;
@@ -61,6 +54,7 @@ public:
 private:
     void buildControls();
     void bindHandlers();
+    void showRecord() override;
     void showDeadline(bool on);
     void showDone();
     void ButtonOK_Click();

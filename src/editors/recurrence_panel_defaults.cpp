@@ -23,13 +23,21 @@ std::array<bool, 7> WeekdayBoxesFor(Date date) {
     return boxes;
 }
 
-Date ProposedEndDate(std::string_view recurrence, Date first) {
-    if (recurrence == "Day") return ShiftDate(first, 0, 0, 14);
-    if (recurrence == "Month") return ShiftDate(first, 0, 6, 0);
-    if (recurrence == "Year") return ShiftDate(first, 5, 0, 0);
+Date ProposedEndDate(Recurrence recurrence, Date first) {
+    switch (recurrence) {
+        case Recurrence::Day:
+            return ShiftDate(first, 0, 0, 14);
+        case Recurrence::Month:
+            return ShiftDate(first, 0, 6, 0);
+        case Recurrence::Year:
+            return ShiftDate(first, 5, 0, 0);
+        case Recurrence::None:
+        case Recurrence::Other:
+            break;
+    }
     return first;
 }
 
-bool EndDateStartsOn(std::string_view recurrence) { return recurrence == "Day" || recurrence == "Month"; }
+bool EndDateStartsOn(Recurrence recurrence) { return recurrence == Recurrence::Day || recurrence == Recurrence::Month; }
 
 }  // namespace qh

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "common/day_number.h"
+#include "recurrence/event_rule.h"
 
 namespace qh {
 
@@ -42,17 +43,17 @@ RepeatOrdinal RepeatOrdinalFor(Date date);
 // with only the box of the date's own weekday on: what a new date resets them to.
 std::array<bool, 7> WeekdayBoxesFor(Date date);
 
-// The end date the editor proposes for a rule first on `first`, by the `Recurrence` text:
-// "Day" the first date plus 14 days, "Month" plus 6 months, "Year" plus 5 years, each on
-// ShiftDate, so a month or year step clamps to a shorter month (31 August + 6 months is
-// 28 or 29 February; 29 February + 5 years is 28 February of a common year). "None", and
-// any text the editor doesn't write, proposes the first date itself.
-Date ProposedEndDate(std::string_view recurrence, Date first);
+// The end date the editor proposes for a rule first on `first`, by its recurrence: Day
+// the first date plus 14 days, Month plus 6 months, Year plus 5 years, each on ShiftDate,
+// so a month or year step clamps to a shorter month (31 August + 6 months is 28 or 29
+// February; 29 February + 5 years is 28 February of a common year). None, and a kind the
+// editor doesn't write, proposes the first date itself.
+Date ProposedEndDate(Recurrence recurrence, Date first);
 
 // Whether the visible end-date line (`CheckboxEndDate`, `RadioEndOn`) starts on when
-// `ShowRecurrencePanel` sets up a recurrence: on for "Day" and "Month", off for "Year"
-// (a yearly event defaults to no end, though its proposed date is still shown) and for
-// "None".
-bool EndDateStartsOn(std::string_view recurrence);
+// `ShowRecurrencePanel` sets up a recurrence: on for Day and Month, off for Year (a
+// yearly event defaults to no end, though its proposed date is still shown) and for
+// None.
+bool EndDateStartsOn(Recurrence recurrence);
 
 }  // namespace qh

@@ -182,7 +182,7 @@ constexpr std::size_t kNameCharacters = 40;
 // in 9999 would carry it past the last date there is.
 bool proposalInCalendar(std::string_view recurrence, Date first) {
     try {
-        ProposedEndDate(recurrence, first);
+        ProposedEndDate(recurrenceOf(recurrence), first);
         return true;
     } catch (const UntrappedFailure&) {
         return false;

@@ -8,17 +8,17 @@
 // How an editor wires ButtonShare with these structs (shared_file_transfer.h holds the
 // dialog and file halves):
 //
-// - EditMode "Edit": fill the kind's struct from the controls exactly as they stand on
+// - EditMode::Edit: fill the kind's struct from the controls exactly as they stand on
 //   screen, unsaved changes included (list selections as their texts, checks as bools, the
 //   dates the form keeps: the assignment's due date, tempTaskDate, StoreEventDate and
 //   StoreEndDate), and call ShareOut with DocumentDirectory, sharedFileBytes(struct) and
 //   the name of sharedAssignmentFileName or sharedFileName. Nothing else changes: no
-//   message after a write, the form, ChangeFlag and the record store stay as they are.
+//   message after a write, the form, its change mark and the record store stay as they are.
 //   This mode never reads.
-// - Any other EditMode (a new record): call the kind's ShareIn. On nothing (cancel, or a
+// - Any other edit mode (a new record): call the kind's ShareIn. On nothing (cancel, or a
 //   refused file, whose message ShareIn has shown) leave the form as it is. Otherwise put
-//   every field into its control, each through the control's own handler (so ChangeFlag
-//   is set as for typing), in the order of the struct's fields. This mode never writes.
+//   every field into its control, each through the control's own handler (so the window
+//   counts a change as for typing), in the order of the struct's fields. This mode never writes.
 //   - Assignment: a class name the list doesn't hold is handed to ComboClassNameList as
 //     text, as any other text set on the list. The due date shows as "Long Date" and
 //     tempAssignmentDate becomes its "Short Date" text.

@@ -45,7 +45,7 @@ StudySessionSummary RecalculateSessions(const TextColumn& lengths, std::string_v
     summary.minutesLeft = TimeLeftMinutes(estimatedTime, sums);
     summary.timeLeft = TimeLeftText(summary.minutesLeft);
     summary.timeLeftBack = std::string(TimeLeftBackColor(done));
-    summary.updateEstimateFlag = EstimateUsedUp(summary.minutesLeft);
+    summary.estimateUsedUp = EstimateUsedUp(summary.minutesLeft);
     return summary;
 }
 

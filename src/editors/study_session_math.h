@@ -44,10 +44,10 @@ std::string TotalTimeText(const StudySessionSums& sums);
 // `TextBoxTimeLeft`: the minutes left divided by 60 (toward zero), " : ", the remainder
 // (with the sign of the minutes left), each cut to two characters. Over the estimate the
 // text is what the cut leaves: 30 minutes over "00 : 30", 5 over "00 : -5", 90 over
-// "-1 : 30". That text stays as it is: UpdateEstimateFlag carries the meaning.
+// "-1 : 30". That text stays as it is: estimateUsedUp carries the meaning.
 std::string TimeLeftText(long long minutesLeft);
 
-// `UpdateEstimateFlag`: true when less than one minute is left, at 0 too.
+// `estimateUsedUp`: true when less than one minute is left, at 0 too.
 bool EstimateUsedUp(long long minutesLeft);
 
 // The background of `TextBoxTimeLeft`: "Honeydew" while `CheckBoxDone` is set,
@@ -55,14 +55,14 @@ bool EstimateUsedUp(long long minutesLeft);
 std::string_view TimeLeftBackColor(bool done);
 
 // Everything `RecalculateSessions` shows, for the window's session lengths, the text of
-// `ComboEstTime` and the state of `CheckBoxDone`. (The caller sets `ChangeFlag` as well.)
+// `ComboEstTime` and the state of `CheckBoxDone`. (The caller counts it as a change as well.)
 struct StudySessionSummary {
     std::string caption;        // LabelStudySessions
     std::string totalTime;      // TextBoxTotalTime
     std::string timeLeft;       // TextBoxTimeLeft
     std::string timeLeftBack;   // its background colour name
     long long minutesLeft = 0;
-    bool updateEstimateFlag = false;
+    bool estimateUsedUp = false;
 };
 StudySessionSummary RecalculateSessions(const TextColumn& lengths, std::string_view estimatedTime, bool done);
 

@@ -31,30 +31,30 @@ TaskBuffer recordOf(const FrmTask& form, Date today, const std::string& recordNo
 
 }  // namespace
 
-void RecordActions::NewTask() {
+bool RecordActions::NewTask() {
     // The editor windows load with the main window; before that no record opens.
-    if (!windows_.loaded()) return;
+    if (!windows_.loaded()) return true;
     FrmTask& form = windows_.task();
-    form.EditMode = "New";
+    form.editMode = EditMode::New;
     form.DocumentDirectory = store_.DocumentDirectory;
     platform_.windowing.showModal(form, &host_.ownerWindow());
-    if (form.CancelledFlag) return;
+    if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     const std::string number = std::to_string(store_.NextTaskRecord);
     store_.TaskRecord = recordOf(form, platform_.clock.today(), number, number);
     kTaskBinding.appendRow(store_, store_.TaskRecord);
-    // A failed write has named its file to the user; the row stays for this run.
-    static_cast<void>(files_.SaveTask(0));
+    const bool written = files_.SaveTask(0);
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, store_.TaskRecordNos.count());
+    return written;
 }
 
-void RecordActions::EditTask(int row) {
+bool RecordActions::EditTask(int row) {
     // The editor windows load with the main window; before that no record opens.
-    if (!windows_.loaded()) return;
+    if (!windows_.loaded()) return true;
     FrmTask& form = windows_.task();
     RecordStore& s = store_;
-    form.EditMode = "Edit";
+    form.editMode = EditMode::Edit;
     form.DocumentDirectory = s.DocumentDirectory;
     form.tempTaskDescription = s.TaskDescriptions(row);
     form.tempTaskDateExists = s.TaskDateExists(row);
@@ -64,15 +64,15 @@ void RecordActions::EditTask(int row) {
     form.tempTaskDone = s.TaskDones(row);
     form.tempTaskNotes = s.TaskNotes(row);
     form.tempTaskReminder = s.TaskReminders(row);
-    form.SelectedTaskIndex = row;
     platform_.windowing.showModal(form, &host_.ownerWindow());
-    if (form.CancelledFlag) return;
+    if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
     kTaskBinding.storeRow(s, row, s.TaskRecord);
-    static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
+    const bool written = files_.SaveTask(int16OrZero(s.TaskRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, row);
+    return written;
 }
 
 }  // namespace qh

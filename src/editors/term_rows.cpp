@@ -80,10 +80,8 @@ void StoreTermRows(RecordStore& store, const FrmCourseSchedule& window, const st
 
 void LoadTermIntoSchedule(const RecordStore& store, FrmCourseSchedule& window, const std::string& termID, Date today) {
     startSchedule(window, today);
-    window.tempTermID = termID;
     for (int i = 1; i <= store.TermIDs.count(); ++i) {
         if (store.TermIDs(i) != termID) continue;
-        window.tempTermID = store.TermIDs(i);
         window.tempTermName = store.TermNames(i);
         window.setTermStart(dateFromText(store.TermStarts(i)));
         window.setTermEnd(dateFromText(store.TermEnds(i)));
@@ -93,10 +91,8 @@ void LoadTermIntoSchedule(const RecordStore& store, FrmCourseSchedule& window, c
         if (store.ClassTermLinks(i) == termID) appendClass(window, store, i, store.ClassIDs(i));
 }
 
-void NewTermBasedOn(const RecordStore& store, FrmCourseSchedule& window, const std::string& newID,
-                    const std::string& sourceID, Date today) {
+void NewTermBasedOn(const RecordStore& store, FrmCourseSchedule& window, const std::string& sourceID, Date today) {
     startSchedule(window, today);
-    window.tempTermID = newID;
     for (int i = 1; i <= store.TermIDs.count(); ++i)
         if (store.TermIDs(i) == sourceID) window.tempTermName = store.TermNames(i);
     window.setTermStart(today);

@@ -22,10 +22,9 @@ void StoreTermRows(RecordStore& store, const FrmCourseSchedule& window, const st
 // Fills the window with the term of that ID (a term without rows: empty name, today as
 // both dates) and all its classes, tombstones too; NextClassID past every class ID.
 void LoadTermIntoSchedule(const RecordStore& store, FrmCourseSchedule& window, const std::string& termID, Date today);
-// Fills the window with a new term `newID` named as `sourceID`, from today for 70 days,
-// with copies of the source's live classes under new IDs (so no assignment comes along).
-void NewTermBasedOn(const RecordStore& store, FrmCourseSchedule& window, const std::string& newID,
-                    const std::string& sourceID, Date today);
+// Fills the window with a new term named as `sourceID`, from today for 70 days, with
+// copies of the source's live classes under new IDs (so no assignment comes along).
+void NewTermBasedOn(const RecordStore& store, FrmCourseSchedule& window, const std::string& sourceID, Date today);
 // The highest term ID plus 1 (1 when there is none).
 std::string NextTermID(const RecordStore& store);
 

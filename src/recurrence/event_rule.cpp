@@ -9,8 +9,6 @@ Date EventRule::endDate() const {
     return *readableEnd;
 }
 
-namespace {
-
 Recurrence recurrenceOf(std::string_view text) {
     if (text == "None") return Recurrence::None;
     if (text == "Day") return Recurrence::Day;
@@ -18,6 +16,23 @@ Recurrence recurrenceOf(std::string_view text) {
     if (text == "Year") return Recurrence::Year;
     return Recurrence::Other;
 }
+
+const char* recurrenceText(Recurrence recurrence) {
+    switch (recurrence) {
+        case Recurrence::Day:
+            return "Day";
+        case Recurrence::Month:
+            return "Month";
+        case Recurrence::Year:
+            return "Year";
+        case Recurrence::None:
+        case Recurrence::Other:
+            break;
+    }
+    return "None";
+}
+
+namespace {
 
 Ordinal ordinalOf(std::string_view text) {
     if (text == "First") return Ordinal::First;

@@ -17,6 +17,11 @@
 namespace qh {
 
 enum class Recurrence { None, Day, Month, Year, Other };
+// The `EventRecurrences` text of a kind: "None", "Day", "Month", "Year"; the reading
+// gives Other for any other text, and Other writes as "None", which is what the event
+// editor shows for it.
+Recurrence recurrenceOf(std::string_view text);
+const char* recurrenceText(Recurrence recurrence);
 enum class Ordinal { First, Second, Third, Fourth, Last, Other };
 enum class SameDate { True, False, Other };
 

@@ -259,8 +259,6 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
          },
          {"Add a Description to this Assignment."}, true, "TextBoxDescription"},
         {"NoChange", true, {}, [](FrmAssignment& w) { w.click("ButtonCancel"); }, {}, false, ""},
-        {"CloseBoxNoChange", true, {},
-         [](FrmAssignment& w) { EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox)); }, {}, false, ""},
         {"NewChangedYes", false, {MessageAnswer::Yes},
          [](FrmAssignment& w) {
              w.select("ComboTypeList", "Project");
@@ -306,9 +304,6 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
         EXPECT_EQ(editor.window->state.Refreshing, RefreshReason::Resize);
         EXPECT_EQ(editor.store.AssignmentDescriptions.count(), 2);
     }
-    // A close at the program's end is let through.
-    Editor editor;
-    EXPECT_TRUE(editor.window->editors->windows().front()->requestClose(UnloadMode::ProgramEnd));
 }
 
 // The session buttons and the Done box, on a new assignment.
@@ -318,7 +313,7 @@ TEST(AssignmentEditor, SessionRulesRefuseAndAddedSessionsThatGoLeaveNoTrace) {
     editor.use([&](FrmAssignment& w) {
         const auto state = [&] {
             states.push_back(w.LabelStudySessions->caption + " " + w.TextBoxTotalTime->text + " " +
-                             w.TextBoxTimeLeft->text + (w.UpdateEstimateFlag ? " used" : ""));
+                             w.TextBoxTimeLeft->text + (w.estimateUsedUp ? " used" : ""));
         };
         w.click("CheckBoxDone");  // refused: no session yet
         EXPECT_FALSE(w.CheckBoxDone->checked);
@@ -391,7 +386,7 @@ TEST(AssignmentEditor, ListRowsOpenTheRecordTheyShow) {
     std::vector<std::string> opened;
     const auto expectOpen = [&] {
         editor.use([&](FrmAssignment& w) {
-            opened.push_back(w.EditMode + " " + w.TextBoxDescription->text);
+            opened.push_back((w.editMode == EditMode::New ? "New " : "Edit ") + w.TextBoxDescription->text);
             w.click("ButtonCancel");
         });
     };
@@ -417,19 +412,24 @@ TEST(AssignmentEditor, ShareWritesFromAnEditAndReadsIntoANewOne) {
     Editor editor;
     const std::string path = editor.fake.documents + "/Chapter 6 test, Nov 24.txt";
     editor.fake.dialogs.fileAnswers.push_back({true, 0, path, "Chapter 6 test, Nov 24.txt"});
-    bool changed = false;
+    // A share out is no change of the record: Cancel after it asks nothing.
+    editor.fake.dialogs.fileAnswers.push_front({true, 0, path + ".first", "first.txt"});
     editor.use([&](FrmAssignment& w) {
-        w.type("TextBoxDescription", "Chapter 6 test");  // not saved
-        w.ChangeFlag = kFalse;
         w.click("ButtonShare");
-        changed = w.ChangeFlag != 0;
         w.click("ButtonCancel");
     });
     editor.window->EditAssignment(1);
-    ASSERT_EQ(editor.fake.dialogs.fileRequests.size(), 1u);
-    EXPECT_EQ(editor.fake.dialogs.fileRequests[0].title, "Save an Assignment File");
-    EXPECT_FALSE(changed);
     EXPECT_TRUE(editor.messageTexts().empty());
+    editor.fake.messages.answers.push_back(MessageAnswer::Yes);
+    editor.use([&](FrmAssignment& w) {
+        w.type("TextBoxDescription", "Chapter 6 test");  // not saved
+        w.click("ButtonShare");
+        w.click("ButtonCancel");
+    });
+    editor.window->EditAssignment(1);
+    ASSERT_EQ(editor.fake.dialogs.fileRequests.size(), 2u);
+    EXPECT_EQ(editor.fake.dialogs.fileRequests[1].title, "Save an Assignment File");
+    EXPECT_EQ(editor.messageTexts(), std::vector<std::string>{"Cancel all changes to this Test?"});
     EXPECT_EQ(editor.dataFile("Assignments.txt"), record(kTest) + record(kReading));
     const SharedAssignment onScreen{"Algebra", "Chapter 6 test", dateFromYmd(2026, 11, 24), "Test", "Hard", "02 : 00",
                                     "20", "Bring a calculator"};

@@ -126,7 +126,6 @@ TEST(ClassSchedule, ChecksRefuseWhatTheyMustAndAskBeforeARename) {
              w.type("TextBoxClassName", "Algebra II");
              w.click("ButtonOKClass");
              EXPECT_EQ(w.TextBoxClassName->text, "Algebra");
-             EXPECT_TRUE(w.ClassError);
              w.click("ButtonCancelClass");
              w.click("ButtonCancel");
          },
@@ -158,7 +157,7 @@ TEST(ClassSchedule, ChecksRefuseWhatTheyMustAndAskBeforeARename) {
              w.type("TextBoxTermName", "Fall 2026");  // its own name passes in an edit
              w.click("ButtonOK");
              EXPECT_FALSE(w.visible);
-             EXPECT_FALSE(w.CancelledFlag);
+             EXPECT_EQ(w.outcome(), EditorOutcome::Saved);
          },
          {"The Term End Date must be later then the Term Start Date.", "Enter a name for the Term.",
           "There is already a Term with this name."},
@@ -203,7 +202,7 @@ TEST(ClassSchedule, ProposesTheSeasonByMonthAndSeventyDays) {
     FrmCourseSchedule& window = schedule.window->editors->courseSchedule();
     for (int month = 1; month <= 12; ++month) {
         schedule.fake.clock.set(2027, month, 31 - (month == 2 ? 3 : 1));
-        window.EditMode = "New";
+        window.editMode = EditMode::New;
         window.Form_Activate();
         const Date today = schedule.fake.clock.today();
         EXPECT_EQ(window.TextBoxTermName->text, std::string(seasons[month - 1]) + " 2027") << month;

@@ -99,22 +99,22 @@ TEST(EventOkRefusal, AllFourTestsTheFirstFailingOneReported) {
         EventOkFields fields;
         std::string message;
     } rows[] = {
-        {"a fitting monthly rule", {"Club", "Month", false, true, mon8, mon8 + 90, true, "Second", "Monday"}, kPass},
-        {"no name", {"", "Month", false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noName},
-        {"daily without a day", {"Club", "Day", false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noDays},
-        {"daily with a day", {"Club", "Day", true, true, mon8, mon8 + 90, true, "Second", "Monday"}, kPass},
-        {"no name wins over no day", {"", "Day", false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noName},
-        {"end before the date", {"Club", "Month", false, true, mon8, mon8 - 1, true, "Second", "Monday"}, endBefore},
-        {"end on the date", {"Club", "Month", false, true, mon8, mon8, true, "Second", "Monday"}, kPass},
-        {"end before but off", {"Club", "Month", false, false, mon8, mon8 - 400, true, "Second", "Monday"}, kPass},
-        {"First Monday on the 8th", {"Club", "Month", false, true, mon8, mon8, true, "First", "Monday"}, noFit},
-        {"yearly First Monday on the 8th", {"Club", "Year", false, true, mon8, mon8, true, "First", "Monday"}, noFit},
-        {"same date radio: no fit test", {"Club", "Month", false, true, mon8, mon8, false, "First", "Monday"}, kPass},
-        {"weekly reads no rule combos", {"Club", "Day", true, true, mon8, mon8, true, "First", "Monday"}, kPass},
-        {"none reads no rule combos", {"Club", "None", false, false, mon8, mon8, true, "First", "Monday"}, kPass},
-        {"Fourth Day on the 4th", {"Club", "Month", false, true, thu4, thu4, true, "Fourth", "Day"}, kPass},
-        {"end wins over the fit", {"Club", "Month", false, true, mon8, mon8 - 1, true, "Last", "Monday"}, endBefore},
-        {"all wrong reports the name", {"", "Day", false, true, mon8, mon8 - 1, true, "Last", "Monday"}, noName},
+        {"a fitting monthly rule", {"Club", Recurrence::Month, false, true, mon8, mon8 + 90, true, "Second", "Monday"}, kPass},
+        {"no name", {"", Recurrence::Month, false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noName},
+        {"daily without a day", {"Club", Recurrence::Day, false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noDays},
+        {"daily with a day", {"Club", Recurrence::Day, true, true, mon8, mon8 + 90, true, "Second", "Monday"}, kPass},
+        {"no name wins over no day", {"", Recurrence::Day, false, true, mon8, mon8 + 90, true, "Second", "Monday"}, noName},
+        {"end before the date", {"Club", Recurrence::Month, false, true, mon8, mon8 - 1, true, "Second", "Monday"}, endBefore},
+        {"end on the date", {"Club", Recurrence::Month, false, true, mon8, mon8, true, "Second", "Monday"}, kPass},
+        {"end before but off", {"Club", Recurrence::Month, false, false, mon8, mon8 - 400, true, "Second", "Monday"}, kPass},
+        {"First Monday on the 8th", {"Club", Recurrence::Month, false, true, mon8, mon8, true, "First", "Monday"}, noFit},
+        {"yearly First Monday on the 8th", {"Club", Recurrence::Year, false, true, mon8, mon8, true, "First", "Monday"}, noFit},
+        {"same date radio: no fit test", {"Club", Recurrence::Month, false, true, mon8, mon8, false, "First", "Monday"}, kPass},
+        {"weekly reads no rule combos", {"Club", Recurrence::Day, true, true, mon8, mon8, true, "First", "Monday"}, kPass},
+        {"none reads no rule combos", {"Club", Recurrence::None, false, false, mon8, mon8, true, "First", "Monday"}, kPass},
+        {"Fourth Day on the 4th", {"Club", Recurrence::Month, false, true, thu4, thu4, true, "Fourth", "Day"}, kPass},
+        {"end wins over the fit", {"Club", Recurrence::Month, false, true, mon8, mon8 - 1, true, "Last", "Monday"}, endBefore},
+        {"all wrong reports the name", {"", Recurrence::Day, false, true, mon8, mon8 - 1, true, "Last", "Monday"}, noName},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

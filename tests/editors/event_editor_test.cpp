@@ -199,7 +199,7 @@ TEST(EventEditor, ThePanelTakesTheDefaultsOfItsDate) {
         EXPECT_EQ(w.height, FrmEvent::kLargeHeight);
         EXPECT_EQ(w.LabelRepeatMonth->caption, "of Every March");
         EXPECT_EQ(w.TextboxEndDate->text, stored.longDate(2006, 3, 12));
-        EXPECT_FALSE(w.ChangeFlag);
+        EXPECT_FALSE(w.hasChanges());
         w.click("ButtonCancel");
     });
     stored.run(2, [&](FrmEvent& w) {
@@ -262,7 +262,7 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
              w.type("TextBoxEvent", "Run");
              w.click("ButtonCancel");
              EXPECT_EQ(w.TextBoxEvent->text, "Run");
-             EXPECT_TRUE(w.ChangeFlag);
+             EXPECT_TRUE(w.hasChanges());
          },
          {"Cancel this Event?"}, true},
         {"CloseBoxOfAnEditAsksAndHides", 2, {MessageAnswer::Yes},
@@ -286,10 +286,7 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
         events.run(c.row, [&](FrmEvent& w) {
             c.step(w);
             open = w.visible;
-            if (open) {  // the showing ends here as a cancel, so that nothing is written
-                w.CancelledFlag = kTrue;
-                w.hide();
-            }
+            if (open) w.hide();  // hidden by no button of its own: a cancel, so nothing is written
         });
         EXPECT_EQ(events.messageTexts(), c.messages);
         EXPECT_EQ(open, c.staysOpen);

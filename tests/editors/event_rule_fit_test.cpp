@@ -9,8 +9,9 @@ namespace {
 
 const char* const kNumbers[] = {"First", "Second", "Third", "Fourth", "Last"};
 
-// The weekday rules on the boundaries of the runs of seven days, in March 2026 (31 days),
-// each date with its own weekday. `fits` has one letter per number word, First to Last:
+// The weekday rules where two number words fit (the fourth run, when the month has a later
+// same weekday) and on a month's last day, each date with its own weekday; the proposal
+// test below pins every other date. `fits` has one letter per number word, First to Last:
 // 'y' the rule fits, '-' it is refused.
 TEST(RuleFitsStartDate, WeekdayRulesOnTheBoundariesOfTheSevenDayRuns) {
     const struct {
@@ -19,15 +20,8 @@ TEST(RuleFitsStartDate, WeekdayRulesOnTheBoundariesOfTheSevenDayRuns) {
         const char* weekday;
         const char* fits;
     } rows[] = {
-        {"day 7, end of the first run", {2026, 3, 7}, "Saturday", "y----"},
-        {"day 8, start of the second run", {2026, 3, 8}, "Sunday", "-y---"},
-        {"day 14, end of the second run", {2026, 3, 14}, "Saturday", "-y---"},
-        {"day 15, start of the third run", {2026, 3, 15}, "Sunday", "--y--"},
-        {"day 21, end of the third run", {2026, 3, 21}, "Saturday", "--y--"},
         {"day 22, fourth run, a later Sunday follows", {2026, 3, 22}, "Sunday", "---yy"},
         {"day 28, fourth run", {2026, 3, 28}, "Saturday", "---yy"},
-        {"day 29, never the fourth", {2026, 3, 29}, "Sunday", "----y"},
-        {"day 1", {2026, 3, 1}, "Sunday", "y----"},
         {"day 31", {2026, 3, 31}, "Tuesday", "----y"},
         {"29 February, a leap year's last day", {2024, 2, 29}, "Thursday", "----y"},
         {"28 February of a common year", {2026, 2, 28}, "Saturday", "---yy"},

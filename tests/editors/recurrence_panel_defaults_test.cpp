@@ -81,16 +81,8 @@ TEST(ProposedEndDate, FourteenDaysSixMonthsFiveYearsOrTheDateItself) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(dateText(ProposedEndDate(row.recurrence, row.first)), dateText(row.proposed));
+        EXPECT_EQ(dateText(ProposedEndDate(recurrenceOf(row.recurrence), row.first)), dateText(row.proposed));
     }
-}
-
-TEST(EndDateStartsOn, DailyAndMonthlyEndYearlyAndNoneDoNot) {
-    const struct {
-        const char* recurrence;
-        bool on;
-    } rows[] = {{"Day", true}, {"Month", true}, {"Year", false}, {"None", false}};
-    for (const auto& row : rows) EXPECT_EQ(EndDateStartsOn(row.recurrence), row.on) << row.recurrence;
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ TEST(RecalculateSessions, CountTotalTimeLeftAndFlag) {
         EXPECT_EQ(summary.caption, row.caption);
         EXPECT_EQ(summary.totalTime, row.total);
         EXPECT_EQ(summary.timeLeft, row.left);
-        EXPECT_EQ(summary.updateEstimateFlag, row.flag);
+        EXPECT_EQ(summary.estimateUsedUp, row.flag);
         EXPECT_EQ(summary.timeLeftBack, "MistyRose");
         EXPECT_EQ(RecalculateSessions(row.lengths, row.estimate, true).timeLeftBack, "Honeydew");
     }

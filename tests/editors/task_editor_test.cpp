@@ -122,8 +122,7 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
              w.type("TextBoxDescription", "Pay rent");
              w.click("ButtonCancel");
              EXPECT_EQ(w.TextBoxDescription->text, "Pay rent");
-             EXPECT_TRUE(w.ChangeFlag);
-             EXPECT_FALSE(w.CancelledFlag);
+             EXPECT_TRUE(w.hasChanges());
          },
          {"Cancel this Task?"}, true},
         {"CloseBoxOfAnEditAsksAndHides", 2, {MessageAnswer::Yes},
@@ -136,7 +135,6 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
          [](FrmTask& w) {
              w.click("ButtonDelete");
              EXPECT_EQ(w.TextBoxDescription->text, "Essay outline");
-             EXPECT_FALSE(w.DeleteFlag);
          },
          {"Are you sure you want to Delete this Task?"}, true},
     };
@@ -148,10 +146,7 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
         tasks.run(c.row, [&](FrmTask& w) {
             c.step(w);
             open = w.visible;
-            if (open) {  // the showing ends here as a cancel, so that nothing is written
-                w.CancelledFlag = kTrue;
-                w.hide();
-            }
+            if (open) w.hide();  // hidden by no button of its own: a cancel, so nothing is written
         });
         EXPECT_EQ(tasks.messageTexts(), c.messages);
         EXPECT_EQ(open, c.staysOpen);
@@ -171,7 +166,7 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         EXPECT_EQ(w.ComboRemindMe->text, "3 Days");
         EXPECT_TRUE(w.ButtonDelete->visible);
         EXPECT_EQ(w.focusedControl, "TextBoxDescription");
-        EXPECT_FALSE(w.ChangeFlag);
+        EXPECT_FALSE(w.hasChanges());
         w.click("ButtonCancel");
     });
     // A reminder the list doesn't hold shows the first entry; Done shows green.
@@ -180,7 +175,7 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         EXPECT_TRUE(w.CheckBoxDone->checked);
         EXPECT_EQ(w.CheckBoxDone->backColor, w.LabelDoneBG->backColor);
         EXPECT_EQ(w.CheckBoxDone->backColor, 0x008000);  // "Green"
-        EXPECT_FALSE(w.ChangeFlag);
+        EXPECT_FALSE(w.hasChanges());
         w.click("ButtonCancel");
     });
     tasks.run(0, [](FrmTask& w) {
@@ -193,7 +188,7 @@ TEST(TaskEditor, EachShowingStartsFromItsRecordOrFromNothing) {
         EXPECT_EQ(w.TextboxTaskDate->foreColor, rgb(128, 128, 128));
         EXPECT_EQ(w.ComboType->text, "None");
         EXPECT_FALSE(w.ButtonDelete->visible);
-        EXPECT_FALSE(w.ChangeFlag);
+        EXPECT_FALSE(w.hasChanges());
         w.click("ButtonCancel");
     });
     EXPECT_TRUE(tasks.messageTexts().empty());

@@ -41,7 +41,7 @@ TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
     Host host;
     FrmCourseSchedule window(platform, host);
     window.Form_Load();
-    window.EditMode = "New";
+    window.editMode = EditMode::New;
     FormRenderer renderer;
     renderer.quitWhenLastWindowCloses = false;
 
@@ -73,7 +73,7 @@ TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
     EXPECT_EQ(pickerAt, QPoint(3720 / 15, 1275 / 15));
     EXPECT_EQ(window.tempTermEndDate, dateFromYmd(2027, 2, 10));
     EXPECT_EQ(window.TextboxTermEnd->text, "Wednesday, February 10, 2027");
-    EXPECT_FALSE(window.CancelledFlag);
+    EXPECT_EQ(window.outcome(), EditorOutcome::Saved);
     EXPECT_FALSE(window.visible);
     EXPECT_FALSE(window.c("picCalendar").visible);
 }
@@ -90,8 +90,8 @@ TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
     Host host;
     FrmAssignment window(platform, host);
     window.Form_Load();
-    window.EditMode = "New";
-    window.FormSmall = kTrue;
+    window.editMode = EditMode::New;
+    window.FormSmall = true;
     window.tempClassNameArray = {"Algebra"};
     window.tempAssignmentClassLinkArray = {"1"};
     FormRenderer renderer;
@@ -125,7 +125,7 @@ TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
     EXPECT_TRUE(deleteEnabled);
     ASSERT_EQ(fake.messages.shown.size(), 1u);
     EXPECT_EQ(fake.messages.shown[0].text, "Cancel this Assignment?");
-    EXPECT_TRUE(window.CancelledFlag);
+    EXPECT_EQ(window.outcome(), EditorOutcome::Cancelled);
     EXPECT_FALSE(window.visible);
 }
 
