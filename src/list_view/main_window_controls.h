@@ -2,6 +2,8 @@
 // The controls of the main window that its routines, the list builders and the probe
 // reach, each name spelled here once. The window binds them when it is built, so a name
 // it lacks fails its construction, which every test of the window runs.
+#include <array>
+
 #include "platform/control_ref.h"
 
 namespace qh {
@@ -50,6 +52,11 @@ struct MainWindowControls {
         TextBoxFinishedTasks{form, "TextBoxFinishedTasks"}, TextBoxClasses{form, "TextBoxClasses"},
         TextBoxOtherEvents{form, "TextBoxOtherEvents"}, TextBoxAssignments{form, "TextBoxAssignments"},
         TextBoxTasks{form, "TextBoxTasks"}, TextBoxEvents{form, "TextBoxEvents"};
+    std::array<const ControlRef*, 12> summaryBoxes() const {
+        return {&TextBoxTotalAssignments, &TextBoxFinishedAssignments, &TextBoxTimeRemaining, &TextBoxStudySessions,
+                &TextBoxStudyTime,        &TextBoxTotalTasks,          &TextBoxFinishedTasks, &TextBoxClasses,
+                &TextBoxOtherEvents,      &TextBoxAssignments,         &TextBoxTasks,         &TextBoxEvents};
+    }
 
     // The month calendar.
     ControlRef picCalendar{form, "picCalendar"}, LabelMonth{form, "LabelMonth"}, LabelToday{form, "LabelToday"},

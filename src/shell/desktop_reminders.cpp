@@ -17,13 +17,13 @@ void MainWindow::LoadDesktopReminderSettings() {
     ui.TimerDesktopReminders->enabled = true;
 }
 
-void MainWindow::MenuDesktopReminders_Click() {
+void MainWindow::toggleDesktopReminders() {
     desktopReminders_.enabled = !desktopReminders_.enabled;
     ui.MenuDesktopReminders->checked = desktopReminders_.enabled;
     WriteDesktopReminderSettings(platform, store, desktopReminders_);
 }
 
-void MainWindow::TimerDesktopReminders_Timer() {
+void MainWindow::desktopReminderTimerTicked() {
     ui.TimerDesktopReminders->enabled = false;
     NotifyDesktopReminders();
 }

@@ -81,7 +81,7 @@ void MainWindow::ResetGridScroll() {
     if (scroll.value != 1) {
         // The bar's change event rebuilds the list.
         scroll.value = 1;
-        fire("VSGridScroll", FormEvent::Change);
+        fire(ui.VSGridScroll.key(), FormEvent::Change);
         return;
     }
     const Mode mode = CurrentMode();

@@ -103,14 +103,14 @@ void MainWindow::bindHandlers() {
         on(name, FormEvent::MouseDown, [this, name](const EventArgs&) { calendarButtonPressed(name); });
         on(name, FormEvent::MouseUp, [this, name](const EventArgs&) { calendarButtonReleased(name); });
     }
-    on(ui.TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { TimerButton_Timer(); });
+    on(ui.TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { repeatCalendarArrow(); });
     onClick(ui.MenuStartMon.key(), [this] { changeStartDay("Monday"); });
     onClick(ui.MenuStartSat.key(), [this] { changeStartDay("Saturday"); });
     onClick(ui.MenuStartSun.key(), [this] { changeStartDay("Sunday"); });
 
-    onClick(ui.ButtonStart.key(), [this] { ButtonStart_Click(); });
-    onClick(ui.ButtonReset.key(), [this] { ButtonReset_Click(); });
-    on(ui.Timer1.key(), FormEvent::Timer, [this](const EventArgs&) { Timer1_Timer(); });
+    onClick(ui.ButtonStart.key(), [this] { startOrPauseStopwatch(); });
+    onClick(ui.ButtonReset.key(), [this] { resetStopwatch(); });
+    on(ui.Timer1.key(), FormEvent::Timer, [this](const EventArgs&) { tickStopwatch(); });
     onClick(ui.LabelTime.key(), [this] {
         state.StopwatchShowSeconds = !state.StopwatchShowSeconds;
         UpdateStopwatchLabel();
@@ -121,8 +121,8 @@ void MainWindow::bindHandlers() {
         CheckDesktopReminderDay();
     });
     // One shot, once the window has been painted.
-    on(ui.TimerDesktopReminders.key(), FormEvent::Timer, [this](const EventArgs&) { TimerDesktopReminders_Timer(); });
-    onClick(ui.MenuDesktopReminders.key(), [this] { MenuDesktopReminders_Click(); });
+    on(ui.TimerDesktopReminders.key(), FormEvent::Timer, [this](const EventArgs&) { desktopReminderTimerTicked(); });
+    onClick(ui.MenuDesktopReminders.key(), [this] { toggleDesktopReminders(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
     on(ui.TimerTip.key(), FormEvent::Timer, [this](const EventArgs&) {
         ui.TimerTip->enabled = false;

@@ -162,8 +162,8 @@ public:
     // Desktop reminders (desktop_reminders.cpp): the day's reminders as a desktop notice,
     // once the window is up and at every change of day; Options > Desktop Reminders.
     void LoadDesktopReminderSettings();
-    void MenuDesktopReminders_Click();
-    void TimerDesktopReminders_Timer();
+    void toggleDesktopReminders();
+    void desktopReminderTimerTicked();
     void CheckDesktopReminderDay();
     void NotifyDesktopReminders();
     // The notice was chosen: the main window comes forward in Today's Reminders of today.
@@ -183,10 +183,10 @@ private:
     void dayHeaderClicked(int index);
     void changeStartDay(const std::string& day);
     void quickDateClicked(int element);
-    void ButtonStart_Click();
-    void ButtonReset_Click();
-    void Timer1_Timer();
-    void TimerButton_Timer();
+    void startOrPauseStopwatch();
+    void resetStopwatch();
+    void tickStopwatch();
+    void repeatCalendarArrow();
     void picGridMouseDown(const EventArgs& args);
     void picGridMouseUp(const EventArgs& args);
     void headerClicked(int index);

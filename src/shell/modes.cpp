@@ -128,7 +128,6 @@ constexpr BarImages kBarImages[] = {{&Ui::PictureBarHomework, "HomeworkDown", "H
                                     {&Ui::PictureBarReminders, "RemindersDown", "RemindersUp"}};
 
 constexpr Ref kSummaryLabels[] = {&Ui::LabelTotalAssignments, &Ui::LabelFinishedAssignments, &Ui::LabelTimeRemaining};
-constexpr Ref kSummaryBoxes[] = {&Ui::TextBoxTotalAssignments, &Ui::TextBoxFinishedAssignments, &Ui::TextBoxTimeRemaining, &Ui::TextBoxStudySessions, &Ui::TextBoxStudyTime, &Ui::TextBoxTotalTasks, &Ui::TextBoxFinishedTasks, &Ui::TextBoxClasses, &Ui::TextBoxOtherEvents, &Ui::TextBoxAssignments, &Ui::TextBoxTasks, &Ui::TextBoxEvents};
 
 ViewChoice& savedChoice(MainWindowState& state, Mode mode) {
     switch (mode) {
@@ -222,7 +221,7 @@ void MainWindow::applyModeTable(Mode mode) {
     RestoreViewChoices();
 
     for (Ref label : kSummaryLabels) (ui.*label)->visible = false;
-    for (Ref box : kSummaryBoxes) (ui.*box)->visible = false;
+    for (const ControlRef* box : ui.summaryBoxes()) (*box)->visible = false;
     for (const SummaryField& field : m.summary) {
         Control& label = *(ui.*field.label);
         label.top = field.labelTop;

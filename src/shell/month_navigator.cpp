@@ -95,7 +95,7 @@ void MainWindow::calendarButtonPressed(const std::string& name) {
     timer.enabled = true;
 }
 
-void MainWindow::TimerButton_Timer() {
+void MainWindow::repeatCalendarArrow() {
     if (state.CalButtonUp) return;
     const int element = RepeatElement(state.CalButtonForward, state.CalButtonMonth);
     state.ClickedDate = state.CalendarDates[std::size_t(element)];

@@ -5,7 +5,7 @@
 
 namespace qh {
 
-void MainWindow::ButtonStart_Click() {
+void MainWindow::startOrPauseStopwatch() {
     Control& start = *ui.ButtonStart;
     if (start.caption == "Start") {
         start.caption = "Pause";
@@ -20,18 +20,18 @@ void MainWindow::ButtonStart_Click() {
         ui.Timer1->enabled = false;
         state.StopwatchTotal += double(platform.clock.now().secondsSince(state.StopwatchStart));
     }
-    focusedControl = "picGrid";
+    focusedControl = ui.picGrid.key();
     UpdateStopwatchLabel();
 }
 
-void MainWindow::ButtonReset_Click() {
+void MainWindow::resetStopwatch() {
     state.StopwatchSeconds = state.StopwatchMinutes = state.StopwatchHours = 0;
     state.StopwatchTotal = 0;
-    focusedControl = "picGrid";
+    focusedControl = ui.picGrid.key();
     UpdateStopwatchLabel();
 }
 
-void MainWindow::Timer1_Timer() {
+void MainWindow::tickStopwatch() {
     state.StopwatchRun = double(platform.clock.now().secondsSince(state.StopwatchStart));
     const long long total = static_cast<long long>(state.StopwatchTotal + state.StopwatchRun);
     state.StopwatchHours = total / 3600;
