@@ -40,6 +40,8 @@ public:
     virtual void printText(int x, int y, const std::string& text) = 0;
     // Width of the text in the current font, in twips.
     virtual int textWidth(const std::string& text) const = 0;
+    // Height of a line of the current font, its descenders included, in twips.
+    virtual int textHeight() const = 0;
     // A named picture ("Checked", "Unchecked", ...), its top left at (x, y).
     virtual void paintPicture(const std::string& picture, int x, int y) = 0;
 };

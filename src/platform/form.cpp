@@ -237,6 +237,8 @@ void Form::pressKey(int keyCode, int character, int shift) {
     else if (keyCode == kKeyReturn && !defaultButton.empty() && !multiLineFocused && !keyBoxFocused)
         click(defaultButton);
     if (keyCode == kKeyEscape && !cancelButton.empty() && !keyBoxFocused) click(cancelButton);
+    if (has(target) && c(target).kind == ControlKind::RadioButton && keyCode >= kKeyLeft && keyCode <= kKeyDown)
+        stepRadioGroup(target, keyCode == kKeyRight || keyCode == kKeyDown);
     if (keyCode == kKeyTab) {
         // From a control that is no tab stop (a read-only box clicked into), Tab goes on
         // from its place on the window.
@@ -308,33 +310,6 @@ std::string Form::labelOf(const std::string& key) const {
         }
     }
     return best;
-}
-
-std::vector<std::string> Form::tabOrder(const std::string& alsoKey) const {
-    struct Stop {
-        int top, left;
-        std::size_t added;
-        std::string key;
-    };
-    std::vector<Stop> stops;
-    for (std::size_t i = 0; i < order_.size(); ++i) {
-        const Control& control = c(order_[i]);
-        const bool stop = control.canTakeFocus() && control.tabStop &&
-                          !(control.kind == ControlKind::TextBox && control.locked);
-        if (!stop && order_[i] != alsoKey) continue;
-        int top = control.top, left = control.left;
-        for (std::string at = control.container; has(at); at = c(at).container) {
-            top += c(at).top;
-            left += c(at).left;
-        }
-        stops.push_back({top, left, i, order_[i]});
-    }
-    std::stable_sort(stops.begin(), stops.end(), [](const Stop& a, const Stop& b) {
-        return a.top != b.top ? a.top < b.top : a.left < b.left;
-    });
-    std::vector<std::string> keys;
-    for (const Stop& stop : stops) keys.push_back(stop.key);
-    return keys;
 }
 
 void Form::showing() {

@@ -138,7 +138,8 @@ public:
     // KeyPress for a character; Enter clicks the focused button (Enter or Space a focused
     // link), else the default button
     // (unless a multi-line box has the focus), and Escape the cancel button; a focused box
-    // that takes keys keeps Enter and Escape for itself.
+    // that takes keys keeps Enter and Escape for itself. The arrows on a radio button
+    // choose the next or previous one of its group.
     void pressKey(int keyCode, int character = 0, int shift = 0);
 
     // The focus. focusTo is the gesture (a click, Tab, the toolkit's own focus change): it
@@ -150,10 +151,25 @@ public:
     void SetFocus(const std::string& key);
     // Counts the SetFocus requests, so the renderer sees one it has not applied yet.
     unsigned focusRequests() const { return focusRequests_; }
-    // The controls the Tab key visits, in order: those that can take the focus, are tab
-    // stops and are not read-only boxes, by their place on the window (top, then left).
-    // `alsoKey` joins the order at its place though it is no stop.
+    // The controls Tab may ever visit, in order: those that can take the focus, are tab
+    // stops and are not read-only boxes, by their place on the window (top, then left),
+    // whether or not the student can reach them now. The renderer chains its widgets so.
+    std::vector<std::string> tabPlaces() const;
+    // The controls the Tab key visits now: the places within reach, and of a group of
+    // radio buttons only the one that leads it, so Tab leaves the group and the arrows
+    // move inside it. `alsoKey` joins the order at its place though it is no stop.
     std::vector<std::string> tabOrder(const std::string& alsoKey = "") const;
+    // Whether the student can see and use the control: it and its containers shown and
+    // enabled, its middle inside each container and the window's client area, and no
+    // frame or picture box lying over it (the stacked panels of a window).
+    bool withinReach(const std::string& key) const;
+    // The radio button Tab stops at for its group (the radio buttons of one container
+    // within reach): the one set, else the first by place.
+    bool leadsRadioGroup(const std::string& key) const;
+    // After a gesture: the focus on a control a handler took out of reach (disabled,
+    // hidden, covered) goes on to the next stop after its place, as Tab would take it, so
+    // that it never rests where no one sees it.
+    void keepFocusInReach();
     // The controls a press inside `containerKey` may fall on: true when `key` lies in it,
     // at any depth.
     bool isInside(const std::string& key, const std::string& containerKey) const;
@@ -200,6 +216,12 @@ private:
     friend class ControlBinding;
     Control& find(const std::string& key);
     void uncheckOtherRadios(const Control& control);
+    // The controls `keep` accepts, by their place on the window: top, then left.
+    std::vector<std::string> byPlace(const std::function<bool(const std::string&, const Control&)>& keep) const;
+    // The radio buttons of `key`'s container within reach, by place.
+    std::vector<std::string> radioGroupOf(const std::string& key) const;
+    // An arrow on a radio button: the next (or previous) of its group is chosen, as a click.
+    void stepRadioGroup(const std::string& key, bool forward);
     std::vector<class ControlBinding*> refs_;
     unsigned focusRequests_ = 0;
     std::string name_;

@@ -1,4 +1,6 @@
 // The term panel (which term is active and how many days are left of it) and the status bar.
+#include <algorithm>
+
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "shell/main_window.h"
@@ -61,10 +63,13 @@ void MainWindow::PaintStatusBar() {
     bar.setFont(font);
     const std::string text =
         store.DriveReadOnly ? std::string(kReadOnlyText) + "      " + state.StatusBarText : state.StatusBarText;
-    bar.printText(150, 90, text);
+    // The line sits in the middle of the frame, so its descenders stay inside it whatever
+    // height the desktop's font gives the line.
+    const int top = t + std::max(15, (b - t - bar.textHeight()) / 2);
+    bar.printText(150, top, text);
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
-    bar.printText(w - bar.textWidth(right) - 150, 90, right);
+    bar.printText(w - bar.textWidth(right) - 150, top, right);
     ui.picStatusBar->accessibleName = text + ", " + right;
 }
 

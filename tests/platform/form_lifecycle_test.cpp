@@ -113,10 +113,13 @@ TEST(FormLifecycle, FocusMovesWithClicksAndSetFocusAndKeysReachTheDefaultAndCanc
     window.SetFocus("ButtonCancel");
     window.pressKey(kKeyReturn);
     EXPECT_EQ(window.log, "out ButtonOK;in ButtonCancel;press ButtonCancel;click ButtonCancel;");
-    // By place: top first, then left; frames add their own place.
+    // By place: top first, then left; frames add their own place. Tab stops at one radio
+    // button of each group.
+    EXPECT_EQ(window.tabPlaces(), (std::vector<std::string>{"TextBoxName", "TextBoxNotes", "OptionFore", "RadioDaily",
+                                                            "OptionBack", "RadioWeekly", "ListSessions", "ButtonOK",
+                                                            "ButtonCancel"}));
     EXPECT_EQ(window.tabOrder(), (std::vector<std::string>{"TextBoxName", "TextBoxNotes", "OptionFore", "RadioDaily",
-                                                           "OptionBack", "RadioWeekly", "ListSessions", "ButtonOK",
-                                                           "ButtonCancel"}));
+                                                           "ListSessions", "ButtonOK", "ButtonCancel"}));
     window.c("ButtonOK").enabled = false;
     EXPECT_THROW(window.SetFocus("ButtonOK"), UntrappedFailure);
     EXPECT_TRUE(window.isInside("RadioDaily", "FrameRepeat"));

@@ -1,15 +1,20 @@
 // The planner from the keyboard alone, under the real renderer: a new assignment made,
-// saved, found in the list, opened, done after a study session and saved again, with key
-// presses only; the focus is on a control the student can see after every key.
+// saved, found in the list, opened, done after a study session and saved again, and the
+// same for a task and an event, and a term with two coloured classes, with key presses
+// only; the focus is on a control the student can see after every key.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include <QApplication>
+#include <QKeySequence>
 #include <QPointer>
 #include <QTest>
 
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
 #include "editors/frm_course_schedule.h"
+#include "record_store/color_vocabulary.h"
 #include "rendered_planner.h"
 
 namespace qh {
@@ -97,6 +102,96 @@ TEST(KeyboardOnly, AnAssignmentIsMadeFoundOpenedDoneAndSavedWithKeysAlone) {
     EXPECT_NE(assignments.find("Worksheet"), std::string::npos) << assignments;
     EXPECT_NE(assignments.find("True"), std::string::npos) << assignments;
     EXPECT_EQ(run.messageTexts(), std::vector<std::string>{});
+}
+
+// A keyboard-only script, step by step: ">Name" Tabs to the control, "=Name" expects the
+// focus on it, "'text" types the text, anything else is a key ("Ctrl+4", "Return").
+void play(const std::vector<std::string>& script) {
+    for (const std::string& step : script) {
+        SCOPED_TRACE(step);
+        const std::string rest = step.substr(1);
+        if (step[0] == '>') {
+            tabTo(rest);
+        } else if (step[0] == '=') {
+            EXPECT_EQ(focusName(), rest);
+        } else if (step[0] == '\'') {
+            typeText(rest.c_str());
+        } else {
+            const QKeyCombination key = QKeySequence::fromString(QString::fromStdString(step))[0];
+            ASSERT_NE(key.key(), Qt::Key_unknown) << step;
+            press(key.key(), key.keyboardModifiers());
+        }
+        if (::testing::Test::HasFatalFailure()) return;
+    }
+}
+
+int colourNumber(const std::string& name) {
+    const ColorVocabulary& colors = standardColors();
+    for (int n = 1; n <= colors.ColorNames.count(); ++n)
+        if (colors.ColorNames(n) == name) return n;
+    return 0;
+}
+
+// The line of a record file that holds `text`; empty when none does.
+std::string lineWith(const std::string& file, const std::string& text) {
+    std::istringstream lines(file);
+    for (std::string line; std::getline(lines, line);)
+        if (line.find(text) != std::string::npos) return line;
+    return {};
+}
+
+// A record made and changed with the keyboard alone: the main window's keys, each window
+// that opens on the way with its own keys (in the order they show), and what the record
+// file then holds on the line of the record.
+TEST(KeyboardOnly, ATaskAnEventAndATermWithTwoClassesAreMadeWithKeysAlone) {
+    const int white = colourNumber("White"), black = colourNumber("Black");
+    const auto named = [](int n) { return standardColors().ColorNames(n); };
+    const struct {
+        const char* what;
+        std::vector<std::pair<std::string, std::vector<std::string>>> windows;
+        std::vector<std::string> main;
+        const char* file;
+        std::string record;
+        std::vector<std::string> holds;
+    } flows[] = {
+        {"a task made, found, opened and done",
+         {{"FrmTask", {"=TextBoxDescription", "'Read chapter 6", "Return"}},
+          {"FrmTask", {"=TextBoxDescription", ">CheckBoxDone", "Space", "Return"}}},
+         {"Ctrl+4", "Ctrl+N", "=picGrid", "Home", "Return"},
+         "Tasks.txt", "Read chapter 6", {"True"}},
+        {"an event made, found, opened and made weekly by the arrows",
+         {{"frmEvent", {">TextBoxEvent", "'Band practice", "Return"}},
+          {"frmEvent", {">LabelViewRecurring", "Space", ">RadioRepeatNone", "Down", "=RadioRepeatDaily",
+                        ">CheckBoxMonday", "Space", "Return"}}},
+         {"Ctrl+5", "Ctrl+N", "=picGrid", "Home", "Return"},
+         "Events.txt", "Band practice", {"Day", "TFFFFFF"}},
+        {"a term with two classes and their colours",
+         {{"frmSelectCourseSchedule", {">ButtonNew", "Space"}},
+          {"frmCourseSchedule",
+           {">ButtonAddClass", "Space", "=TextBoxClassName", "'Chemistry", ">picColorGrid", "Right", "Down", "Return",
+            ">OptionBackColor", "Down", "=OptionForeColor", "Shift+Tab", "=picColorGrid", "Left", "Space",
+            ">TextBoxClassName", "Return", ">ButtonAddClass", "Space", "'Biology", ">picColorGrid", "Right", "Return",
+            ">TextBoxClassName", "Return", "=ButtonOK", "Return"}}},
+         {">ButtonSelectTerm", "Space"},
+         "Classes.txt", "Chemistry", {named(white + 15), named(black - 1)}},
+    };
+    for (const auto& flow : flows) {
+        SCOPED_TRACE(flow.what);
+        RenderedPlanner run;
+        std::vector<std::string> shown;
+        for (const auto& [name, keys] : flow.windows)
+            run.onScreen(name, [&shown, name, keys](FormWindow&) {
+                shown.push_back(name);
+                play(keys);
+            });
+        play(flow.main);
+        EXPECT_EQ(shown.size(), flow.windows.size());
+        const std::string record = lineWith(run.dataFile(flow.file), flow.record);
+        ASSERT_FALSE(record.empty()) << run.dataFile(flow.file);
+        for (const std::string& text : flow.holds)
+            EXPECT_NE(record.find(text), std::string::npos) << text << " in " << record;
+        EXPECT_EQ(run.messageTexts(), std::vector<std::string>{});
+    }
 }
 
 // The date picker from the keyboard: the small button opens it, the arrows, Page Down and

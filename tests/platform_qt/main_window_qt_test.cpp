@@ -255,6 +255,38 @@ TEST_F(MainWindowQt, TheStopwatchShowsItsLongFormWhole) {
     EXPECT_DOUBLE_EQ(label->captionFont().pointSizeF(), 14.0);
 }
 
+// The status bar lies wholly in the window, and its lines of text (a date's "y" and ","
+// reach lowest) end above its frame's bottom edge, at any density of the screen. Its
+// canvas is the real one here, so the picture is what a student sees.
+TEST(MainWindowLook, TheStatusBarsTextStaysInsideItsFrame) {
+    testApplication();
+    LoadedMainWindow main;
+    QtCanvasFactory canvases;
+    FakePlatform& fake = main.fake;
+    Platform platform{fake.environment, fake.clock,     fake.locale, fake.messages, fake.files,
+                      fake.processes,   fake.dialogs,   fake.windowing, canvases, fake.calendars};
+    MainWindow window(main.store, platform);
+    window.Form_Load();
+    FormRenderer renderer;
+    renderer.quitWhenLastWindowCloses = false;
+    renderer.show(window);
+    FormWindow& frame = *renderer.windowOf(window);
+
+    QWidget* bar = frame.widget("picStatusBar");
+    EXPECT_LE(bar->geometry().bottom(), frame.client()->rect().bottom());
+    const QImage image = bar->grab().toImage();
+    const double ratio = image.devicePixelRatio();
+    // The frame's bottom edge is the white line 3 pixels above the bar's own bottom.
+    const int edge = int(std::lround((bar->height() - 3) * ratio));
+    int lowestInk = -1;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < 100) lowestInk = y;
+    ASSERT_GE(lowestInk, 0) << "no text in the status bar";
+    EXPECT_LT(lowestInk, edge) << "at " << ratio << "x the text runs " << lowestInk - edge + 1
+                               << " pixels into the frame's edge";
+}
+
 TEST_F(MainWindowQt, TodaysCellHasABlackFrameAllRound) {
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), main.fake.clock.today());
     QWidget* calendar = widget("picCalendar");

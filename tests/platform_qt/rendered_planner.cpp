@@ -22,7 +22,9 @@ RenderedPlanner::RenderedPlanner() {
 
 void RenderedPlanner::onScreen(const std::string& name, const std::function<void(FormWindow&)>& user) {
     fake.windowing.modalUsers[name].push_back([this, user](Form& form) {
+        // Shown as the renderer's own modal showing does: the model applied, then active.
         FormWindow& frame = renderer.windowFor(form);
+        renderer.syncAll();
         activate(frame);
         frame.focusFirstField();
         user(frame);

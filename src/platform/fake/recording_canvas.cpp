@@ -31,6 +31,11 @@ int RecordingCanvas::textWidth(const std::string& text) const {
     return int(std::lround(perChar * double(text.size())));
 }
 
+int RecordingCanvas::textHeight() const {
+    // A line of a point size is about 1.15 of it, at 20 twips to the point.
+    return int(std::lround(font_.size * 23.0));
+}
+
 void RecordingCanvas::paintPicture(const std::string& picture, int x, int y) {
     calls_.push_back({CanvasCall::Picture, x, y, x, y, 0, picture, font_});
 }

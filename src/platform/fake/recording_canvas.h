@@ -31,6 +31,7 @@ public:
     // A fixed metric so tests can compute widths: every character is fontSize * 8 twips
     // wide, bold adds a tenth.
     int textWidth(const std::string& text) const override;
+    int textHeight() const override;
     void paintPicture(const std::string& picture, int x, int y) override;
 
     // Everything drawn since the last clear.

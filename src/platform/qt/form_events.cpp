@@ -49,7 +49,11 @@ bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
     const bool enter = (code == kKeyReturn && (button || link || (!form_.defaultButton.empty() && !multiLine))) ||
                        (code == ' ' && link);
     const bool escape = code == kKeyEscape && !form_.cancelButton.empty();
-    if (!enter && !escape && !form_.handles(key, FormEvent::KeyDown) && !form_.handles(key, FormEvent::KeyPress))
+    // The model moves the choice of a radio group by the arrows; the widget must not too.
+    const bool radioArrow = form_.has(key) && form_.c(key).kind == ControlKind::RadioButton && code >= kKeyLeft &&
+                            code <= kKeyDown;
+    if (!enter && !escape && !radioArrow && !form_.handles(key, FormEvent::KeyDown) &&
+        !form_.handles(key, FormEvent::KeyPress))
         return false;
     forward([this, key, code, character, shift] {
         form_.focusTo(key);
@@ -57,7 +61,7 @@ bool FormWindow::keyPressed(const std::string& key, QKeyEvent* event) {
     });
     // A box that takes keys (the calendar, the grid) has them all; no widget moves behind it.
     const bool keyBox = form_.has(key) && form_.c(key).kind == ControlKind::PictureBox && form_.handles(key, FormEvent::KeyDown);
-    return enter || escape || keyBox;
+    return enter || escape || keyBox || radioArrow;
 }
 
 

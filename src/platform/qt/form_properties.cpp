@@ -76,36 +76,24 @@ void setColors(QWidget* widget, const Control& control, QPalette::ColorRole back
 
 // Tab visits the model's stops; a control that is no stop still takes the focus by a
 // click, and a box that takes no focus never has it.
-// A control that lies beyond the window's edge (the study sessions below a small editor)
-// is out of reach of the keyboard too, so that no key acts on what no one can see.
-void FormWindow::applyFocusPolicy(QWidget* widget, const Control& control) {
+// What the student can't reach (beyond the window's edge, under the panel in front, or
+// a radio button other than the one its group's Tab stops at) takes no Tab either, so
+// that no key acts on what no one can see; the arrows move inside a radio group.
+void FormWindow::applyFocusPolicy(QWidget* widget, const std::string& key, const Control& control) {
     if (!control.canTakeFocus()) {
         if (control.kind == ControlKind::PictureBox || control.kind == ControlKind::Label)
             widget->setFocusPolicy(Qt::NoFocus);
         return;
     }
-    const bool stop = control.tabStop && !(control.kind == ControlKind::TextBox && control.locked);
-    const Qt::FocusPolicy policy = !inSight(widget) ? Qt::NoFocus : stop ? Qt::StrongFocus : Qt::ClickFocus;
+    const bool stop = control.tabStop && !(control.kind == ControlKind::TextBox && control.locked) &&
+                      (control.kind != ControlKind::RadioButton || form_.leadsRadioGroup(key));
+    const Qt::FocusPolicy policy = !form_.withinReach(key) ? Qt::NoFocus : stop ? Qt::StrongFocus : Qt::ClickFocus;
     if (widget->focusPolicy() != policy) widget->setFocusPolicy(policy);
 }
 
-bool FormWindow::inSight(const QWidget* widget) const {
-    // The middle of the control inside each container up to the client area.
-    QPoint middle = widget->rect().center();
-    for (const QWidget* at = widget; at && at != client_; at = at->parentWidget()) {
-        middle = at->mapToParent(middle);
-        const QWidget* container = at->parentWidget();
-        if (!container || !container->rect().contains(middle)) return false;
-    }
-    return true;
-}
-
 void FormWindow::applyTabOrder() {
-    const std::vector<std::string> order = form_.tabOrder();
-    for (auto& [key, view] : views_)
-        if (view.widget && form_.has(key)) applyFocusPolicy(view.widget, form_.c(key));
     QWidget* previous = nullptr;
-    for (const std::string& key : order) {
+    for (const std::string& key : form_.tabPlaces()) {
         QWidget* next = widget(key);
         if (!next) continue;
         if (previous) QWidget::setTabOrder(previous, next);
@@ -114,7 +102,7 @@ void FormWindow::applyTabOrder() {
 }
 
 
-void FormWindow::applyCommon(QWidget* widget, const Control& now, const Control* before) {
+void FormWindow::applyCommon(QWidget* widget, const std::string& key, const Control& now, const Control* before) {
     if (before && before->container != now.container) {
         widget->setParent(containerWidget(now.container));
         widget->setVisible(now.visible);
@@ -129,7 +117,7 @@ void FormWindow::applyCommon(QWidget* widget, const Control& now, const Control*
     if (!before || before->helpContextId != now.helpContextId)
         widget->setWhatsThis(now.helpContextId ? QStringLiteral("Help topic %1").arg(now.helpContextId) : QString());
     if (!before || before->tabStop != now.tabStop || before->locked != now.locked || before->focusable != now.focusable)
-        applyFocusPolicy(widget, now);
+        applyFocusPolicy(widget, key, now);
     applyAccessibility(widget, now, before);
 }
 
@@ -150,7 +138,7 @@ void FormWindow::applyControl(View& view, const Control& now, const std::string&
     }
     QWidget* widget = view.widget;
     if (!widget) return;
-    applyCommon(widget, now, before);
+    applyCommon(widget, key, now, before);
     auto changed = [&](auto member) { return !before || before->*member != now.*member; };
     const std::string caption = shownCaption(key, now);
     const bool captionChanged = caption != view.caption;

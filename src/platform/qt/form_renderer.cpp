@@ -81,14 +81,20 @@ bool FormRenderer::close(Form& form, UnloadMode mode) {
 }
 
 void FormRenderer::forward(const std::function<void()>& gesture) {
+    const auto gestureAndFocus = [&] {
+        gesture();
+        std::vector<Form*> shown;
+        for (auto& [form, window] : windows_) shown.push_back(&window->form());
+        for (Form* form : shown) form->keepFocusInReach();
+    };
     // The toolkit's own frames lie under every gesture and are not built to be unwound: a
     // failure of the model is reported here, before it could pass through them.
     auto* application = dynamic_cast<Application*>(QCoreApplication::instance());
     if (!application) {
-        gesture();
+        gestureAndFocus();
     } else {
         try {
-            gesture();
+            gestureAndFocus();
         } catch (const std::exception& failure) {
             application->fail(failure.what());
             return;

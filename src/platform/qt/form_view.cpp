@@ -135,7 +135,7 @@ void FormWindow::restack(const std::string& containerKey) {
 void FormWindow::markMnemonics() {
     std::vector<std::string> keys, captions;
     if (!form_.hasMenuBar()) {
-        for (const std::string& key : form_.tabOrder()) {
+        for (const std::string& key : form_.tabPlaces()) {
             const Control& control = form_.c(key);
             if (control.kind != ControlKind::CommandButton && control.kind != ControlKind::CheckBox &&
                 control.kind != ControlKind::RadioButton)
@@ -203,7 +203,7 @@ void FormWindow::sync() {
 void FormWindow::applyFocusReach() {
     // After the window took its size: what lies beyond its edge now takes no focus.
     for (auto& [key, view] : views_)
-        if (view.widget && form_.has(key)) applyFocusPolicy(view.widget, form_.c(key));
+        if (view.widget && form_.has(key)) applyFocusPolicy(view.widget, key, form_.c(key));
 }
 
 

@@ -93,14 +93,13 @@ private:
     void createView(const std::string& key);
     void createWidget(View& view, const Control& control, const std::string& key);
     void applyControl(View& view, const Control& control, const std::string& key);
-    void applyCommon(QWidget* widget, const Control& now, const Control* before);
+    void applyCommon(QWidget* widget, const std::string& key, const Control& now, const Control* before);
     void reconcile(QWidget* widget, const Control& now);
     void rebuildMenus();
     void applyMenu(View& view, const Control& control);
     QString menuText(const Control& control) const;
-    void applyFocusPolicy(QWidget* widget, const Control& control);
+    void applyFocusPolicy(QWidget* widget, const std::string& key, const Control& control);
     void applyFocusReach();
-    bool inSight(const QWidget* widget) const;
     void applyAccessibility(QWidget* widget, const Control& now, const Control* before);
     void applyWindow();
     void markMnemonics();

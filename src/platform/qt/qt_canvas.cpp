@@ -136,6 +136,11 @@ int QtCanvas::textWidth(const std::string& text) const {
     return int(std::lround(metrics.horizontalAdvance(qs(text)) * kTwipsPerPixel));
 }
 
+int QtCanvas::textHeight() const {
+    const QFontMetricsF metrics(qfont_, &image_);
+    return int(std::lround(std::ceil(metrics.ascent() + metrics.descent()) * kTwipsPerPixel));
+}
+
 void QtCanvas::paintPicture(const std::string& picture, int x, int y) {
     const QString name = qs(picture);
     const QSize size = pictureSize(name);

@@ -25,6 +25,7 @@ public:
     void setForeColor(Color color) override { foreColor_ = color; }
     void printText(int x, int y, const std::string& text) override;
     int textWidth(const std::string& text) const override;
+    int textHeight() const override;
     void paintPicture(const std::string& picture, int x, int y) override;
 
     // What has been drawn since the last clear, on a transparent ground; its
