@@ -9,6 +9,7 @@
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"
 #include "shell/about_window.h"
+#include "shell/feed_subscriptions.h"
 #include "shell/tip_window.h"
 
 namespace qh {
@@ -20,7 +21,8 @@ MainWindow::MainWindow(RecordStore& recordStore, Platform& thePlatform)
       files(std::make_unique<RecordFiles>(recordStore, thePlatform)),
       colors(std::make_unique<ColorVocabulary>()),
       editors(std::make_unique<EditorWindows>(thePlatform, *this)),
-      actions(std::make_unique<RecordActions>(recordStore, *files, thePlatform, *this, *editors)) {
+      actions(std::make_unique<RecordActions>(recordStore, *files, thePlatform, *this, *editors)),
+      subscriptions_(std::make_unique<FeedSubscriptions>(*this)) {
     setCanvasFactory(&platform.canvases);
     buildMenus();
     buildControls();
@@ -127,6 +129,10 @@ void MainWindow::bindHandlers() {
     // One shot, once the window has been painted.
     on("TimerDesktopReminders", FormEvent::Timer, [this](const EventArgs&) { TimerDesktopReminders_Timer(); });
     onClick("MenuDesktopReminders", [this] { MenuDesktopReminders_Click(); });
+    onClick("MenuSubscriptions", [this] { subscriptions_->showWindow(); });
+    // The first tick once the window has been painted, then every 6 hours.
+    on("TimerSubscriptions", FormEvent::Timer, [this](const EventArgs&) { subscriptions_->timerTick(); });
+    on("TimerSubscriptionAnswers", FormEvent::Timer, [this](const EventArgs&) { subscriptions_->applyWaitingAnswers(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
     on("TimerTip", FormEvent::Timer, [this](const EventArgs&) {
         c("TimerTip").enabled = false;

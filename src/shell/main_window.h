@@ -13,6 +13,7 @@
 //   window_layout.cpp    the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
 //   desktop_reminders    the day's reminders as a notice on the desktop
+//   feed_subscriptions   the calendar feeds subscribed to (a class of its own)
 //   list_grid.cpp        the grid's layout, scrolling, pressed row and header clicks
 //   keyboard_and_wheel.cpp  the calendar's and the grid's keys and mouse wheel
 //   list_view/*          the grid layouts, list builders and hit testing
@@ -38,6 +39,7 @@ class FrmTip;
 class FrmAbout;
 class FrmExportICalendar;
 class FrmImportPreview;
+class FeedSubscriptions;
 class CalendarLinks;
 struct ColorVocabulary;
 class EditorWindows;
@@ -167,6 +169,9 @@ public:
     // The notice was chosen: the main window comes forward in Today's Reminders of today.
     void ShowRemindersFromDesktop();
 
+    // Options > Calendar Subscriptions... and the feeds' refreshes (feed_subscriptions.h).
+    FeedSubscriptions& subscriptions() { return *subscriptions_; }
+
     // Colour of a colour name of the vocabulary, or of an "&H" text.
     Color colorValue(const std::string& nameOrHexText) const;
 
@@ -200,6 +205,7 @@ private:
     std::unique_ptr<FrmAbout> about_;
     std::unique_ptr<FrmExportICalendar> icalendarExport_;
     std::unique_ptr<FrmImportPreview> icalendarImport_;
+    std::unique_ptr<FeedSubscriptions> subscriptions_;
 
     // A window of the planner (an editor, the tip, About) is open over this one.
     bool windowOpenOverMain() const;

@@ -48,6 +48,7 @@ void MainWindow::buildMenus() {
     addMenu("MenuStartSun", "MenuStartDay", "Sunday");
     addMenu("MenuStartMon", "MenuStartDay", "Monday");
     addMenu("MenuDesktopReminders", "MenuOptions", "Desktop Reminders");
+    addMenu("MenuSubscriptions", "MenuOptions", "Calendar Subscriptions...");
 
     addMenu("MenuHelp", "", "Help");
     addMenu("MenuHelpDB", "MenuHelp", "Help");
@@ -213,6 +214,8 @@ void MainWindow::buildControls() {
     statusTimer.enabled = true;
     add(ControlKind::Timer, "TimerTip", "", 0, 0, 0, 0).interval = 500;
     add(ControlKind::Timer, "TimerDesktopReminders", "", 0, 0, 0, 0).interval = 100;
+    add(ControlKind::Timer, "TimerSubscriptions", "", 0, 0, 0, 0).interval = 100;
+    add(ControlKind::Timer, "TimerSubscriptionAnswers", "", 0, 0, 0, 0).interval = 1000;
     add(ControlKind::Timer, "Timer1", "", 0, 0, 0, 0).interval = 1000;
     add(ControlKind::Timer, "TimerButton", "", 0, 0, 0, 0).interval = 150;
 }
