@@ -1,0 +1,52 @@
+#include "scripted_http_server.h"
+
+#include <QTcpSocket>
+
+namespace qh::test {
+
+ScriptedHttpServer::ScriptedHttpServer(Answer kind, QByteArray calendar)
+    : answer_(kind), calendar_(std::move(calendar)) {
+    listen(QHostAddress::LocalHost, 0);
+    connect(this, &QTcpServer::newConnection, this, [this] {
+        while (QTcpSocket* socket = nextPendingConnection()) {
+            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                socket->setProperty("request", socket->property("request").toByteArray() + socket->readAll());
+                if (socket->property("request").toByteArray().contains("\r\n\r\n")) this->answer(socket);
+            });
+        }
+    });
+}
+
+std::string ScriptedHttpServer::address() const {
+    return "http://127.0.0.1:" + std::to_string(serverPort()) + "/school.ics";
+}
+
+void ScriptedHttpServer::answer(QTcpSocket* socket) {
+    ++requests;
+    lastRequest = socket->property("request").toByteArray();
+    socket->setProperty("request", QByteArray());
+    switch (answer_) {
+        case Answer::Silent: return;
+        case Answer::Huge: {
+            const QByteArray body(30 * 1024 * 1024, 'x');
+            socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/calendar\r\nContent-Length: " +
+                          QByteArray::number(body.size()) + "\r\n\r\n" + body);
+            return;
+        }
+        case Answer::NotModifiedWhenAsked:
+            if (lastRequest.contains("If-None-Match: \"v1\"")) {
+                socket->write("HTTP/1.1 304 Not Modified\r\nETag: \"v1\"\r\nContent-Length: 0\r\n\r\n");
+            } else {
+                socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/calendar\r\nETag: \"v1\"\r\nContent-Length: " +
+                              QByteArray::number(calendar_.size()) + "\r\n\r\n" + calendar_);
+            }
+            return;
+        case Answer::RedirectForever:
+            socket->write("HTTP/1.1 302 Found\r\nLocation: /again" + QByteArray::number(requests) +
+                          ".ics\r\nContent-Length: 0\r\n\r\n");
+            return;
+    }
+}
+
+}  // namespace qh::test
