@@ -256,6 +256,7 @@ void RecordActions::EditAssignment(int row) {
     static_cast<void>(files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row))));
     host_.refresh("NewRecord");
     host_.showSavedRow(SavedRecordKind::Assignment, row);
+    if (window.DeleteFlag) host_.recordDeleted(SavedRecordKind::Assignment, s.AssignmentIDs(row));
 }
 
 }  // namespace qh

@@ -85,6 +85,7 @@ void RecordActions::EditEvent(int row) {
     static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
     host_.refresh("NewRecord");
     host_.showSavedRow(SavedRecordKind::Event, row);
+    if (form.DeleteFlag) host_.recordDeleted(SavedRecordKind::Event, s.EventIDs(row));
 }
 
 }  // namespace qh

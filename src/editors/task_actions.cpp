@@ -73,6 +73,7 @@ void RecordActions::EditTask(int row) {
     static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
     host_.refresh("NewRecord");
     host_.showSavedRow(SavedRecordKind::Task, row);
+    if (form.DeleteFlag) host_.recordDeleted(SavedRecordKind::Task, s.TaskIDs(row));
 }
 
 }  // namespace qh

@@ -1,6 +1,7 @@
 #include "shell/feed_subscriptions.h"
 
 #include "common/failure.h"
+#include "common/int16.h"
 #include "editors/editor_windows.h"
 #include "interchange/calendar_links.h"
 #include "interchange/feed_status.h"
@@ -17,6 +18,15 @@ namespace {
 
 constexpr const char* kTitle = "Calendar Subscriptions";
 constexpr std::size_t kMostItems = 32766;
+
+LinkedKind linkedKindOf(SavedRecordKind kind) {
+    switch (kind) {
+        case SavedRecordKind::Assignment: return LinkedKind::Assignment;
+        case SavedRecordKind::Task: return LinkedKind::Task;
+        case SavedRecordKind::Event: return LinkedKind::Event;
+    }
+    return LinkedKind::Event;
+}
 
 std::string itemsText(int n) { return std::to_string(n) + (n == 1 ? " item" : " items"); }
 
@@ -272,6 +282,23 @@ void FeedSubscriptions::tellStatus(const Subscription& feed) {
     statusLine_ = line;
     w_.state.StatusBarText = line;
     w_.PaintStatusBar();
+}
+
+void FeedSubscriptions::recordDeleted(SavedRecordKind kind, const std::string& id) {
+    if (data_.feeds.empty() || w_.store.DriveReadOnly) return;
+    const CalendarLinks links = w_.readCalendarLinks();
+    const CalendarLink* link = links.find(linkedKindOf(kind), int16OrZero(id));
+    const Subscription* from = link ? data_.bySource(link->source) : nullptr;
+    Subscription* feed = from ? data_.find(from->id) : nullptr;
+    if (!feed) return;
+    if (w_.platform.messages.show("This item came from the calendar \"" + feed->name +
+                                      "\". Leave it out of the calendar's later refreshes?\n\n"
+                                      "If you answer No, it comes back when the calendar changes it or the "
+                                      "planner starts again.",
+                                  kTitle, MessageButtons::YesNo, MessageIcon::Question) != MessageAnswer::Yes)
+        return;
+    feed->hidden.insert(link->uid);
+    save();
 }
 
 void FeedSubscriptions::save() {

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "editors/editor_host.h"
 #include "interchange/subscriptions.h"
 #include "platform/calendar_items.h"
 #include "platform/feeds.h"
@@ -38,6 +39,9 @@ public:
     // TimerSubscriptionAnswers: answers that came while an editor was open.
     void applyWaitingAnswers();
     void refreshAll();
+    // A record deleted in its editor: when it came from a feed, the student is asked
+    // whether the feed's later refreshes should leave it out.
+    void recordDeleted(SavedRecordKind kind, const std::string& id);
 
     const Subscriptions& subscriptions() const { return data_; }
     // The longest a fetch may take; tests shorten it.

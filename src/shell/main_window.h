@@ -139,6 +139,7 @@ public:
     void selectTerm(const std::string& termName) override { SelectTerm(termName); }
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
     void showSavedRow(SavedRecordKind kind, int row) override;
+    void recordDeleted(SavedRecordKind kind, const std::string& id) override;
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();

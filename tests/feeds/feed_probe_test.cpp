@@ -4,6 +4,11 @@
 // answers a calendar server does not give on demand come from a scripted server.
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QTemporaryDir>
 #include <sstream>
 
 #include "platform/qt/network/qt_feed_fetcher.h"
@@ -147,6 +152,40 @@ TEST(FeedFetcher, ServersThatMisbehaveAreToldApart) {
     EXPECT_EQ(fetchOnce("http://127.0.0.1:" + std::to_string(test::FreeLoopbackPort()) + "/x.ics").outcome,
               O::Unreachable);
     EXPECT_EQ(fetchOnce("ftp://example.invalid/x.ics").why, "the address is not a web address");
+}
+
+// A secure server trusted as a school's would be (its certificate added to the trusted
+// ones for the test) that sends the feed on to a plain http address: refused, never read.
+TEST(FeedFetcher, ASecureFeedIsNeverSentOnToPlainHttp) {
+    QTemporaryDir folder;
+    const auto made = test::MakeSelfSignedCertificate(folder.path());
+    if (!made) GTEST_SKIP() << "openssl could not make a certificate";
+    QFile certificateFile(made->first), keyFile(made->second);
+    ASSERT_TRUE(certificateFile.open(QIODevice::ReadOnly) && keyFile.open(QIODevice::ReadOnly));
+    const QSslCertificate certificate(&certificateFile, QSsl::Pem);
+    QSslConfiguration served = QSslConfiguration::defaultConfiguration();
+    served.setLocalCertificate(certificate);
+    served.setPrivateKey(QSslKey(&keyFile, QSsl::Rsa, QSsl::Pem));
+
+    const QSslConfiguration systemTrust = QSslConfiguration::defaultConfiguration();
+    QSslConfiguration trusting = systemTrust;
+    trusting.addCaCertificate(certificate);
+    QSslConfiguration::setDefaultConfiguration(trusting);
+
+    const QByteArray calendar = QByteArray::fromStdString(test::TodoCalendar("hw1", "Problem set 5", "20261124"));
+    ScriptedHttpServer plain(ScriptedHttpServer::Answer::NotModifiedWhenAsked, calendar);
+    ScriptedHttpServer direct(ScriptedHttpServer::Answer::NotModifiedWhenAsked, calendar, served);
+    ScriptedHttpServer secure(ScriptedHttpServer::Answer::RedirectTo, QByteArray::fromStdString(plain.address()),
+                              served);
+    // The trusted server itself is read: the refusal below is the redirect's alone.
+    EXPECT_EQ(fetchOnce(direct.address()).outcome, FeedAnswer::Outcome::Fetched);
+    const FeedAnswer answer = fetchOnce(secure.address());
+    QSslConfiguration::setDefaultConfiguration(systemTrust);
+
+    EXPECT_EQ(secure.requests, 1);
+    EXPECT_EQ(plain.requests, 0);
+    EXPECT_EQ(answer.outcome, FeedAnswer::Outcome::Refused);
+    EXPECT_EQ(answer.why, "the feed was sent on to an address that is not secure");
 }
 
 TEST(FeedFetcher, AskingWithTheLastVersionGetsUnchanged) {

@@ -24,6 +24,14 @@ bool runTool(const QString& program, const QStringList& arguments) {
 
 }  // namespace
 
+std::optional<std::pair<QString, QString>> MakeSelfSignedCertificate(const QString& folder) {
+    const QString certificate = folder + "/cert.pem", key = folder + "/key.pem";
+    if (!runTool("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1",
+                             "-addext", "subjectAltName=IP:127.0.0.1", "-keyout", key, "-out", certificate}))
+        return std::nullopt;
+    return std::pair{certificate, key};
+}
+
 int FreeLoopbackPort() {
     QTcpServer probe;
     if (!probe.listen(QHostAddress::LocalHost, 0)) return 0;
@@ -41,13 +49,12 @@ RadicaleServer::RadicaleServer(Transport transport) : tls_(transport == Transpor
                           QStringLiteral("127.0.0.1:%1").arg(port_), "--auth-type", "none",
                           "--storage-filesystem-folder", storage};
     if (tls_) {
-        const QString certificate = folder_.filePath("cert.pem"), key = folder_.filePath("key.pem");
-        if (!runTool("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj",
-                                 "/CN=127.0.0.1", "-keyout", key, "-out", certificate})) {
+        const auto made = MakeSelfSignedCertificate(folder_.path());
+        if (!made) {
             why_ = "openssl could not make a certificate";
             return;
         }
-        arguments << "--server-ssl" << "--server-certificate" << certificate << "--server-key" << key;
+        arguments << "--server-ssl" << "--server-certificate" << made->first << "--server-key" << made->second;
     }
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process_.start(kPython, arguments);

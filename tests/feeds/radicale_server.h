@@ -5,7 +5,9 @@
 #include <QByteArray>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace qh::test {
 
@@ -35,6 +37,10 @@ private:
     bool tls_ = false, running_ = false;
     std::string why_;
 };
+
+// A certificate for 127.0.0.1 signed by itself, made by openssl in `folder`: the paths of
+// the certificate and its key, or nothing when openssl failed.
+std::optional<std::pair<QString, QString>> MakeSelfSignedCertificate(const QString& folder);
 
 // A free TCP port of 127.0.0.1 at the time of asking.
 int FreeLoopbackPort();

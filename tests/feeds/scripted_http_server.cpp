@@ -1,11 +1,12 @@
 #include "scripted_http_server.h"
 
+#include <QSslSocket>
 #include <QTcpSocket>
 
 namespace qh::test {
 
-ScriptedHttpServer::ScriptedHttpServer(Answer kind, QByteArray calendar)
-    : answer_(kind), calendar_(std::move(calendar)) {
+ScriptedHttpServer::ScriptedHttpServer(Answer kind, QByteArray calendar, std::optional<QSslConfiguration> tls)
+    : tls_(std::move(tls)), answer_(kind), calendar_(std::move(calendar)) {
     listen(QHostAddress::LocalHost, 0);
     connect(this, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket* socket = nextPendingConnection()) {
@@ -18,8 +19,17 @@ ScriptedHttpServer::ScriptedHttpServer(Answer kind, QByteArray calendar)
     });
 }
 
+void ScriptedHttpServer::incomingConnection(qintptr descriptor) {
+    if (!tls_) return QTcpServer::incomingConnection(descriptor);
+    auto* socket = new QSslSocket(this);
+    socket->setSocketDescriptor(descriptor);
+    socket->setSslConfiguration(*tls_);
+    socket->startServerEncryption();
+    addPendingConnection(socket);
+}
+
 std::string ScriptedHttpServer::address() const {
-    return "http://127.0.0.1:" + std::to_string(serverPort()) + "/school.ics";
+    return (tls_ ? "https" : "http") + std::string("://127.0.0.1:") + std::to_string(serverPort()) + "/school.ics";
 }
 
 void ScriptedHttpServer::answer(QTcpSocket* socket) {
@@ -41,6 +51,9 @@ void ScriptedHttpServer::answer(QTcpSocket* socket) {
                 socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/calendar\r\nETag: \"v1\"\r\nContent-Length: " +
                               QByteArray::number(calendar_.size()) + "\r\n\r\n" + calendar_);
             }
+            return;
+        case Answer::RedirectTo:
+            socket->write("HTTP/1.1 302 Found\r\nLocation: " + calendar_ + "\r\nContent-Length: 0\r\n\r\n");
             return;
         case Answer::RedirectForever:
             socket->write("HTTP/1.1 302 Found\r\nLocation: /again" + QByteArray::number(requests) +

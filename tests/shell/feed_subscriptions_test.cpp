@@ -196,7 +196,41 @@ TEST(FeedSubscriptions, AFeedOutOfReachKeepsItsItemsAndSaysSoWithoutAMessage) {
     planner.fake.feeds.answers[kAddress] = unchanged;
     planner.refresh();
     EXPECT_EQ(planner.window->state.StatusBarText, "School: up to date");
+    std::string listed;
+    planner.drive<FrmSubscriptions>("frmSubscriptions",
+                                    [&](FrmSubscriptions& list) { listed = list.c("ListSubscriptions").text; });
+    planner.window->click("MenuSubscriptions");
+    EXPECT_EQ(listed, "School    " + kAddress + "    refreshed today at 03:00 PM    4 items    up to date");
     EXPECT_EQ(planner.store.AssignmentIDs.count(), 3);
+}
+
+TEST(FeedSubscriptions, AnItemDeletedAndHiddenStaysAwayFromLaterRefreshes) {
+    SubscribedPlanner planner;
+    planner.subscribe();
+    RecordStore& s = planner.store;
+    const int club = rowOf(s.EventDescriptions, "Maths club");
+    ASSERT_NE(club, 0);
+    // Delete in the event editor; both questions answered Yes.
+    planner.drive<Form>("frmEvent", [](Form& editor) { editor.click("ButtonDelete"); });
+    planner.window->EditEvent(club);
+    ASSERT_EQ(s.EventDescriptions(club), kDeletedRecord);
+    ASSERT_EQ(planner.fake.messages.shown.size(), 2u);
+    EXPECT_NE(planner.fake.messages.shown[1].text.find("came from the calendar \"School\""), std::string::npos);
+    EXPECT_NE(planner.dataFile("Subscriptions.txt").find("Hidden\t1\te1"), std::string::npos);
+
+    // The teacher changes it: it is not brought back.
+    std::vector<CalendarItem> next = planner.feed;
+    next[3].summary = "Maths club (moved)";
+    planner.fake.feeds.answers[kAddress] = fetched(planner, next, "\"v2\"");
+    planner.refresh();
+    EXPECT_EQ(rowOf(s.EventDescriptions, "Maths club (moved)"), 0);
+    EXPECT_EQ(s.EventDescriptions(club), kDeletedRecord);
+    EXPECT_EQ(planner.window->subscriptions().subscriptions().feeds.front().items, 3);
+
+    // A task the student made is no business of the feeds: nothing is asked.
+    planner.fake.messages.shown.clear();
+    planner.window->subscriptions().recordDeleted(SavedRecordKind::Task, "77");
+    EXPECT_TRUE(planner.fake.messages.shown.empty());
 }
 
 }  // namespace
