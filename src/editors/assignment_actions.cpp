@@ -4,6 +4,7 @@
 #include <array>
 
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
@@ -226,7 +227,9 @@ void RecordActions::EditAssignment(int row) {
     }
     HandOverStudySessions(s, window, row);
 
+    ShowFeedOrigin(window, host_.feedOf(SavedRecordKind::Assignment, s.AssignmentIDs(row)));
     platform_.windowing.showModal(window, &host_.ownerWindow());
+    ShowFeedOrigin(window, "");
     if (window.CancelledFlag) return;
 
     s.AssignmentRecord =

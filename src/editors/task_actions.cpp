@@ -1,6 +1,7 @@
 // The task procedures: FrmTask shown for a new task or a row of the task columns, then
 // the row and its one record written, and the refresh.
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
@@ -65,7 +66,9 @@ void RecordActions::EditTask(int row) {
     form.tempTaskNotes = s.TaskNotes(row);
     form.tempTaskReminder = s.TaskReminders(row);
     form.SelectedTaskIndex = row;
+    ShowFeedOrigin(form, host_.feedOf(SavedRecordKind::Task, s.TaskIDs(row)));
     platform_.windowing.showModal(form, &host_.ownerWindow());
+    ShowFeedOrigin(form, "");
     if (form.CancelledFlag) return;
 
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));

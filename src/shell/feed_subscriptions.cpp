@@ -284,6 +284,15 @@ void FeedSubscriptions::tellStatus(const Subscription& feed) {
     w_.PaintStatusBar();
 }
 
+std::string FeedSubscriptions::feedOf(SavedRecordKind kind, const std::string& id) {
+    // No subscriptions, no feed to name: the links file is not even read.
+    if (data_.feeds.empty()) return {};
+    const CalendarLinks links = w_.readCalendarLinks();
+    const CalendarLink* link = links.find(linkedKindOf(kind), int16OrZero(id));
+    const Subscription* feed = link ? data_.bySource(link->source) : nullptr;
+    return feed ? feed->name : std::string();
+}
+
 void FeedSubscriptions::recordDeleted(SavedRecordKind kind, const std::string& id) {
     if (data_.feeds.empty() || w_.store.DriveReadOnly) return;
     const CalendarLinks links = w_.readCalendarLinks();

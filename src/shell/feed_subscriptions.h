@@ -42,6 +42,8 @@ public:
     // A record deleted in its editor: when it came from a feed, the student is asked
     // whether the feed's later refreshes should leave it out.
     void recordDeleted(SavedRecordKind kind, const std::string& id);
+    // The name of the feed a record came from; empty for the student's own.
+    std::string feedOf(SavedRecordKind kind, const std::string& id);
 
     const Subscriptions& subscriptions() const { return data_; }
     // The longest a fetch may take; tests shorten it.

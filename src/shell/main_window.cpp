@@ -40,6 +40,7 @@ void MainWindow::NewEvent() { actions->NewEvent(); }
 void MainWindow::EditEvent(int row) { actions->EditEvent(row); }
 void MainWindow::EditClassSchedule() { actions->EditClassSchedule(); }
 void MainWindow::recordDeleted(SavedRecordKind kind, const std::string& id) { subscriptions_->recordDeleted(kind, id); }
+std::string MainWindow::feedOf(SavedRecordKind kind, const std::string& id) { return subscriptions_->feedOf(kind, id); }
 
 Color MainWindow::colorValue(const std::string& nameOrHexText) const {
     if (nameOrHexText.size() > 1 && nameOrHexText[0] == '&') return colorFromText(nameOrHexText);

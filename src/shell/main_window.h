@@ -140,6 +140,7 @@ public:
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
     void showSavedRow(SavedRecordKind kind, int row) override;
     void recordDeleted(SavedRecordKind kind, const std::string& id) override;
+    std::string feedOf(SavedRecordKind kind, const std::string& id) override;
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();

@@ -210,9 +210,20 @@ TEST(FeedSubscriptions, AnItemDeletedAndHiddenStaysAwayFromLaterRefreshes) {
     RecordStore& s = planner.store;
     const int club = rowOf(s.EventDescriptions, "Maths club");
     ASSERT_NE(club, 0);
-    // Delete in the event editor; both questions answered Yes.
-    planner.drive<Form>("frmEvent", [](Form& editor) { editor.click("ButtonDelete"); });
+    // The editor says where the item came from; Delete, both questions answered Yes.
+    std::string origin;
+    planner.drive<Form>("frmEvent", [&](Form& editor) {
+        if (editor.c("LabelFromFeed").visible) origin = editor.c("LabelFromFeed").caption;
+        editor.click("ButtonDelete");
+    });
     planner.window->EditEvent(club);
+    EXPECT_EQ(origin, "From School");
+    // The student's own records say nothing of feeds.
+    planner.drive<Form>("frmEvent", [&](Form& editor) {
+        EXPECT_FALSE(editor.c("LabelFromFeed").visible);
+        editor.click("ButtonCancel");
+    });
+    planner.window->NewEvent();
     ASSERT_EQ(s.EventDescriptions(club), kDeletedRecord);
     ASSERT_EQ(planner.fake.messages.shown.size(), 2u);
     EXPECT_NE(planner.fake.messages.shown[1].text.find("came from the calendar \"School\""), std::string::npos);
