@@ -8,7 +8,7 @@ std::string FeedWhenText(const Moment& when, const Moment& now, const Locale& lo
     const std::string time = " at " + locale.mediumTime(when.seconds);
     if (when.date == now.date) return "today" + time;
     if (when.date + 1 == now.date) return "yesterday" + time;
-    return "on " + locale.longDate(when.date) + time;
+    return locale.longDate(when.date) + time;
 }
 
 std::string FeedRefreshedText(const Subscription& feed, const Moment& now, const Locale& locale) {

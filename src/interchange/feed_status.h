@@ -10,7 +10,7 @@ namespace qh {
 
 class Locale;
 
-// "today at 09:05 AM", "yesterday at ...", else "on <long date> at ...".
+// "today at 09:05 AM", "yesterday at ...", else "<long date> at ...".
 std::string FeedWhenText(const Moment& when, const Moment& now, const Locale& locale);
 // The subscription's last refresh, "never" before the first.
 std::string FeedRefreshedText(const Subscription& feed, const Moment& now, const Locale& locale);
