@@ -6,21 +6,20 @@ namespace qh {
 
 FrmSubscriptions::FrmSubscriptions() : Form("frmSubscriptions") {
     fixedSize = true;
-    setOuterSize(9000, 4560);
+    setOuterSize(10800, 4560);
     caption = "Quillhollow - Calendar Subscriptions";
-    add(ControlKind::Label, "LabelSubscriptions", "", 240, 180, 8400, 285).caption =
+    add(ControlKind::Label, "LabelSubscriptions", "", 240, 180, 10200, 285).caption =
         "Calendar feeds the planner reads every 6 hours:";
-    add(ControlKind::ListBox, "ListSubscriptions", "", 240, 540, 8400, 2700).accessibleName = "Subscriptions";
-    const char* buttons[][2] = {{"ButtonAdd", "Add..."},
-                                {"ButtonEdit", "Edit..."},
-                                {"ButtonRemove", "Remove"},
-                                {"ButtonRefresh", "Refresh Now"},
-                                {"ButtonClose", "Close"}};
+    add(ControlKind::ListBox, "ListSubscriptions", "", 240, 540, 10200, 2700).accessibleName = "Subscriptions";
+    // The four that act on the list from the left, Close alone on the right.
+    const char* buttons[][2] = {
+        {"ButtonAdd", "Add..."}, {"ButtonEdit", "Edit..."}, {"ButtonRemove", "Remove"}, {"ButtonRefresh", "Refresh Now"}};
     int left = 240;
     for (const auto& [key, text] : buttons) {
-        add(ControlKind::CommandButton, key, "", left, 3480, 1500, 375).caption = text;
-        left += 1500 + (std::string(key) == "ButtonRefresh" ? 1200 : 150);
+        add(ControlKind::CommandButton, key, "", left, 3480, 1380, 375).caption = text;
+        left += 1380 + 120;
     }
+    add(ControlKind::CommandButton, "ButtonClose", "", 10440 - 1260, 3480, 1260, 375).caption = "Close";
     c("LabelSubscriptions").backColor = kButtonFace;
     cancelButton = "ButtonClose";
     bindControls();
