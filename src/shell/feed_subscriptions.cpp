@@ -40,7 +40,7 @@ std::string unreadable(const CalendarRead& read) {
 }  // namespace
 
 FeedSubscriptions::FeedSubscriptions(MainWindow& window) : w_(window) {}
-FeedSubscriptions::~FeedSubscriptions() = default;
+FeedSubscriptions::~FeedSubscriptions() { *alive_ = false; }
 
 void FeedSubscriptions::load() {
     const std::string path = dataFilePath(w_.store, Subscriptions::kFileName);
@@ -97,8 +97,8 @@ void FeedSubscriptions::startFetch(const std::string& address, FrmSubscription& 
     FeedRequest request;
     request.address = address;
     request.timeoutMs = timeoutMs;
-    w_.platform.feeds.fetch(request, [this, attempt, &form](const FeedAnswer& answer) {
-        if (attempt != attempt_ || !form.fetching()) return;  // cancelled, or asked again since
+    w_.platform.feeds.fetch(request, [this, alive = alive_, attempt, &form](const FeedAnswer& answer) {
+        if (!*alive || attempt != attempt_ || !form.fetching()) return;  // cancelled, or asked again since
         if (answer.outcome != FeedAnswer::Outcome::Fetched) {
             form.notRead(answer.why.empty() ? "the server could not be reached" : answer.why);
             return;
@@ -199,7 +199,9 @@ void FeedSubscriptions::refreshAll() {
         request.etag = feed.etag;
         request.lastModified = feed.lastModified;
         request.timeoutMs = timeoutMs;
-        w_.platform.feeds.fetch(request, [this, id = feed.id](const FeedAnswer& answer) { answered(id, answer); });
+        w_.platform.feeds.fetch(request, [this, alive = alive_, id = feed.id](const FeedAnswer& answer) {
+            if (*alive) answered(id, answer);
+        });
     }
     showLines();
 }

@@ -75,6 +75,8 @@ private:
     std::optional<Read> read_;  // the feed the subscription window read
     int attempt_ = 0;           // the subscription window's latest fetch
     std::string statusLine_;    // what this put in the status bar last
+    // Cleared when the window goes: an answer that arrives after it is passed over.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace qh
