@@ -204,6 +204,28 @@ TEST(FeedSubscriptions, AFeedOutOfReachKeepsItsItemsAndSaysSoWithoutAMessage) {
     EXPECT_EQ(planner.store.AssignmentIDs.count(), 3);
 }
 
+TEST(FeedSubscriptions, AnAnswerThatComesWhileAnEditorIsOpenWaitsForIt) {
+    SubscribedPlanner planner;
+    planner.subscribe();
+    RecordStore& s = planner.store;
+    std::vector<CalendarItem> next = planner.feed;
+    next.push_back(deadline("a9", "Late addition", planner.monday + 9));
+    planner.fake.feeds.answers[kAddress] = fetched(planner, next, "\"v2\"");
+    const int club = rowOf(s.EventDescriptions, "Maths club");
+    int whileOpen = -1;
+    planner.drive<Form>("frmEvent", [&](Form& editor) {
+        planner.refresh();  // the timer fires and the answer arrives over the editor
+        whileOpen = rowOf(s.AssignmentDescriptions, "Late addition");
+        editor.click("ButtonCancel");
+    });
+    planner.window->EditEvent(club);
+    EXPECT_EQ(whileOpen, 0);
+    EXPECT_TRUE(planner.window->c("TimerSubscriptionAnswers").enabled);
+    planner.window->tick("TimerSubscriptionAnswers");
+    EXPECT_NE(rowOf(s.AssignmentDescriptions, "Late addition"), 0);
+    EXPECT_FALSE(planner.window->c("TimerSubscriptionAnswers").enabled);
+}
+
 TEST(FeedSubscriptions, AnItemDeletedAndHiddenStaysAwayFromLaterRefreshes) {
     SubscribedPlanner planner;
     planner.subscribe();
