@@ -20,10 +20,11 @@ QH_BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev lib
                    libgl-dev libical-dev libgtest-dev libgmock-dev libbenchmark-dev
                    fonts-liberation fonts-dejavu-core)
 # dunst, dbus-daemon, dbus-bin and systemd (busctl, which dunstctl history uses): the desktop
-# notices against a real notification server.
+# notices against a real notification server. radicale and openssl: the calendar feeds
+# against a real calendar server, over TLS with a certificate of the test's own.
 QH_TEST_PACKAGES=(clang libclang-rt-14-dev xvfb xauth chromium poppler-utils bubblewrap patchelf
                   libglib2.0-bin python3-icalendar python3-recurring-ical-events dunst dbus-daemon
-                  dbus-bin systemd)
+                  dbus-bin systemd radicale openssl)
 # scripts/screenshots: the virtual display, its keys and camera, and the GTK theme plugin
 # through which a desktop's light or dark theme reaches the program.
 QH_SCREENSHOT_PACKAGES=(xvfb xauth xdotool imagemagick qt6-gtk-platformtheme)

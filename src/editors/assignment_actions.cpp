@@ -4,6 +4,7 @@
 #include <array>
 
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
@@ -224,7 +225,9 @@ bool RecordActions::EditAssignment(int row) {
     }
     HandOverStudySessions(s, window, row);
 
+    ShowFeedOrigin(window, host_.feedOf(SavedRecordKind::Assignment, s.AssignmentIDs(row)));
     platform_.windowing.showModal(window, &host_.ownerWindow());
+    ShowFeedOrigin(window, "");
     if (window.outcome() == EditorOutcome::Cancelled) return true;
 
     s.AssignmentRecord =
@@ -255,6 +258,7 @@ bool RecordActions::EditAssignment(int row) {
     written &= files_.SaveAssignment(int16OrZero(s.AssignmentRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Assignment, row);
+    if (window.outcome() == EditorOutcome::Deleted) host_.recordDeleted(SavedRecordKind::Assignment, s.AssignmentIDs(row));
     return written;
 }
 

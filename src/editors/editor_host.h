@@ -33,6 +33,11 @@ public:
     // After a save and its refresh: the list frames the saved record's row, scrolled into
     // sight, when the list shows that record. `row` is the record's row in its columns.
     virtual void showSavedRow(SavedRecordKind, int) {}
+    // After the editor's Delete was written: a record that came from a calendar feed may be
+    // hidden from the feed's later refreshes, which the main window asks about.
+    virtual void recordDeleted(SavedRecordKind, const std::string&) {}
+    // The name of the calendar feed a record came from; empty for the student's own.
+    virtual std::string feedOf(SavedRecordKind, const std::string&) { return {}; }
 };
 
 }  // namespace qh

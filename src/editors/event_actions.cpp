@@ -2,6 +2,7 @@
 // then the row and its one record written, and the refresh. An edit
 // from any occurrence of a recurring event arrives here with the one row of its record.
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
@@ -77,7 +78,9 @@ bool RecordActions::EditEvent(int row) {
     form.tempEventEnd = s.EventEnds(row);
     form.tempEventEndDate = s.EventEndDates(row);
     form.tempEventNotes = s.EventNotes(row);
+    ShowFeedOrigin(form, host_.feedOf(SavedRecordKind::Event, s.EventIDs(row)));
     platform_.windowing.showModal(form, &host_.ownerWindow());
+    ShowFeedOrigin(form, "");
     if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
@@ -85,6 +88,7 @@ bool RecordActions::EditEvent(int row) {
     const bool written = files_.SaveEvent(int16OrZero(s.EventRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, row);
+    if (form.outcome() == EditorOutcome::Deleted) host_.recordDeleted(SavedRecordKind::Event, s.EventIDs(row));
     return written;
 }
 

@@ -1,6 +1,7 @@
 #include "editors/frm_assignment.h"
 
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
@@ -87,6 +88,7 @@ void FrmAssignment::buildControls() {
     combo("ComboRemindMe", 4560, 1020, 1560);
 
     label("LabelDescription", 120, 1440, 3000, "Description");
+    AddFeedOriginLabel(*this, 3120, 1440, 3000);
     add(ControlKind::TextBox, "TextBoxDescription", "", 120, 1680, 6000, 315).border = true;
     label("LabelNotes", 120, 2100, 3000, "Notes");
     Control& notes = add(ControlKind::TextBox, "TextBoxNotes", "", 120, 2340, 4200, 1140);

@@ -1,5 +1,6 @@
 #include "editors/frm_event.h"
 
+#include "editors/feed_origin.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
@@ -52,6 +53,7 @@ void FrmEvent::buildControls() {
     add(ControlKind::ComboBox, "ComboRemindMe", "", 4560, 1020, 1530, 315);
 
     label("LabelNotes", 240, 1440, 3000, "Notes");
+    AddFeedOriginLabel(*this, 3240, 1440, 2850);
     Control& notes = add(ControlKind::TextBox, "TextBoxNotes", "", 240, 1680, 5850, 1320);
     notes.multiLine = true;
     notes.border = true;

@@ -1,5 +1,6 @@
 #include "editors/frm_task.h"
 
+#include "editors/feed_origin.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
@@ -46,6 +47,7 @@ void FrmTask::buildControls() {
     add(ControlKind::ComboBox, "ComboType", "", 3960, 360, 2160, 315);
 
     label("LabelDescription", 240, 780, 3000, "Description");
+    AddFeedOriginLabel(*this, 3240, 780, 2880);
     add(ControlKind::TextBox, "TextBoxDescription", "", 240, 1020, 5880, 315).border = true;
 
     label("LabelDifficulty", 240, 1440, 1800, "Priority");

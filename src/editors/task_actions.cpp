@@ -1,6 +1,7 @@
 // The task procedures: FrmTask shown for a new task or a row of the task columns, then
 // the row and its one record written, and the refresh.
 #include "common/text.h"
+#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
@@ -64,7 +65,9 @@ bool RecordActions::EditTask(int row) {
     form.tempTaskDone = s.TaskDones(row);
     form.tempTaskNotes = s.TaskNotes(row);
     form.tempTaskReminder = s.TaskReminders(row);
+    ShowFeedOrigin(form, host_.feedOf(SavedRecordKind::Task, s.TaskIDs(row)));
     platform_.windowing.showModal(form, &host_.ownerWindow());
+    ShowFeedOrigin(form, "");
     if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
@@ -72,6 +75,7 @@ bool RecordActions::EditTask(int row) {
     const bool written = files_.SaveTask(int16OrZero(s.TaskRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, row);
+    if (form.outcome() == EditorOutcome::Deleted) host_.recordDeleted(SavedRecordKind::Task, s.TaskIDs(row));
     return written;
 }
 

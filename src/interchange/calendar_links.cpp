@@ -102,6 +102,17 @@ void CalendarLinks::set(LinkedKind kind, std::int32_t id, CalendarLink link) {
     changed_ = true;
 }
 
+std::vector<CalendarLinks::Linked> CalendarLinks::ofSource(const std::string& source) const {
+    std::vector<Linked> out;
+    for (const auto& [key, link] : links_)
+        if (link.source == source) out.push_back(Linked{std::get<0>(key), std::get<1>(key)});
+    return out;
+}
+
+void CalendarLinks::remove(LinkedKind kind, std::int32_t id) {
+    if (links_.erase({kind, id}) > 0) changed_ = true;
+}
+
 std::string NewCalendarUid() {
     static std::mt19937_64 generator{std::random_device{}()};
     static constexpr char kDigits[] = "0123456789abcdef";

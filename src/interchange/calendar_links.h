@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 namespace qh {
 
@@ -39,6 +40,9 @@ public:
     };
     std::map<std::string, Linked> byUid() const;
     void set(LinkedKind kind, std::int32_t id, CalendarLink link);
+    // The records imported from one source, and forgetting where a record came from.
+    std::vector<Linked> ofSource(const std::string& source) const;
+    void remove(LinkedKind kind, std::int32_t id);
 
     bool changed() const { return changed_; }
     std::size_t size() const { return links_.size(); }

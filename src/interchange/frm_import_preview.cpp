@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/int16.h"
 #include "common/text.h"
 
 namespace qh {
@@ -23,6 +24,15 @@ bool sameName(const std::string& a, const std::string& b) {
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
 }  // namespace
+
+std::vector<ClassChoice> ActiveTermClasses(const RecordStore& store) {
+    std::vector<ClassChoice> classes;
+    for (int c = 1; c <= store.ClassIDs.count(); ++c)
+        if (int16OrZero(store.ClassTermLinks(c)) == store.CurrentTermID && store.CurrentTermID != 0 &&
+            store.ClassNames(c) != kDeletedRecord)
+            classes.push_back({store.ClassIDs(c), store.ClassNames(c)});
+    return classes;
+}
 
 FrmImportPreview::FrmImportPreview() : Form("frmImportPreview") {
     fixedSize = true;

@@ -15,6 +15,10 @@ struct ClassChoice {
     std::string id, name;
 };
 
+// The classes of the active term, which imported to-dos and deadlines may become
+// assignments of.
+std::vector<ClassChoice> ActiveTermClasses(const RecordStore& store);
+
 class FrmImportPreview : public Form {
 public:
     static constexpr int kCourseRows = 6;

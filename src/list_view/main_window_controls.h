@@ -21,7 +21,8 @@ struct MainWindowControls {
     ControlRef MenuClassSchedule{form, "MenuClassSchedule"}, MenuNewAssignment{form, "MenuNewAssignment"},
         MenuNewTask{form, "MenuNewTask"}, MenuNewEvent{form, "MenuNewEvent"};
     ControlRef MenuStartSat{form, "MenuStartSat"}, MenuStartSun{form, "MenuStartSun"},
-        MenuStartMon{form, "MenuStartMon"}, MenuDesktopReminders{form, "MenuDesktopReminders"};
+        MenuStartMon{form, "MenuStartMon"}, MenuDesktopReminders{form, "MenuDesktopReminders"},
+        MenuSubscriptions{form, "MenuSubscriptions"};
     ControlRef MenuHelpDB{form, "MenuHelpDB"}, MenuHomeworkHelp{form, "MenuHomeworkHelp"},
         MenuShowTips{form, "MenuShowTips"}, MenuAbout{form, "MenuAbout"};
 
@@ -67,9 +68,10 @@ struct MainWindowControls {
     ControlRef picGrid{form, "picGrid"}, VSGridScroll{form, "VSGridScroll"}, picStatusBar{form, "picStatusBar"};
 
     // The timers: the stopwatch, the calendar arrows' repeat, the tip at start, the status
-    // bar and the desktop reminders.
+    // bar, the desktop reminders, the feeds' refreshes and the answers waiting for them.
     ControlRef Timer1{form, "Timer1"}, TimerButton{form, "TimerButton"}, TimerTip{form, "TimerTip"},
-        TimerStatusBar{form, "TimerStatusBar"}, TimerDesktopReminders{form, "TimerDesktopReminders"};
+        TimerStatusBar{form, "TimerStatusBar"}, TimerDesktopReminders{form, "TimerDesktopReminders"},
+        TimerSubscriptions{form, "TimerSubscriptions"}, TimerSubscriptionAnswers{form, "TimerSubscriptionAnswers"};
 };
 
 }  // namespace qh

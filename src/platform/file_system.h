@@ -41,6 +41,9 @@ public:
     // file; but nothing is synced, since waiting for the disk is most of the time such a
     // write takes, and a page lost to a power cut is made again by the next export.
     virtual void writeWholeUnsynced(const std::string& path, const std::string& bytes) { writeWhole(path, bytes); }
+    // A whole file that holds something private (a feed address with its token): replaced
+    // as writeWhole does, and readable and writable by its owner alone.
+    virtual void writeWholePrivate(const std::string& path, const std::string& bytes) { writeWhole(path, bytes); }
     // The first `maxBytes` bytes of a file (fewer when it is shorter), for files of which
     // only a head matters however large they are. Fails, like readAll, when the file cannot
     // be opened or read, and also when it is not a plain file (a folder, a device, a pipe).

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/environment.h"
+#include "platform/feeds.h"
 #include "platform/file_system.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
@@ -28,6 +29,7 @@ struct Platform {
     CalendarCodec& calendars;
     // Last, with a default, so that a tool that shows no notices need not name it.
     Notifications& notifications = Notifications::none();
+    FeedFetcher& feeds = FeedFetcher::none();
 };
 
 }  // namespace qh

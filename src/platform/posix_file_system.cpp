@@ -203,11 +203,20 @@ void PosixFileSystem::writeWholeUnsynced(const std::string& path, const std::str
     replaceWhole(path, bytes, false);
 }
 
-void PosixFileSystem::replaceWhole(const std::string& path, const std::string& bytes, bool synced) {
+void PosixFileSystem::writeWholePrivate(const std::string& path, const std::string& bytes) {
+    replaceWhole(path, bytes, synced_, true);
+}
+
+void PosixFileSystem::replaceWhole(const std::string& path, const std::string& bytes, bool synced, bool ownerOnly) {
     const std::string temporary = path + ".tmp-" + std::to_string(::getpid());
     {
-        Descriptor fd(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+        Descriptor fd(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ownerOnly ? 0600 : 0644));
         if (fd.get() < 0) fail("Cannot create", temporary);
+        // A temporary file left by an earlier run keeps its own mode through O_TRUNC.
+        if (ownerOnly && ::fchmod(fd.get(), 0600) != 0) {
+            ::unlink(temporary.c_str());
+            fail("Cannot protect", temporary);
+        }
         try {
             writeAll(fd.get(), bytes.data(), bytes.size(), temporary);
             if (synced && ::fsync(fd.get()) != 0) fail("Cannot sync", temporary);

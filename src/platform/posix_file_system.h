@@ -16,6 +16,7 @@ public:
     std::string readAll(const std::string& path) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
     void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
+    void writeWholePrivate(const std::string& path, const std::string& bytes) override;
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
     std::int64_t sizeOf(const std::string& path) override;
     bool exists(const std::string& path) override;
@@ -29,7 +30,7 @@ public:
     std::vector<std::string> listDirectory(const std::string& path) override;
 
 private:
-    void replaceWhole(const std::string& path, const std::string& bytes, bool synced);
+    void replaceWhole(const std::string& path, const std::string& bytes, bool synced, bool ownerOnly = false);
     bool synced_;
 };
 

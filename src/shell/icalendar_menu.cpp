@@ -36,16 +36,6 @@ std::string countsText(const ICalendarItems& items, const ICalendarChoice& choic
     return text;
 }
 
-// The classes of the active term, which imported deadlines may become assignments of.
-std::vector<ClassChoice> activeTermClasses(const RecordStore& store) {
-    std::vector<ClassChoice> classes;
-    for (int c = 1; c <= store.ClassIDs.count(); ++c)
-        if (int16OrZero(store.ClassTermLinks(c)) == store.CurrentTermID && store.CurrentTermID != 0 &&
-            store.ClassNames(c) != kDeletedRecord)
-            classes.push_back({store.ClassIDs(c), store.ClassNames(c)});
-    return classes;
-}
-
 std::string resultText(const ImportResult& result) {
     return "Imported: " + std::to_string(result.added) + " added, " + std::to_string(result.updated) +
            " updated, " + std::to_string(result.unchanged) + " unchanged, " + std::to_string(result.skipped) +
@@ -140,7 +130,7 @@ void MainWindow::ImportICalendar() {
     if (!icalendarImport_) icalendarImport_ = std::make_unique<FrmImportPreview>();
     FrmImportPreview& preview = *icalendarImport_;
     preview.plan = &plan;
-    preview.classes = activeTermClasses(store);
+    preview.classes = ActiveTermClasses(store);
     preview.fileName = fileTitle;
     platform.windowing.showModal(preview, this);
     const ImportChoices choices = preview.choices();

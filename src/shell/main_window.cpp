@@ -11,6 +11,7 @@
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"
 #include "shell/about_window.h"
+#include "shell/feed_subscriptions.h"
 #include "shell/tip_window.h"
 
 namespace qh {
@@ -22,7 +23,8 @@ MainWindow::MainWindow(RecordStore& recordStore, Platform& thePlatform)
       files(std::make_unique<RecordFiles>(recordStore, thePlatform)),
       colors(std::make_unique<ColorVocabulary>()),
       editors(std::make_unique<EditorWindows>(thePlatform, *this)),
-      actions(std::make_unique<RecordActions>(recordStore, *files, thePlatform, *this, *editors)) {
+      actions(std::make_unique<RecordActions>(recordStore, *files, thePlatform, *this, *editors)),
+      subscriptions_(std::make_unique<FeedSubscriptions>(*this)) {
     setCanvasFactory(&platform.canvases);
     buildMenus();
     buildControls();
@@ -40,6 +42,8 @@ void MainWindow::EditTask(int row) { actions->EditTask(row); }
 void MainWindow::NewEvent() { actions->NewEvent(); }
 void MainWindow::EditEvent(int row) { actions->EditEvent(row); }
 void MainWindow::EditClassSchedule() { actions->EditClassSchedule(); }
+void MainWindow::recordDeleted(SavedRecordKind kind, const std::string& id) { subscriptions_->recordDeleted(kind, id); }
+std::string MainWindow::feedOf(SavedRecordKind kind, const std::string& id) { return subscriptions_->feedOf(kind, id); }
 
 DayMarks MainWindow::MarkEventDaysFor(Date firstCell) {
     EventDayMarks events = MarkEventDays(store, firstCell, ui.ComboList->text);
@@ -123,6 +127,11 @@ void MainWindow::bindHandlers() {
     // One shot, once the window has been painted.
     on(ui.TimerDesktopReminders.key(), FormEvent::Timer, [this](const EventArgs&) { desktopReminderTimerTicked(); });
     onClick(ui.MenuDesktopReminders.key(), [this] { toggleDesktopReminders(); });
+    onClick(ui.MenuSubscriptions.key(), [this] { subscriptions_->showWindow(); });
+    // The first tick once the window has been painted, then every 6 hours.
+    on(ui.TimerSubscriptions.key(), FormEvent::Timer, [this](const EventArgs&) { subscriptions_->timerTick(); });
+    on(ui.TimerSubscriptionAnswers.key(), FormEvent::Timer,
+       [this](const EventArgs&) { subscriptions_->applyWaitingAnswers(); });
     // One shot: the Tip of the Day opens from its first tick, once the window is up.
     on(ui.TimerTip.key(), FormEvent::Timer, [this](const EventArgs&) {
         ui.TimerTip->enabled = false;

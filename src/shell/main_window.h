@@ -13,6 +13,7 @@
 //   window_layout.cpp    the resize handler
 //   help_menu.cpp        the Tip of the Day, help, tutorials, web entries and About
 //   desktop_reminders    the day's reminders as a notice on the desktop
+//   feed_subscriptions   the calendar feeds subscribed to (a class of its own)
 //   list_grid.cpp        the grid's layout, scrolling, pressed row and header clicks
 //   keyboard_and_wheel.cpp  the calendar's and the grid's keys and mouse wheel
 //   list_view/*          the grid layouts, list builders and hit testing
@@ -40,6 +41,7 @@ class FrmTip;
 class FrmAbout;
 class FrmExportICalendar;
 class FrmImportPreview;
+class FeedSubscriptions;
 class CalendarLinks;
 struct ColorVocabulary;
 class EditorWindows;
@@ -140,6 +142,8 @@ public:
     void selectTerm(const std::string& termName) override { SelectTerm(termName); }
     void highlightRow(int row, bool on) override { HighlightGridRow(row, on); }
     void showSavedRow(SavedRecordKind kind, int row) override;
+    void recordDeleted(SavedRecordKind kind, const std::string& id) override;
+    std::string feedOf(SavedRecordKind kind, const std::string& id) override;
 
     // Tips, help, tutorials and About.
     void StartTipsIfWanted();
@@ -168,6 +172,9 @@ public:
     void NotifyDesktopReminders();
     // The notice was chosen: the main window comes forward in Today's Reminders of today.
     void ShowRemindersFromDesktop();
+
+    // Options > Calendar Subscriptions... and the feeds' refreshes (feed_subscriptions.h).
+    FeedSubscriptions& subscriptions() { return *subscriptions_; }
 
 private:
     void buildControls();
@@ -199,6 +206,7 @@ private:
     std::unique_ptr<FrmAbout> about_;
     std::unique_ptr<FrmExportICalendar> icalendarExport_;
     std::unique_ptr<FrmImportPreview> icalendarImport_;
+    std::unique_ptr<FeedSubscriptions> subscriptions_;
 
     // A window of the planner (an editor, the tip, About) is open over this one.
     bool windowOpenOverMain() const;

@@ -48,6 +48,7 @@ void MainWindow::buildMenus() {
     addMenu(ui.MenuStartSun.key(), "MenuStartDay", "Sunday");
     addMenu(ui.MenuStartMon.key(), "MenuStartDay", "Monday");
     addMenu(ui.MenuDesktopReminders.key(), "MenuOptions", "Desktop Reminders");
+    addMenu(ui.MenuSubscriptions.key(), "MenuOptions", "Calendar Subscriptions...");
 
     addMenu("MenuHelp", "", "Help");
     addMenu(ui.MenuHelpDB.key(), "MenuHelp", "Help");
@@ -210,6 +211,8 @@ void MainWindow::buildControls() {
     statusTimer.enabled = true;
     add(ControlKind::Timer, ui.TimerTip.key(), "", 0, 0, 0, 0).interval = 500;
     add(ControlKind::Timer, ui.TimerDesktopReminders.key(), "", 0, 0, 0, 0).interval = 100;
+    add(ControlKind::Timer, ui.TimerSubscriptions.key(), "", 0, 0, 0, 0).interval = 100;
+    add(ControlKind::Timer, ui.TimerSubscriptionAnswers.key(), "", 0, 0, 0, 0).interval = 1000;
     add(ControlKind::Timer, ui.Timer1.key(), "", 0, 0, 0, 0).interval = 1000;
     add(ControlKind::Timer, ui.TimerButton.key(), "", 0, 0, 0, 0).interval = 150;
 }

@@ -7,6 +7,7 @@
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "record_store/backups.h"
+#include "shell/feed_subscriptions.h"
 #include "shell/main_window.h"
 #include "shell/preferences.h"
 
@@ -125,6 +126,7 @@ void MainWindow::Form_Load() {
     SetHomeworkMode();
     ui.TimerTip->enabled = true;
     LoadDesktopReminderSettings();
+    subscriptions_->load();
 }
 
 void RemoveProcessFile(Platform& platform) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "probe_network.h"
 #include "probe_session.h"
 
 int main(int argc, char** argv) {
@@ -13,7 +14,9 @@ int main(int argc, char** argv) {
     const std::string host = argc == 3 ? argv[2] : std::string(argv[1]) + "/../probe-host";
     try {
         std::filesystem::create_directories(host);
-        qh::ProbeSession session(argv[1], host, std::cout);
+        const std::string drive = argv[1];
+        const std::unique_ptr<qh::ProbeNetwork> network = qh::MakeProbeNetwork(argc, argv);
+        qh::ProbeSession session(drive, host, std::cout, network->feeds());
         if (!session.run(std::cin)) {
             std::cerr << "probe: line " << session.failedLineNumber() << " not understood: " << session.failedLine()
                       << "\n";

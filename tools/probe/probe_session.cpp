@@ -74,11 +74,12 @@ struct ScriptStop {
 
 }  // namespace
 
-ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out)
+ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out,
+                           FeedFetcher& feeds)
     : out_(out),
       platform_{environment_, clock_,     locale_,    messages_, files_,
                 processes_,   dialogs_,   windowing_, canvases_, calendars_,
-                notifications_} {
+                notifications_, feeds} {
     environment_.values = {{"U3_DEVICE_PATH", drive},
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
@@ -96,7 +97,8 @@ void ProbeSession::start() {
     window_->Form_Load();
     windowing_.show(*window_);
     // The probe's window is painted at once: what waits for the first paint runs now.
-    if (window_->ui.TimerDesktopReminders->enabled) window_->tick(window_->ui.TimerDesktopReminders.key());
+    for (const ControlRef* timer : {&window_->ui.TimerDesktopReminders, &window_->ui.TimerSubscriptions})
+        if ((*timer)->enabled) window_->tick(timer->key());
 }
 
 Form& ProbeSession::frontWindow() {
@@ -198,6 +200,13 @@ bool ProbeSession::action(const std::string& line) {
         for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
         return true;
     }
+    if (verb == "wait" && !windowing_.modalStack.empty()) {
+        // Over a window the main window's timers wait; the network's answers arrive.
+        long long seconds = 0;
+        words >> seconds;
+        platform_.feeds.settle(int(std::min<long long>(seconds, 600) * 1000));
+        return true;
+    }
     if (windowAction(verb, words)) return true;
     if (!windowing_.modalStack.empty()) return false;  // the main window's verbs wait for it
 
@@ -275,6 +284,9 @@ bool ProbeSession::action(const std::string& line) {
         }
         std::sort(due.begin(), due.end());
         for (const auto& [interval, key] : due) w.tick(key);
+        // The answers of the fetches under way arrive, for as long as the wait lasts at
+        // most; a wait with nothing under way costs no time.
+        platform_.feeds.settle(int(std::min<long long>(seconds, 600) * 1000));
     } else if (verb == "resize") {
         int width = 0, height = 0;
         words >> width >> height;

@@ -18,8 +18,10 @@ namespace qh {
 class ProbeSession {
 public:
     // `drive` is the drive folder (with exec/ and Documents/ in it); `host` the host folder
-    // for the .PID file.
-    ProbeSession(const std::string& drive, const std::string& host, std::ostream& out);
+    // for the .PID file. `feeds` fetches calendar feeds: the real network in the probe
+    // program, none at all by default.
+    ProbeSession(const std::string& drive, const std::string& host, std::ostream& out,
+                 FeedFetcher& feeds = FeedFetcher::none());
     ~ProbeSession();
 
     // Runs every line of the script; returns false after a line it could not understand

@@ -129,6 +129,20 @@ void FakeNotifications::notify(const std::string& title, const std::string& text
     sent.push_back({title, text, std::move(handlers)});
 }
 
+void FakeFeeds::fetch(const FeedRequest& request, Answered answered) {
+    requests.push_back(request);
+    waiting_.emplace_back(request, std::move(answered));
+}
+
+void FakeFeeds::settle(int) {
+    std::vector<std::pair<FeedRequest, Answered>> due;
+    due.swap(waiting_);
+    for (const auto& [request, answered] : due) {
+        const auto found = answers.find(request.address);
+        answered(found != answers.end() ? found->second : FeedAnswer{});
+    }
+}
+
 void FakeNotifications::activateLast() {
     if (!sent.empty() && sent.back().handlers.activated) sent.back().handlers.activated();
 }
@@ -200,6 +214,11 @@ void FakeFileSystem::writeWhole(const std::string& path, const std::string& byte
 void FakeFileSystem::writeWholeUnsynced(const std::string& path, const std::string& bytes) {
     countWholeWrite(path, bytes);
     PosixFileSystem::writeWholeUnsynced(path, bytes);
+}
+
+void FakeFileSystem::writeWholePrivate(const std::string& path, const std::string& bytes) {
+    countWholeWrite(path, bytes);
+    PosixFileSystem::writeWholePrivate(path, bytes);
 }
 
 void FakeFileSystem::makeDirectory(const std::string& path) {
@@ -314,7 +333,7 @@ std::string quotedText(const std::string& text) {
 
 FakePlatform::FakePlatform()
     : platform{environment, clock,    locale,   messages,  files,         processes,
-               dialogs,     windowing, canvases, calendars, notifications} {
+               dialogs,     windowing, canvases, calendars, notifications, feeds} {
     namespace fs = std::filesystem;
     std::string pattern = (fs::temp_directory_path() / "quillhollow-test-XXXXXX").string();
     if (!::mkdtemp(pattern.data())) throw std::runtime_error("mkdtemp failed");

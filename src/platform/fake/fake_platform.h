@@ -83,6 +83,7 @@ public:
     std::string readHead(const std::string& path, std::size_t maxBytes) override;
     void writeWhole(const std::string& path, const std::string& bytes) override;
     void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
+    void writeWholePrivate(const std::string& path, const std::string& bytes) override;
     void makeDirectory(const std::string& path) override;
     bool isWritable(const std::string& folder) override {
         return !(refuses(folder) && refusal_ == FileProblem::ReadOnly) && PosixFileSystem::isWritable(folder);
@@ -164,6 +165,20 @@ public:
     OutsideActionSink onOutsideAction;
 };
 
+// Feeds answered from a table by address (Unreachable for one not in it). A fetch waits
+// for the next settle, as a real one waits for the network.
+class FakeFeeds : public FeedFetcher {
+public:
+    void fetch(const FeedRequest& request, Answered answered) override;
+    void settle(int ms = 0) override;
+    std::map<std::string, FeedAnswer> answers;
+    std::vector<FeedRequest> requests;
+    std::size_t waiting() const { return waiting_.size(); }
+
+private:
+    std::vector<std::pair<FeedRequest, Answered>> waiting_;
+};
+
 class FakeDialogs : public Dialogs {
 public:
     FileDialogAnswer fileDialog(const FileDialogRequest& request) override;
@@ -226,6 +241,7 @@ public:
     // The real iCalendar writer, in the zone the fake clock is read in.
     IcalCodec calendars{kFakeTimeZone};
     FakeNotifications notifications;
+    FakeFeeds feeds;
     Platform platform;
 
     std::string root, drive, exec, documents, host;

@@ -293,9 +293,10 @@ QtPlatform::QtPlatform()
     : dialogs_(printerChoice_),
       windowing_(renderer_, printerChoice_),
       notifications_([this](const std::function<void()>& answer) { renderer_.forward(answer); }),
+      feeds_([this](const std::function<void()>& answer) { renderer_.forward(answer); }),
       platform_{environment_, clock_,     locale_,    messages_, files_,
                 processes_,   dialogs_,   windowing_, canvases_, calendars_,
-                notifications_} {
+                notifications_, feeds_} {
     initPictures();
 }
 

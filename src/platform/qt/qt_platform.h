@@ -11,6 +11,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/host_collation.h"
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/network/qt_feed_fetcher.h"
 #include "platform/qt/qt_notifications.h"
 
 namespace qh {
@@ -129,6 +130,7 @@ private:
     QtCanvasFactory canvases_;
     IcalCodec calendars_;
     QtNotifications notifications_;
+    QtFeedFetcher feeds_;
     Platform platform_;
 };
 
