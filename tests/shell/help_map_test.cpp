@@ -74,8 +74,7 @@ TEST(HelpMap, EveryControlWithAHelpNumberLeadsToAPageOfTheBook) {
             SCOPED_TRACE(form.name() + "." + key + " " + std::to_string(number));
             given.insert(number);
             const HelpTopic* topic = FindHelpTopic(number);
-            ASSERT_NE(topic, nullptr);
-            EXPECT_EQ(missing(kBook, topic->page), "");
+            ASSERT_NE(topic, nullptr);  // its page is the topic test's
             // The bubble tells the topic and links its page in the drive's book.
             const std::string bubble = WhatsThisText(number, fake.environment);
             EXPECT_NE(bubble.find(topic->summary), std::string::npos);
