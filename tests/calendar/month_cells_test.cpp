@@ -16,10 +16,7 @@ TEST(MonthCells, CellForDateInvertsTheCellsDatesAcrossTheBounds) {
                                 dateFromYmd(2026, 11, 25), dateFromYmd(3100, 12, 31), dateFromYmd(2026, 6, 1)}) {
             SCOPED_TRACE(std::string(start) + " " + std::to_string(date));
             const MonthCells cells = BuildMonthCells(date, today, start, noMarks, colors);
-            for (int i = 0; i < 42; ++i) {
-                EXPECT_EQ(CellForDate(cells.firstCell, cells.CalendarDates[std::size_t(i)]), i);
-                EXPECT_EQ(cells.CalendarDates[std::size_t(i)], cells.firstCell + i);
-            }
+            for (int i = 0; i < 42; ++i) EXPECT_EQ(CellForDate(cells.firstCell, cells.CalendarDates[std::size_t(i)]), i);
             EXPECT_EQ(CellForDate(cells.firstCell, cells.firstCell - 1), -1);
             EXPECT_EQ(CellForDate(cells.firstCell, cells.firstCell + 42), -1);
             // The first of the month lies in the first row, never in its first column.

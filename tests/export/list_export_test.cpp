@@ -11,7 +11,8 @@ namespace qh::testing {
 namespace {
 
 // One mode's list on the fixed planner, exported through the File menu with the test
-// template in the program's folder.
+// template in the program's folder. The dialog's title and suggested name for each list
+// are the probe's export test.
 struct ListCase {
     const char* name;
     Mode mode;
@@ -43,8 +44,6 @@ protected:
 TEST_P(ListExport, WritesTheRowsOfTheListAsShownAndOpensThePage) {
     exportTo(page);
     const FileDialogRequest& asked = view.fake.dialogs.fileRequests.at(0);
-    EXPECT_EQ(asked.title, form.dialogTitle);
-    EXPECT_EQ(asked.startPath, view.fake.documents + "/" + form.defaultName);
     EXPECT_EQ(asked.filters.size(), 3u);
     EXPECT_TRUE(asked.askBeforeReplace);
     EXPECT_EQ(view.fake.processes.opened, std::vector<std::string>{page});

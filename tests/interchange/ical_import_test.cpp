@@ -1,7 +1,7 @@
-// Calendar files as Google Calendar, Outlook, Apple Calendar and Canvas write them, read and
+// Calendar files as Google Calendar, Outlook and Apple Calendar write them, read and
 // planned for import: times come into the computer's zone from the file's own VTIMEZONE, a
 // Windows zone name or UTC; repeats the planner holds become its rules, the others are
-// named; deadlines go by their course.
+// named. Deadlines by course are the probe's import test.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -82,18 +82,6 @@ TEST(ICalendarImport, AppleRemindersAreTasksAndAMonthlyThirtyFirstIsNotGuessed) 
     // Plain monthly from the 31st skips the shorter months; the planner would move it to
     // their last day, so it is offered as its first occurrence only.
     EXPECT_EQ(lineOf(plan, "Rent").problem, "repeats in a way the planner's events cannot");
-}
-
-TEST(ICalendarImport, CanvasDeadlinesGoByTheirCourse) {
-    CalendarRead read = readFixture("canvas_deadlines.ics");
-    ASSERT_EQ(read.error, "");
-    RecordStore store;
-    const ImportPlan plan = PlanImport(std::move(read.items), store, {}, "canvas.ics");
-    EXPECT_EQ(ImportCountsText(plan), "1 event, 0 to-dos and 3 deadlines");
-    EXPECT_EQ(plan.courses, (std::vector<std::string>{"MATH 201", "CHEM 110"}));
-    // 04:59 UTC is still the evening before in New York.
-    EXPECT_EQ(plan.items[lineOf(plan, "Problem set 5 [MATH 201]").item].start, dateFromYmd(2026, 12, 2));
-    EXPECT_FALSE(lineOf(plan, "Review session [MATH 201]").byCourse);
 }
 
 TEST(ICalendarImport, BadFilesAreRefusedWithAReason) {

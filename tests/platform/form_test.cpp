@@ -60,20 +60,6 @@ TEST(FormKit, DrivesControlsByNameAsAUserWouldAndIgnoresClicksOnDisabledOrHidden
     EXPECT_THROW(window.c("NoSuchControl"), UntrappedFailure);
 }
 
-TEST(FormKit, ModalShowLastsUntilTheModelHidesTheWindow) {
-    FakePlatform fake;
-    SampleWindow window(fake.canvases);
-    bool sawVisible = false;
-    fake.windowing.modalUsers["frmSample"].push_back([&](Form& form) {
-        sawVisible = form.visible;
-        form.click("ButtonOK");
-    });
-    fake.windowing.showModal(window, nullptr);
-    EXPECT_TRUE(sawVisible);
-    EXPECT_FALSE(window.visible);
-    EXPECT_EQ(window.log, "ok;");
-}
-
 TEST(FormKit, PictureBoxCanvasesFollowTheirSizeAndZOrderMovesWithinTheWindow) {
     FakePlatform fake;
     SampleWindow window(fake.canvases);

@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "list_view/list_fixture.h"
 #include "support/calendar_bounds.h"
 #include "support/main_window_fixture.h"
 
@@ -165,14 +166,7 @@ TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSa
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 
     // Each cell says its whole date; today's, the selected one's and marked ones say so.
-    main.store.AssignmentDates.append("2026/11/24");
-    for (auto* column : {&main.store.AssignmentRecordNos, &main.store.AssignmentIDs, &main.store.AssignmentClassLinks})
-        column->append("1");
-    for (auto* column : {&main.store.AssignmentTypes, &main.store.AssignmentDifficulties, &main.store.AssignmentEstTimes,
-                         &main.store.AssignmentDescriptions, &main.store.AssignmentGrades, &main.store.AssignmentWeights})
-        column->append("");
-    main.store.AssignmentDones.append("False");
-    main.store.AssignmentReminders.append("None");
+    testing::addAssignment(main.store, {.date = "2026/11/24"});
     window->state.DisplayedMonth = 13;  // the marks are made again when the month is built anew
     window->Refresh(RefreshReason::Calendar);
     const Date first = FirstCellDate(2026, 11, window->state.StartDayOfWeek);
