@@ -6,7 +6,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
 #include "editors/record_actions.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -49,7 +49,7 @@ void RecordActions::NewEvent() {
 
     const std::string number = std::to_string(store_.NextEventRecord);
     store_.EventRecord = recordOf(form, number, number);
-    kEventBinding.appendRow(store_, store_.EventRecord);
+    kEventTable.appendRow(store_, store_.EventRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveEvent(0));
     host_.refresh("NewRecord");
@@ -64,24 +64,12 @@ void RecordActions::EditEvent(int row) {
     form.FormSmall = s.EventRecurrences(row) == "None";
     form.EditMode = "Edit";
     form.DocumentDirectory = s.DocumentDirectory;
-    form.tempEventDate = s.EventDates(row);
-    form.tempEventDescription = s.EventDescriptions(row);
-    form.tempEventType = s.EventTypes(row);
-    form.tempEventTime = s.EventTimes(row);
-    form.tempEventReminder = s.EventReminders(row);
-    form.tempEventRecurrence = s.EventRecurrences(row);
-    form.tempEventSameDate = s.EventSameDates(row);
-    form.tempEventRepeatNumber = s.EventRepeatNumbers(row);
-    form.tempEventRepeatDay = s.EventRepeatDays(row);
-    form.tempEventRepeatDaily = s.EventRepeatDailies(row);
-    form.tempEventEnd = s.EventEnds(row);
-    form.tempEventEndDate = s.EventEndDates(row);
-    form.tempEventNotes = s.EventNotes(row);
+    form.tempEvent = kEventTable.rowOf(s, row);
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
     s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
-    kEventBinding.storeRow(s, row, s.EventRecord);
+    kEventTable.storeRow(s, row, s.EventRecord);
     static_cast<void>(files_.SaveEvent(int16OrZero(s.EventRecordNos(row))));
     host_.refresh("NewRecord");
     host_.showSavedRow(SavedRecordKind::Event, row);

@@ -245,32 +245,32 @@ void FrmAssignment::showNew() {
 
 void FrmAssignment::showEdit() {
     caption = "Quillhollow - Edit Assignment";
-    showEntry(*ComboEstTime, tempAssignmentEstTime);
+    showEntry(*ComboEstTime, tempAssignment.EstTime);
     showEntry(*ComboSessionLength, kDefaultSpan);
     ListBoxStudySessions->clearItems();
     for (int row = 1; row <= tempStudySessionLengthArray.count(); ++row)
         ListBoxStudySessions->addItem(StudySessionLine(tempStudySessionLengthArray(row),
                                                        tempStudySessionDateArray(row), platform_.locale));
     ButtonSessionDelete->enabled = false;
-    showDone(tempAssignmentDone == "True");
+    showDone(tempAssignment.Done == "True");
     RecalculateSessions();
-    TextBoxDescription->text = tempAssignmentDescription;
+    TextBoxDescription->text = tempAssignment.Description;
     TextBoxNotes->text = tempAssignmentNotes;
     ButtonDelete->enabled = true;
     DeleteFlag = kFalse;
-    showEntry(*ComboTypeList, tempAssignmentType);
-    showEntry(*ComboDifficulty, tempAssignmentDifficulty);
+    showEntry(*ComboTypeList, tempAssignment.Type);
+    showEntry(*ComboDifficulty, tempAssignment.Difficulty);
     const auto& grades = ComboGrade->items;
-    const bool knownGrade = std::find(grades.begin(), grades.end(), tempAssignmentGrade) != grades.end();
-    showEntry(*ComboGrade, knownGrade ? tempAssignmentGrade : std::string(" "));
-    showEntry(*ComboWeight, weightShown(tempAssignmentWeight));
+    const bool knownGrade = std::find(grades.begin(), grades.end(), tempAssignment.Grade) != grades.end();
+    showEntry(*ComboGrade, knownGrade ? tempAssignment.Grade : std::string(" "));
+    showEntry(*ComboWeight, weightShown(tempAssignment.Weight));
     showEntry(*ComboRemindMe, 0);
-    if (std::find(ComboRemindMe->items.begin(), ComboRemindMe->items.end(), tempAssignmentReminder) !=
+    if (std::find(ComboRemindMe->items.begin(), ComboRemindMe->items.end(), tempAssignment.Reminder) !=
         ComboRemindMe->items.end())
-        showEntry(*ComboRemindMe, tempAssignmentReminder);
+        showEntry(*ComboRemindMe, tempAssignment.Reminder);
     showEntry(*ComboClassNameList, -1);
     if (!tempAssignmentClassName.empty()) showEntry(*ComboClassNameList, tempAssignmentClassName);
-    setDueDate(dateFromText(tempAssignmentDate));
+    setDueDate(tempAssignment.DateValue);
 }
 
 bool FrmAssignment::Form_QueryUnload(UnloadMode mode) {

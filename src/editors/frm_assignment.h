@@ -16,6 +16,7 @@
 #include "common/int16.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "record_store/columns.h"
 
 namespace qh {
 
@@ -35,9 +36,11 @@ public:
     // The sessions, row 1 the newest; an added one has record number and link "0".
     TextColumn tempStudySessionRecordNoArray, tempStudySessionLinkIDArray, tempStudySessionLengthArray,
         tempStudySessionDateArray;
-    std::string tempAssignmentClassName, tempAssignmentDate, tempAssignmentType, tempAssignmentDifficulty,
-        tempAssignmentEstTime, tempAssignmentDescription, tempAssignmentDone, tempAssignmentGrade,
-        tempAssignmentWeight, tempAssignmentReminder, tempAssignmentNotes;
+    // For an edit: the record as its columns hold it, its class's name and its note.
+    AssignmentBuffer tempAssignment;
+    std::string tempAssignmentClassName, tempAssignmentNotes;
+    // The due date in the short date form, once the window has shown it.
+    std::string tempAssignmentDate;
     std::string EditMode = "New";
     // The active term's name, for the caption of LabelClass; where the Share dialogs start.
     std::string CurrentTermName, DocumentDirectory;

@@ -144,36 +144,36 @@ void FrmEvent::fillForNew() {
 
 void FrmEvent::fillForEdit() {
     caption = "Quillhollow - Edit Event";
-    TextBoxEvent->text = tempEventDescription;
-    TextBoxNotes->text = tempEventNotes;
-    ShowEntry(*ComboType, tempEventType);
-    ShowEntry(*ComboTime, tempEventTime);
+    TextBoxEvent->text = tempEvent.Description;
+    TextBoxNotes->text = tempEvent.Notes;
+    ShowEntry(*ComboType, tempEvent.Type);
+    ShowEntry(*ComboTime, tempEvent.Time);
     ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
     for (const std::string& entry : ComboRemindMe->items)
-        if (entry == tempEventReminder) {
+        if (entry == tempEvent.Reminder) {
             ShowEntry(*ComboRemindMe, entry);
             break;
         }
-    StoreEventDate = parseDateText(tempEventDate).value_or(host_.clickedDate());
+    StoreEventDate = parseDateText(tempEvent.Date).value_or(host_.clickedDate());
     TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
     setQuietly(RadioMonthlyThisDate.key(), true);
     setQuietly(RadioYearlyThisDate.key(), true);
-    showRecurrence(tempEventRecurrence);
+    showRecurrence(tempEvent.Recurrence);
     if (Recurrence == "Month" || Recurrence == "Year") {
         const bool monthly = Recurrence == "Month";
-        if (tempEventSameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
-        ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEventRepeatNumber);
-        ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEventRepeatDay);
+        if (tempEvent.SameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
+        ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEvent.RepeatNumber);
+        ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEvent.RepeatDay);
         if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
     } else if (Recurrence == "Day") {
         for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i)
-            setQuietly(kWeekdayBoxes[i], i < tempEventRepeatDaily.size() && tempEventRepeatDaily[i] == 'T');
+            setQuietly(kWeekdayBoxes[i], i < tempEvent.RepeatDaily.size() && tempEvent.RepeatDaily[i] == 'T');
     }
     // An event without an end keeps the stored date as its end date, and shows the end
     // its repetition would propose; switching the end on takes the proposal.
-    const std::optional<Date> end = parseDateText(tempEventEndDate);
+    const std::optional<Date> end = parseDateText(tempEvent.EndDate);
     StoreEndDate = end.value_or(StoreEventDate);
-    const bool endOn = tempEventEnd == "True";
+    const bool endOn = tempEvent.End == "True";
     showEndDate(endOn ? StoreEndDate : ProposedEndDate(Recurrence, StoreEventDate));
     showEndLine(endOn);
     ResetDays = false;

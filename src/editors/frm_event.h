@@ -15,6 +15,7 @@
 #include "common/int16.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "record_store/columns.h"
 
 namespace qh {
 
@@ -27,13 +28,11 @@ public:
     FrmEvent(Platform& platform, EditorHost& host);
     ~FrmEvent() override;
 
-    // Set by the caller before the showing; for an edit also the thirteen texts of the
-    // record as its columns hold them.
+    // Set by the caller before the showing; for an edit also the record as its columns
+    // hold it (record number and ID unused).
     std::string EditMode = "New";
     bool FormSmall = true;
-    std::string tempEventDate, tempEventDescription, tempEventType, tempEventTime, tempEventReminder,
-        tempEventRecurrence, tempEventSameDate, tempEventRepeatNumber, tempEventRepeatDay, tempEventRepeatDaily,
-        tempEventEnd, tempEventEndDate, tempEventNotes;
+    EventBuffer tempEvent;
     // Where the share dialogs start.
     std::string DocumentDirectory;
 

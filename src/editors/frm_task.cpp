@@ -141,20 +141,20 @@ void FrmTask::Form_Activate() {
         setChecked(CheckBoxDeadline.key(), false);
     } else {
         caption = "Quillhollow - Edit Task";
-        TextBoxDescription->text = tempTaskDescription;
-        TextBoxNotes->text = tempTaskNotes;
-        setChecked(CheckBoxDone.key(), tempTaskDone == "True");
+        TextBoxDescription->text = tempTask.Description;
+        TextBoxNotes->text = tempTask.Notes;
+        setChecked(CheckBoxDone.key(), tempTask.Done == "True");
         ButtonDelete->visible = true;
-        ShowEntry(*ComboPriority, tempTaskPriority);
-        ShowEntry(*ComboType, tempTaskType);
+        ShowEntry(*ComboPriority, tempTask.Priority);
+        ShowEntry(*ComboType, tempTask.Type);
         // A reminder the list doesn't hold leaves the first entry.
         ShowEntry(*ComboRemindMe, ComboRemindMe->items.front());
         for (const std::string& entry : ComboRemindMe->items)
-            if (entry == tempTaskReminder) {
+            if (entry == tempTask.Reminder) {
                 ShowEntry(*ComboRemindMe, entry);
                 break;
             }
-        setChecked(CheckBoxDeadline.key(), tempTaskDateExists == "True");
+        setChecked(CheckBoxDeadline.key(), tempTask.DateExists == "True");
     }
     TextboxTaskDate->text = platform_.locale.longDate(tempTaskDate);
     showDeadline(CheckBoxDeadline->checked);

@@ -5,7 +5,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
 #include "editors/record_actions.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -42,7 +42,7 @@ void RecordActions::NewTask() {
 
     const std::string number = std::to_string(store_.NextTaskRecord);
     store_.TaskRecord = recordOf(form, platform_.clock.today(), number, number);
-    kTaskBinding.appendRow(store_, store_.TaskRecord);
+    kTaskTable.appendRow(store_, store_.TaskRecord);
     // A failed write has named its file to the user; the row stays for this run.
     static_cast<void>(files_.SaveTask(0));
     host_.refresh("NewRecord");
@@ -56,20 +56,14 @@ void RecordActions::EditTask(int row) {
     RecordStore& s = store_;
     form.EditMode = "Edit";
     form.DocumentDirectory = s.DocumentDirectory;
-    form.tempTaskDescription = s.TaskDescriptions(row);
-    form.tempTaskDateExists = s.TaskDateExists(row);
-    form.tempTaskDate = parseDateText(s.TaskDates(row)).value_or(platform_.clock.today());
-    form.tempTaskType = s.TaskTypes(row);
-    form.tempTaskPriority = s.TaskPriorities(row);
-    form.tempTaskDone = s.TaskDones(row);
-    form.tempTaskNotes = s.TaskNotes(row);
-    form.tempTaskReminder = s.TaskReminders(row);
+    form.tempTask = kTaskTable.rowOf(s, row);
+    form.tempTaskDate = parseDateText(form.tempTask.Date).value_or(platform_.clock.today());
     form.SelectedTaskIndex = row;
     platform_.windowing.showModal(form, &host_.ownerWindow());
     if (form.CancelledFlag) return;
 
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
-    kTaskBinding.storeRow(s, row, s.TaskRecord);
+    kTaskTable.storeRow(s, row, s.TaskRecord);
     static_cast<void>(files_.SaveTask(int16OrZero(s.TaskRecordNos(row))));
     host_.refresh("NewRecord");
     host_.showSavedRow(SavedRecordKind::Task, row);

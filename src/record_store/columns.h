@@ -21,19 +21,23 @@ struct AssignmentBuffer {
     std::string RecordNo, ID, ClassLink;
     Date DateValue = 0;
     std::string Type, Difficulty, EstTime, Description, Done, Grade, Weight, Reminder;
+    bool operator==(const AssignmentBuffer&) const = default;
 };
 
 struct NoteBuffer {
     std::string RecordNo, LinkID, Text;
+    bool operator==(const NoteBuffer&) const = default;
 };
 
 struct TaskBuffer {
     std::string RecordNo, ID, Date, Description, DateExists, Type, Priority, Done, Notes, Reminder;
+    bool operator==(const TaskBuffer&) const = default;
 };
 
 struct EventBuffer {
     std::string RecordNo, ID, Date, Description, Type, Time, Recurrence, SameDate, RepeatNumber, RepeatDay,
         RepeatDaily, End, EndDate, Notes, Reminder;
+    bool operator==(const EventBuffer&) const = default;
 };
 
 struct RecordStore {
@@ -63,7 +67,7 @@ struct RecordStore {
         EventRecurrences, EventSameDates, EventRepeatNumbers, EventRepeatDays, EventRepeatDailies, EventEnds,
         EventEndDates, EventNotes, EventReminders;
 
-    // Record buffers filled by callers ahead of a save.
+    // Record buffers filled by callers ahead of a save (their fields: record_tables.h).
     AssignmentBuffer AssignmentRecord;
     NoteBuffer NoteRecord;
     TaskBuffer TaskRecord;

@@ -7,7 +7,7 @@
 #include "common/int16.h"
 #include "common/text.h"
 #include "record_store/color_vocabulary.h"
-#include "record_store/columns.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
