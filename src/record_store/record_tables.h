@@ -20,6 +20,11 @@
 
 namespace qh {
 
+// Where a field lies in a record's bytes.
+struct FieldPlace {
+    std::size_t offset = 0, width = 0;
+};
+
 template <class Buffer>
 struct RecordField {
     std::string_view name;
@@ -70,9 +75,13 @@ struct RecordTable {
         }
         throw "no such field";
     }
-    consteval int width(std::string_view name) const {
-        for (const RecordField<Buffer>& f : fields)
-            if (f.holdsValue() && f.name == name) return f.width;
+    consteval int width(std::string_view name) const { return int(place(name).width); }
+    consteval FieldPlace place(std::string_view name) const {
+        std::size_t offset = 0;
+        for (const RecordField<Buffer>& f : fields) {
+            if (f.holdsValue() && f.name == name) return {offset, std::size_t(f.width)};
+            offset += std::size_t(f.width);
+        }
         throw "no such field";
     }
 
