@@ -21,23 +21,19 @@ struct AssignmentBuffer {
     std::string RecordNo, ID, ClassLink;
     Date DateValue = 0;
     std::string Type, Difficulty, EstTime, Description, Done, Grade, Weight, Reminder;
-    bool operator==(const AssignmentBuffer&) const = default;
 };
 
 struct NoteBuffer {
     std::string RecordNo, LinkID, Text;
-    bool operator==(const NoteBuffer&) const = default;
 };
 
 struct TaskBuffer {
     std::string RecordNo, ID, Date, Description, DateExists, Type, Priority, Done, Notes, Reminder;
-    bool operator==(const TaskBuffer&) const = default;
 };
 
 struct EventBuffer {
     std::string RecordNo, ID, Date, Description, Type, Time, Recurrence, SameDate, RepeatNumber, RepeatDay,
         RepeatDaily, End, EndDate, Notes, Reminder;
-    bool operator==(const EventBuffer&) const = default;
 };
 
 struct RecordStore {

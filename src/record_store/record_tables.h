@@ -106,15 +106,12 @@ struct RecordTable {
 // The record buffers of the kinds that are saved from their columns.
 struct TermBuffer {
     std::string ID, Name, Start, End;
-    bool operator==(const TermBuffer&) const = default;
 };
 struct ClassBuffer {
     std::string ID, TermLink, Name, ForeColor, BackColor, Notes;
-    bool operator==(const ClassBuffer&) const = default;
 };
 struct StudySessionBuffer {
     std::string RecordNo, LinkID, Length, Date;
-    bool operator==(const StudySessionBuffer&) const = default;
 };
 
 namespace record_fields {
