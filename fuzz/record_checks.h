@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "common/column.h"
-#include "record_store/record_layout.h"
+#include "record_store/record_tables.h"
 
 namespace qh::fuzz {
 

@@ -9,13 +9,13 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_assignment.h"
 #include "editors/record_actions.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
 namespace {
 
-std::string storedNote(const FrmAssignment& w) { return storedText(kNotesLayout, "Text", w.TextBoxNotes->text); }
+std::string storedNote(const FrmAssignment& w) { return storedText(kNoteTable.width("Text"), w.TextBoxNotes->text); }
 
 struct CurrentClassList {
     std::vector<std::string> names, ids;
@@ -56,31 +56,28 @@ int noteRowOf(const RecordStore& s, int row) {
 // `classLink`.
 AssignmentBuffer recordOf(const FrmAssignment& w, const std::string& recordNo, const std::string& id,
                           const std::string& classLink) {
-    const auto stored = [](std::string_view field, const std::string& text) {
-        return storedText(kAssignmentsLayout, field, text);
-    };
     const int line = w.ComboClassNameList->listIndex;
     const bool chosen = line >= 0 && line < int(w.tempAssignmentClassLinkArray.size());
     AssignmentBuffer record;
     record.RecordNo = recordNo;
     record.ID = id;
-    record.ClassLink = stored("ClassLink", chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink);
+    record.ClassLink = chosen ? w.tempAssignmentClassLinkArray[std::size_t(line)] : classLink;
     record.DateValue = w.DueDate;
-    record.Type = stored("Type", w.ComboTypeList->text);
-    record.Difficulty = stored("Difficulty", w.ComboDifficulty->text);
-    record.EstTime = stored("EstTime", w.ComboEstTime->text);
-    record.Description = stored("Description", w.TextBoxDescription->text);
+    record.Type = w.ComboTypeList->text;
+    record.Difficulty = w.ComboDifficulty->text;
+    record.EstTime = w.ComboEstTime->text;
+    record.Description = w.TextBoxDescription->text;
     record.Done = trueFalse(w.CheckBoxDone->checked);
-    record.Grade = stored("Grade", w.ComboGrade->text);
-    record.Weight = stored("Weight", w.ComboWeight->text);
-    record.Reminder = stored("Reminder", w.ComboRemindMe->text);
-    return record;
+    record.Grade = w.ComboGrade->text;
+    record.Weight = w.ComboWeight->text;
+    record.Reminder = w.ComboRemindMe->text;
+    return kAssignmentTable.asStored(std::move(record));
 }
 
-// A study session's columns, of the term and of the edit, in file order as the bindings
+// A study session's columns, of the term and of the edit, in file order as the tables
 // give them, and the window's lists in that same order.
-std::vector<TextColumn*> sessionColumns(RecordStore& s) { return kStudySessionBinding.columns(s); }
-std::vector<TextColumn*> editSessionColumns(RecordStore& s) { return kEditStudySessionBinding.columns(s); }
+std::vector<TextColumn*> sessionColumns(RecordStore& s) { return kStudySessionTable.columns(s); }
+std::vector<TextColumn*> editSessionColumns(RecordStore& s) { return kEditStudySessionTable.columns(s); }
 std::array<TextColumn*, 4> windowSessionLists(FrmAssignment& w) {
     return {&w.tempStudySessionRecordNoArray, &w.tempStudySessionLinkIDArray, &w.tempStudySessionLengthArray,
             &w.tempStudySessionDateArray};
@@ -177,7 +174,7 @@ bool RecordActions::NewAssignment() {
 
     const std::string id = std::to_string(s.NextAssignmentRecord);
     s.AssignmentRecord = recordOf(window, id, id, "");
-    kAssignmentBinding.appendRow(s, s.AssignmentRecord);
+    kAssignmentTable.appendRow(s, s.AssignmentRecord);
 
     const std::string notes = storedNote(window);
     if (!notes.empty()) {
@@ -207,15 +204,7 @@ bool RecordActions::EditAssignment(int row) {
     for (std::size_t i = 0; i < classes.ids.size(); ++i)
         if (int16OrZero(classes.ids[i]) == classID) window.tempAssignmentClassName = classes.names[i];
 
-    window.tempAssignmentDate = s.AssignmentDates(row);
-    window.tempAssignmentType = s.AssignmentTypes(row);
-    window.tempAssignmentDifficulty = s.AssignmentDifficulties(row);
-    window.tempAssignmentEstTime = s.AssignmentEstTimes(row);
-    window.tempAssignmentDescription = s.AssignmentDescriptions(row);
-    window.tempAssignmentDone = s.AssignmentDones(row);
-    window.tempAssignmentGrade = s.AssignmentGrades(row);
-    window.tempAssignmentWeight = s.AssignmentWeights(row);
-    window.tempAssignmentReminder = s.AssignmentReminders(row);
+    window.tempAssignment = kAssignmentTable.rowOf(s, row);
     // The note's text stays on disk until an edit opens it.
     const int noteRow = noteRowOf(s, row);
     window.tempAssignmentNotes.clear();
@@ -232,7 +221,7 @@ bool RecordActions::EditAssignment(int row) {
 
     s.AssignmentRecord =
         recordOf(window, s.AssignmentRecordNos(row), s.AssignmentIDs(row), s.AssignmentClassLinks(row));
-    kAssignmentBinding.storeRow(s, row, s.AssignmentRecord);
+    kAssignmentTable.storeRow(s, row, s.AssignmentRecord);
 
     // The note: made, rewritten (changed or not), freed, or none at all.
     const std::string notes = storedNote(window);

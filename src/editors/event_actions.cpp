@@ -7,7 +7,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
 #include "editors/record_actions.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -50,7 +50,7 @@ bool RecordActions::NewEvent() {
 
     const std::string number = std::to_string(store_.NextEventRecord);
     store_.EventRecord = recordOf(form, number, number);
-    kEventBinding.appendRow(store_, store_.EventRecord);
+    kEventTable.appendRow(store_, store_.EventRecord);
     const bool written = files_.SaveEvent(0);
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, store_.EventRecordNos.count());
@@ -65,26 +65,14 @@ bool RecordActions::EditEvent(int row) {
     form.FormSmall = recurrenceOf(s.EventRecurrences(row)) == Recurrence::None;
     form.editMode = EditMode::Edit;
     form.DocumentDirectory = s.DocumentDirectory;
-    form.tempEventDate = s.EventDates(row);
-    form.tempEventDescription = s.EventDescriptions(row);
-    form.tempEventType = s.EventTypes(row);
-    form.tempEventTime = s.EventTimes(row);
-    form.tempEventReminder = s.EventReminders(row);
-    form.tempEventRecurrence = s.EventRecurrences(row);
-    form.tempEventSameDate = s.EventSameDates(row);
-    form.tempEventRepeatNumber = s.EventRepeatNumbers(row);
-    form.tempEventRepeatDay = s.EventRepeatDays(row);
-    form.tempEventRepeatDaily = s.EventRepeatDailies(row);
-    form.tempEventEnd = s.EventEnds(row);
-    form.tempEventEndDate = s.EventEndDates(row);
-    form.tempEventNotes = s.EventNotes(row);
+    form.tempEvent = kEventTable.rowOf(s, row);
     ShowFeedOrigin(form, host_.feedOf(SavedRecordKind::Event, s.EventIDs(row)));
     platform_.windowing.showModal(form, &host_.ownerWindow());
     ShowFeedOrigin(form, "");
     if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.EventRecord = recordOf(form, s.EventRecordNos(row), s.EventIDs(row));
-    kEventBinding.storeRow(s, row, s.EventRecord);
+    kEventTable.storeRow(s, row, s.EventRecord);
     const bool written = files_.SaveEvent(int16OrZero(s.EventRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Event, row);

@@ -230,26 +230,26 @@ void FrmAssignment::showNew() {
 
 void FrmAssignment::showEdit() {
     caption = "Quillhollow - Edit Assignment";
-    ShowEntry(*ComboEstTime, tempAssignmentEstTime);
+    ShowEntry(*ComboEstTime, tempAssignment.EstTime);
     ShowEntry(*ComboSessionLength, kDefaultSpan);
     ListBoxStudySessions->clearItems();
     for (int row = 1; row <= tempStudySessionLengthArray.count(); ++row)
         ListBoxStudySessions->addItem(StudySessionLine(tempStudySessionLengthArray(row),
                                                        tempStudySessionDateArray(row), platform_.locale));
     ButtonSessionDelete->enabled = false;
-    showDone(tempAssignmentDone == "True");
+    showDone(tempAssignment.Done == "True");
     RecalculateSessions();
-    TextBoxDescription->text = tempAssignmentDescription;
+    TextBoxDescription->text = tempAssignment.Description;
     TextBoxNotes->text = tempAssignmentNotes;
     ButtonDelete->enabled = true;
-    ShowEntry(*ComboTypeList, tempAssignmentType);
-    ShowEntry(*ComboDifficulty, tempAssignmentDifficulty);
-    ShowListedEntry(*ComboGrade, tempAssignmentGrade, 0);
-    ShowEntry(*ComboWeight, weightShown(tempAssignmentWeight));
-    ShowListedEntry(*ComboRemindMe, tempAssignmentReminder, 0);
+    ShowEntry(*ComboTypeList, tempAssignment.Type);
+    ShowEntry(*ComboDifficulty, tempAssignment.Difficulty);
+    ShowListedEntry(*ComboGrade, tempAssignment.Grade, 0);
+    ShowEntry(*ComboWeight, weightShown(tempAssignment.Weight));
+    ShowListedEntry(*ComboRemindMe, tempAssignment.Reminder, 0);
     ShowEntryAt(*ComboClassNameList, -1);
     if (!tempAssignmentClassName.empty()) ShowEntry(*ComboClassNameList, tempAssignmentClassName);
-    setDueDate(dateFromText(tempAssignmentDate));
+    setDueDate(tempAssignment.DateValue);
 }
 
 void FrmAssignment::Form_MouseDown(const std::string& controlKey) { picker_->windowPressed(controlKey); }

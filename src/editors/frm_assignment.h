@@ -16,6 +16,7 @@
 #include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "record_store/columns.h"
 
 namespace qh {
 
@@ -34,9 +35,11 @@ public:
     // The sessions, row 1 the newest; an added one has record number and link "0".
     TextColumn tempStudySessionRecordNoArray, tempStudySessionLinkIDArray, tempStudySessionLengthArray,
         tempStudySessionDateArray;
-    std::string tempAssignmentClassName, tempAssignmentDate, tempAssignmentType, tempAssignmentDifficulty,
-        tempAssignmentEstTime, tempAssignmentDescription, tempAssignmentDone, tempAssignmentGrade,
-        tempAssignmentWeight, tempAssignmentReminder, tempAssignmentNotes;
+    // For an edit: the record as its columns hold it, its class's name and its note.
+    AssignmentBuffer tempAssignment;
+    std::string tempAssignmentClassName, tempAssignmentNotes;
+    // The due date in the short date form, once the window has shown it.
+    std::string tempAssignmentDate;
     // The active term's name, for the caption of LabelClass; where the Share dialogs start.
     std::string CurrentTermName, DocumentDirectory;
     // A toggle request, applied at the showing and at a click on LabelViewSessions: true

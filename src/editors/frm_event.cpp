@@ -146,31 +146,31 @@ void FrmEvent::fillForNew() {
 
 void FrmEvent::fillForEdit() {
     caption = "Quillhollow - Edit Event";
-    TextBoxEvent->text = tempEventDescription;
-    TextBoxNotes->text = tempEventNotes;
-    ShowEntry(*ComboType, tempEventType);
-    ShowEntry(*ComboTime, tempEventTime);
-    ShowListedEntry(*ComboRemindMe, tempEventReminder, 0);
-    StoreEventDate = parseDateText(tempEventDate).value_or(host_.clickedDate());
+    TextBoxEvent->text = tempEvent.Description;
+    TextBoxNotes->text = tempEvent.Notes;
+    ShowEntry(*ComboType, tempEvent.Type);
+    ShowEntry(*ComboTime, tempEvent.Time);
+    ShowListedEntry(*ComboRemindMe, tempEvent.Reminder, 0);
+    StoreEventDate = parseDateText(tempEvent.Date).value_or(host_.clickedDate());
     TextboxEventDate->text = platform_.locale.longDate(StoreEventDate);
     setQuietly(RadioMonthlyThisDate.key(), true);
     setQuietly(RadioYearlyThisDate.key(), true);
-    showRecurrence(recurrenceOf(tempEventRecurrence));
+    showRecurrence(recurrenceOf(tempEvent.Recurrence));
     if (recurrence == Recurrence::Month || recurrence == Recurrence::Year) {
         const bool monthly = recurrence == Recurrence::Month;
-        if (tempEventSameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
-        ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEventRepeatNumber);
-        ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEventRepeatDay);
+        if (tempEvent.SameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
+        ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEvent.RepeatNumber);
+        ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEvent.RepeatDay);
         if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
     } else if (recurrence == Recurrence::Day) {
         for (std::size_t i = 0; i < kWeekdayBoxes.size(); ++i)
-            setQuietly(kWeekdayBoxes[i], i < tempEventRepeatDaily.size() && tempEventRepeatDaily[i] == 'T');
+            setQuietly(kWeekdayBoxes[i], i < tempEvent.RepeatDaily.size() && tempEvent.RepeatDaily[i] == 'T');
     }
     // An event without an end keeps the stored date as its end date, and shows the end
     // its repetition would propose; switching the end on takes the proposal.
-    const std::optional<Date> end = parseDateText(tempEventEndDate);
+    const std::optional<Date> end = parseDateText(tempEvent.EndDate);
     StoreEndDate = end.value_or(StoreEventDate);
-    const bool endOn = tempEventEnd == "True";
+    const bool endOn = tempEvent.End == "True";
     showEndDate(endOn ? StoreEndDate : ProposedEndDate(recurrence, StoreEventDate));
     showEndLine(endOn);
     ResetDays = false;

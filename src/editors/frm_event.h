@@ -15,6 +15,7 @@
 #include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "record_store/columns.h"
 #include "recurrence/event_rule.h"
 
 namespace qh {
@@ -28,12 +29,10 @@ public:
     FrmEvent(Platform& platform, EditorHost& host);
     ~FrmEvent() override;
 
-    // Set by the caller before the showing; for an edit also the thirteen texts of the
-    // record as its columns hold them.
+    // Set by the caller before the showing; for an edit also the record as its columns
+    // hold it (record number and ID unused).
     bool FormSmall = true;
-    std::string tempEventDate, tempEventDescription, tempEventType, tempEventTime, tempEventReminder,
-        tempEventRecurrence, tempEventSameDate, tempEventRepeatNumber, tempEventRepeatDay, tempEventRepeatDaily,
-        tempEventEnd, tempEventEndDate, tempEventNotes;
+    EventBuffer tempEvent;
     // Where the share dialogs start.
     std::string DocumentDirectory;
 

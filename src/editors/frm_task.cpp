@@ -141,14 +141,14 @@ void FrmTask::showRecord() {
         setChecked(CheckBoxDeadline.key(), false);
     } else {
         caption = "Quillhollow - Edit Task";
-        TextBoxDescription->text = tempTaskDescription;
-        TextBoxNotes->text = tempTaskNotes;
-        setChecked(CheckBoxDone.key(), tempTaskDone == "True");
+        TextBoxDescription->text = tempTask.Description;
+        TextBoxNotes->text = tempTask.Notes;
+        setChecked(CheckBoxDone.key(), tempTask.Done == "True");
         ButtonDelete->visible = true;
-        ShowEntry(*ComboPriority, tempTaskPriority);
-        ShowEntry(*ComboType, tempTaskType);
-        ShowListedEntry(*ComboRemindMe, tempTaskReminder, 0);
-        setChecked(CheckBoxDeadline.key(), tempTaskDateExists == "True");
+        ShowEntry(*ComboPriority, tempTask.Priority);
+        ShowEntry(*ComboType, tempTask.Type);
+        ShowListedEntry(*ComboRemindMe, tempTask.Reminder, 0);
+        setChecked(CheckBoxDeadline.key(), tempTask.DateExists == "True");
     }
     TextboxTaskDate->text = platform_.locale.longDate(tempTaskDate);
     showDeadline(CheckBoxDeadline->checked);

@@ -9,6 +9,7 @@
 #include "editors/editor_form.h"
 #include "platform/control_ref.h"
 #include "platform/platform.h"
+#include "record_store/columns.h"
 
 namespace qh {
 
@@ -19,10 +20,9 @@ public:
     FrmTask(Platform& platform, EditorHost& host);
     ~FrmTask() override;
 
-    // In: the task of an edit as its columns hold it. tempTaskDate is also the picker's
-    // field, kept as a date; it is written back when a date is picked.
-    std::string tempTaskDescription, tempTaskDateExists, tempTaskType, tempTaskPriority, tempTaskDone,
-        tempTaskNotes, tempTaskReminder;
+    // In: the task of an edit as its columns hold it, its date apart: tempTaskDate is also
+    // the picker's field, kept as a date; it is written back when a date is picked.
+    TaskBuffer tempTask;
     Date tempTaskDate = 0;
     // Where the share dialogs start.
     std::string DocumentDirectory;

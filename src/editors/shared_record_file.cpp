@@ -7,6 +7,7 @@
 #include "editors/recurrence_panel_defaults.h"
 #include "platform/locale.h"
 #include "record_store/codepage.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
@@ -19,8 +20,9 @@ constexpr SharedKindTexts kKindTexts[] = {
 constexpr const SharedKindTexts& textsOf(SharedKind kind) { return kKindTexts[static_cast<int>(kind)]; }
 
 // A field of the line: its first position (counted from 1) and its width in bytes. The
-// fields lie end to end after the kind's marker, so each is declared by its width alone
-// and the last must end where the kind's line does.
+// fields lie end to end after the kind's marker, each as wide as the record field it
+// carries, so each is declared by that field alone and the last must end where the
+// kind's line does.
 struct Field {
     int start;
     int width;
@@ -40,44 +42,52 @@ struct TextField {
 };
 
 namespace assignment {
-constexpr Field kClassName = firstField(SharedKind::Assignment, 25), kDescription = after(kClassName, 50),
-                kDueDate = after(kDescription, 15), kType = after(kDueDate, 10), kDifficulty = after(kType, 10),
-                kEstimatedTime = after(kDifficulty, 7), kWeight = after(kEstimatedTime, 3),
-                kNotes = after(kWeight, 1450);
+constexpr const auto& A = kAssignmentTable;
+constexpr Field kClassName = firstField(SharedKind::Assignment, kClassTable.width("Name")),
+                kDescription = after(kClassName, A.width("Description")), kDueDate = after(kDescription, A.width("Date")),
+                kType = after(kDueDate, A.width("Type")), kDifficulty = after(kType, A.width("Difficulty")),
+                kEstimatedTime = after(kDifficulty, A.width("EstTime")),
+                kWeight = after(kEstimatedTime, A.width("Weight")), kNotes = after(kWeight, kNoteTable.width("Text"));
 static_assert(endsLine(kNotes, SharedKind::Assignment));
-using A = SharedAssignment;
-constexpr TextField<A> kTexts[] = {
-    {kClassName, &A::className},   {kDescription, &A::description},     {kType, &A::type},
-    {kDifficulty, &A::difficulty}, {kEstimatedTime, &A::estimatedTime}, {kWeight, &A::weight},
-    {kNotes, &A::notes},
+using S = SharedAssignment;
+constexpr TextField<S> kTexts[] = {
+    {kClassName, &S::className},   {kDescription, &S::description},     {kType, &S::type},
+    {kDifficulty, &S::difficulty}, {kEstimatedTime, &S::estimatedTime}, {kWeight, &S::weight},
+    {kNotes, &S::notes},
 };
 }  // namespace assignment
 
 namespace task {
-constexpr Field kDescription = firstField(SharedKind::Task, 60), kDeadline = after(kDescription, 5),
-                kDate = after(kDeadline, 15), kType = after(kDate, 10), kPriority = after(kType, 10),
-                kNotes = after(kPriority, 845);
+constexpr const auto& T = kTaskTable;
+constexpr Field kDescription = firstField(SharedKind::Task, T.width("Description")),
+                kDeadline = after(kDescription, T.width("DateExists")), kDate = after(kDeadline, T.width("Date")),
+                kType = after(kDate, T.width("Type")), kPriority = after(kType, T.width("Priority")),
+                kNotes = after(kPriority, T.width("Notes"));
 static_assert(endsLine(kNotes, SharedKind::Task));
-using T = SharedTask;
-constexpr TextField<T> kTexts[] = {
-    {kDescription, &T::description},
-    {kType, &T::type},
-    {kPriority, &T::priority},
-    {kNotes, &T::notes},
+using S = SharedTask;
+constexpr TextField<S> kTexts[] = {
+    {kDescription, &S::description},
+    {kType, &S::type},
+    {kPriority, &S::priority},
+    {kNotes, &S::notes},
 };
 }  // namespace task
 
 namespace event {
 // The rule fields hold either the monthly or the yearly controls, by the recurrence.
-constexpr Field kName = firstField(SharedKind::Event, 60), kFirstDate = after(kName, 15), kType = after(kFirstDate, 10),
-                kTime = after(kType, 10), kRecurrence = after(kTime, 5), kThisDate = after(kRecurrence, 5),
-                kRepeatNumber = after(kThisDate, 10), kRepeatDay = after(kRepeatNumber, 10),
-                kWeekdays = after(kRepeatDay, 10), kEndOn = after(kWeekdays, 5), kEndDate = after(kEndOn, 15),
-                kNotes = after(kEndDate, 795);
+constexpr const auto& E = kEventTable;
+constexpr Field kName = firstField(SharedKind::Event, E.width("Description")),
+                kFirstDate = after(kName, E.width("Date")), kType = after(kFirstDate, E.width("Type")),
+                kTime = after(kType, E.width("Time")), kRecurrence = after(kTime, E.width("Recurrence")),
+                kThisDate = after(kRecurrence, E.width("SameDate")),
+                kRepeatNumber = after(kThisDate, E.width("RepeatNumber")),
+                kRepeatDay = after(kRepeatNumber, E.width("RepeatDay")),
+                kWeekdays = after(kRepeatDay, E.width("RepeatDaily")), kEndOn = after(kWeekdays, E.width("End")),
+                kEndDate = after(kEndOn, E.width("EndDate")), kNotes = after(kEndDate, E.width("Notes"));
 static_assert(endsLine(kNotes, SharedKind::Event));
-using E = SharedEvent;
-constexpr TextField<E> kTexts[] = {
-    {kName, &E::name}, {kType, &E::type}, {kTime, &E::time}, {kRecurrence, &E::recurrence}, {kNotes, &E::notes},
+using S = SharedEvent;
+constexpr TextField<S> kTexts[] = {
+    {kName, &S::name}, {kType, &S::type}, {kTime, &S::time}, {kRecurrence, &S::recurrence}, {kNotes, &S::notes},
 };
 }  // namespace event
 

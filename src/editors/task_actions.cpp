@@ -6,7 +6,7 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_task.h"
 #include "editors/record_actions.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -43,7 +43,7 @@ bool RecordActions::NewTask() {
 
     const std::string number = std::to_string(store_.NextTaskRecord);
     store_.TaskRecord = recordOf(form, platform_.clock.today(), number, number);
-    kTaskBinding.appendRow(store_, store_.TaskRecord);
+    kTaskTable.appendRow(store_, store_.TaskRecord);
     const bool written = files_.SaveTask(0);
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, store_.TaskRecordNos.count());
@@ -57,21 +57,15 @@ bool RecordActions::EditTask(int row) {
     RecordStore& s = store_;
     form.editMode = EditMode::Edit;
     form.DocumentDirectory = s.DocumentDirectory;
-    form.tempTaskDescription = s.TaskDescriptions(row);
-    form.tempTaskDateExists = s.TaskDateExists(row);
-    form.tempTaskDate = parseDateText(s.TaskDates(row)).value_or(platform_.clock.today());
-    form.tempTaskType = s.TaskTypes(row);
-    form.tempTaskPriority = s.TaskPriorities(row);
-    form.tempTaskDone = s.TaskDones(row);
-    form.tempTaskNotes = s.TaskNotes(row);
-    form.tempTaskReminder = s.TaskReminders(row);
+    form.tempTask = kTaskTable.rowOf(s, row);
+    form.tempTaskDate = parseDateText(form.tempTask.Date).value_or(platform_.clock.today());
     ShowFeedOrigin(form, host_.feedOf(SavedRecordKind::Task, s.TaskIDs(row)));
     platform_.windowing.showModal(form, &host_.ownerWindow());
     ShowFeedOrigin(form, "");
     if (form.outcome() == EditorOutcome::Cancelled) return true;
 
     s.TaskRecord = recordOf(form, platform_.clock.today(), s.TaskRecordNos(row), s.TaskIDs(row));
-    kTaskBinding.storeRow(s, row, s.TaskRecord);
+    kTaskTable.storeRow(s, row, s.TaskRecord);
     const bool written = files_.SaveTask(int16OrZero(s.TaskRecordNos(row)));
     host_.refresh(RefreshReason::NewRecord);
     host_.showSavedRow(SavedRecordKind::Task, row);

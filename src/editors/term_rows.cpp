@@ -6,7 +6,7 @@
 #include "common/int16.h"
 #include "common/text.h"
 #include "editors/frm_course_schedule.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
@@ -17,15 +17,22 @@ int highestOf(const TextColumn& ids) {
     return highest;
 }
 
-// The window's class lists in the file order of a class's fields, as the class binding
-// gives their columns.
-std::array<std::vector<std::string>*, 6> classListsOf(FrmCourseSchedule& window) {
-    return {&window.tempClassIDArray,        &window.tempClassTermLinkArray,  &window.tempClassNameArray,
-            &window.tempClassForeColorArray, &window.tempClassBackColorArray, &window.tempClassNotesArray};
-}
+// The window's class lists and the field of a class each holds.
+struct ClassList {
+    std::vector<std::string> FrmCourseSchedule::*list;
+    std::string ClassBuffer::*field;
+};
+constexpr std::array<ClassList, 6> kClassLists{{
+    {&FrmCourseSchedule::tempClassIDArray, &ClassBuffer::ID},
+    {&FrmCourseSchedule::tempClassTermLinkArray, &ClassBuffer::TermLink},
+    {&FrmCourseSchedule::tempClassNameArray, &ClassBuffer::Name},
+    {&FrmCourseSchedule::tempClassForeColorArray, &ClassBuffer::ForeColor},
+    {&FrmCourseSchedule::tempClassBackColorArray, &ClassBuffer::BackColor},
+    {&FrmCourseSchedule::tempClassNotesArray, &ClassBuffer::Notes},
+}};
 
 void startSchedule(FrmCourseSchedule& window, Date today) {
-    for (auto* list : classListsOf(window)) list->clear();
+    for (const ClassList& c : kClassLists) (window.*c.list).clear();
     window.tempTermName.clear();
     window.setTermStart(today);
     window.setTermEnd(today);
@@ -34,10 +41,9 @@ void startSchedule(FrmCourseSchedule& window, Date today) {
 // The class of row `row` as the window's last class, under `id`: its own, or a new one
 // for a term based on another.
 void appendClass(FrmCourseSchedule& window, const RecordStore& store, int row, const std::string& id) {
-    std::vector<std::string> values = kClassBinding.valuesOfRow(store, row);
-    values[kClassBinding.position("ID")] = id;
-    const auto lists = classListsOf(window);
-    for (std::size_t f = 0; f < lists.size(); ++f) lists[f]->push_back(std::move(values[f]));
+    ClassBuffer values = kClassTable.rowOf(store, row);
+    values.ID = id;
+    for (const ClassList& c : kClassLists) (window.*c.list).push_back(std::move(values.*c.field));
 }
 
 }  // namespace
@@ -47,11 +53,11 @@ std::string NextTermID(const RecordStore& store) { return std::to_string(highest
 void RemoveTermRows(RecordStore& store, const std::string& termID) {
     for (int i = store.TermIDs.count(); i >= 1; --i) {
         if (store.TermIDs(i) != termID) continue;
-        for (TextColumn* column : kTermBinding.columns(store)) column->removeAt(i);
+        for (TextColumn* column : kTermTable.columns(store)) column->removeAt(i);
     }
     for (int i = store.ClassTermLinks.count(); i >= 1; --i) {
         if (store.ClassTermLinks(i) != termID) continue;
-        for (TextColumn* column : kClassBinding.columns(store)) column->removeAt(i);
+        for (TextColumn* column : kClassTable.columns(store)) column->removeAt(i);
     }
 }
 
@@ -63,18 +69,15 @@ void DeleteTermRows(RecordStore& store, const std::string& termID) {
 }
 
 void StoreTermRows(RecordStore& store, const FrmCourseSchedule& window, const std::string& termID) {
-    store.TermIDs.append(termID);
-    store.TermNames.append(trimRight(window.tempTermName));
-    store.TermStarts.append(dateText(window.tempTermStartDate));
-    store.TermEnds.append(dateText(window.tempTermEndDate));
-    // The class lists may be longer than the link list: an added class has no link yet.
+    kTermTable.appendRow(store, {termID, trimRight(window.tempTermName), dateText(window.tempTermStartDate),
+                                 dateText(window.tempTermEndDate)});
+    // The class lists may be longer than the link list: an added class has no link yet,
+    // so every class takes the term's.
     for (std::size_t row = 0; row < window.tempClassIDArray.size(); ++row) {
-        store.ClassIDs.append(trimRight(window.tempClassIDArray[row]));
-        store.ClassTermLinks.append(termID);
-        store.ClassNames.append(trimRight(window.tempClassNameArray.at(row)));
-        store.ClassForeColors.append(trimRight(window.tempClassForeColorArray.at(row)));
-        store.ClassBackColors.append(trimRight(window.tempClassBackColorArray.at(row)));
-        store.ClassNotes.append(trimRight(window.tempClassNotesArray.at(row)));
+        ClassBuffer values;
+        for (const ClassList& c : kClassLists)
+            values.*c.field = c.field == &ClassBuffer::TermLink ? termID : trimRight((window.*c.list).at(row));
+        kClassTable.appendRow(store, values);
     }
 }
 

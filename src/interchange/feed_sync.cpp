@@ -3,7 +3,7 @@
 #include <set>
 
 #include "common/int16.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 
 namespace qh {
@@ -33,7 +33,7 @@ public:
                      s_.TaskPriorities(row), "True",                 s_.TaskNotes(row),
                      s_.TaskReminders(row)};
         s_.TaskRecord = r;
-        kTaskBinding.storeRow(s_, row, r);
+        kTaskTable.storeRow(s_, row, r);
         static_cast<void>(files_.SaveTask(int16OrZero(r.RecordNo)));
     }
 
@@ -44,7 +44,7 @@ public:
                       s_.EventRepeatDays(row), s_.EventRepeatDailies(row), s_.EventEnds(row),
                       s_.EventEndDates(row),   s_.EventNotes(row),       s_.EventReminders(row)};
         s_.EventRecord = r;
-        kEventBinding.storeRow(s_, row, r);
+        kEventTable.storeRow(s_, row, r);
         static_cast<void>(files_.SaveEvent(int16OrZero(r.RecordNo)));
     }
 
@@ -74,7 +74,7 @@ public:
             break;
         }
         s_.AssignmentRecord = r;
-        kAssignmentBinding.storeRow(s_, row, r);
+        kAssignmentTable.storeRow(s_, row, r);
         static_cast<void>(files_.SaveAssignment(int16OrZero(r.RecordNo)));
     }
 

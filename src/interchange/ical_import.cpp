@@ -8,7 +8,7 @@
 #include "common/text.h"
 #include "interchange/event_repetition.h"
 #include "record_store/clock_text.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 #include "record_store/record_layout.h"
 
@@ -69,9 +69,8 @@ std::string boxText(const std::string& text) {
 }
 
 // Fits one text into its field, noting when it had to be cut.
-std::string fitted(const RecordLayout& layout, std::string_view field, const std::string& text, const char* what,
-                   std::vector<std::string>* changes) {
-    std::string stored = storedText(layout, field, text);
+std::string fitted(int width, const std::string& text, const char* what, std::vector<std::string>* changes) {
+    std::string stored = storedText(width, text);
     if (changes && stored != trimRight(text)) changes->push_back(std::string(what) + " cut to fit");
     return stored;
 }
@@ -107,7 +106,7 @@ EventBuffer eventRecordOf(const CalendarItem& item, bool firstOnly, std::vector<
     }
     EventBuffer record;
     PutRule(*rule, record);
-    record.Description = fitted(kEventsLayout, "Description", summaryOf(item), "name", changes);
+    record.Description = fitted(kEventTable.width("Description"), summaryOf(item), "name", changes);
     record.Type = typeOf(item, kEventTypes, "None");
     record.Time = "None";
     if (item.startMinutes) {
@@ -116,27 +115,22 @@ EventBuffer eventRecordOf(const CalendarItem& item, bool firstOnly, std::vector<
         record.Time = ClockText(rounded);
         if (rounded != *item.startMinutes && changes) changes->push_back("time rounded to " + record.Time);
     }
-    record.Notes = fitted(kEventsLayout, "Notes", boxText(item.description), "notes", changes);
+    record.Notes = fitted(kEventTable.width("Notes"), boxText(item.description), "notes", changes);
     record.Reminder = reminderOf(item, true, changes);
     return record;
 }
 
 TaskBuffer taskRecordOf(const CalendarItem& item, Date today, std::vector<std::string>* changes) {
     TaskBuffer record;
-    record.Description = fitted(kTasksLayout, "Description", summaryOf(item), "name", changes);
+    record.Description = fitted(kTaskTable.width("Description"), summaryOf(item), "name", changes);
     record.DateExists = trueFalse(item.start != 0);
     record.Date = dateText(item.start != 0 ? item.start : today);
     record.Type = typeOf(item, kTaskTypes, "None");
     record.Priority = priorityOf(item.priority);
     record.Done = trueFalse(item.done);
-    record.Notes = fitted(kTasksLayout, "Notes", boxText(item.description), "notes", changes);
+    record.Notes = fitted(kTaskTable.width("Notes"), boxText(item.description), "notes", changes);
     record.Reminder = item.start != 0 ? reminderOf(item, true, changes) : "None";
     return record;
-}
-
-std::string cutAssignmentText(std::string_view field, const std::string& text, const char* what,
-                              std::vector<std::string>* changes) {
-    return fitted(kAssignmentsLayout, field, text, what, changes);
 }
 
 AssignmentBuffer assignmentRecordOf(const CalendarItem& item, const std::string& classLink,
@@ -147,7 +141,7 @@ AssignmentBuffer assignmentRecordOf(const CalendarItem& item, const std::string&
     record.Type = typeOf(item, kAssignmentTypes, "Assignment");
     record.Difficulty = "Average";
     record.EstTime = "00 : 30";
-    record.Description = cutAssignmentText("Description", summaryOf(item), "name", changes);
+    record.Description = fitted(kAssignmentTable.width("Description"), summaryOf(item), "name", changes);
     record.Done = trueFalse(item.done);
     record.Grade = "";
     record.Weight = "5";
@@ -178,14 +172,14 @@ public:
     // The ID of the record written; 0 when the file is full.
     std::int32_t event(const CalendarItem& item, bool firstOnly, int row) {
         return put(eventRecordOf(item, firstOnly, nullptr), row, store_.NextEventRecord, &RecordStore::EventRecord,
-                   kEventBinding, store_.EventRecordNos, store_.EventIDs, &RecordFiles::SaveEvent);
+                   kEventTable, store_.EventRecordNos, store_.EventIDs, &RecordFiles::SaveEvent);
     }
 
     std::int32_t task(const CalendarItem& item, Date today, int row) {
         TaskBuffer record = taskRecordOf(item, today, nullptr);
         // The student's own tick stays.
         if (row != 0 && store_.TaskDones(row) == "True") record.Done = "True";
-        return put(record, row, store_.NextTaskRecord, &RecordStore::TaskRecord, kTaskBinding, store_.TaskRecordNos,
+        return put(record, row, store_.NextTaskRecord, &RecordStore::TaskRecord, kTaskTable, store_.TaskRecordNos,
                    store_.TaskIDs, &RecordFiles::SaveTask);
     }
 
@@ -195,8 +189,8 @@ public:
             AssignmentBuffer record = assignmentRecordOf(item, classLink, nullptr);
             record.RecordNo = record.ID = std::to_string(store_.NextAssignmentRecord);
             store_.AssignmentRecord = record;
-            kAssignmentBinding.appendRow(store_, record);
-            const std::string note = storedText(kNotesLayout, "Text", boxText(item.description));
+            kAssignmentTable.appendRow(store_, record);
+            const std::string note = storedText(kNoteTable.width("Text"), boxText(item.description));
             if (!note.empty() && store_.NextNoteRecord < kLastRecordNumber) {
                 store_.NoteRecordNos.append(std::to_string(store_.NextNoteRecord));
                 store_.NoteLinkIDs.append(record.ID);
@@ -208,21 +202,11 @@ public:
         }
         // An update takes the name and the due day from the source; the class, Done, the
         // grade, the estimate and everything else the student set stay.
-        AssignmentBuffer record;
-        record.RecordNo = store_.AssignmentRecordNos(row);
-        record.ID = store_.AssignmentIDs(row);
-        record.ClassLink = store_.AssignmentClassLinks(row);
+        AssignmentBuffer record = kAssignmentTable.rowOf(store_, row);
         record.DateValue = item.start;
-        record.Type = store_.AssignmentTypes(row);
-        record.Difficulty = store_.AssignmentDifficulties(row);
-        record.EstTime = store_.AssignmentEstTimes(row);
-        record.Description = cutAssignmentText("Description", summaryOf(item), "name", nullptr);
-        record.Done = store_.AssignmentDones(row);
-        record.Grade = store_.AssignmentGrades(row);
-        record.Weight = store_.AssignmentWeights(row);
-        record.Reminder = store_.AssignmentReminders(row);
+        record.Description = fitted(kAssignmentTable.width("Description"), summaryOf(item), "name", nullptr);
         store_.AssignmentRecord = record;
-        kAssignmentBinding.storeRow(store_, row, record);
+        kAssignmentTable.storeRow(store_, row, record);
         static_cast<void>(files_.SaveAssignment(int16OrZero(record.RecordNo)));
         return int16OrZero(record.ID);
     }
@@ -231,16 +215,16 @@ private:
     // A new record at the kind's next number, or the record of row `row` written over.
     template <class Buffer>
     std::int32_t put(Buffer record, int row, Int16 next, Buffer RecordStore::*buffer,
-                     const RecordBinding<Buffer>& binding, const TextColumn& recordNos, const TextColumn& ids,
+                     const RecordTable<Buffer>& table, const TextColumn& recordNos, const TextColumn& ids,
                      bool (RecordFiles::*save)(Int16)) {
         if (row == 0 && next >= kLastRecordNumber) return 0;
         record.RecordNo = row == 0 ? std::to_string(next) : recordNos(row);
         record.ID = row == 0 ? record.RecordNo : ids(row);
         store_.*buffer = record;
         if (row == 0)
-            binding.appendRow(store_, record);
+            table.appendRow(store_, record);
         else
-            binding.storeRow(store_, row, record);
+            table.storeRow(store_, row, record);
         // A failed write has named its file to the student; the row stays for this run, as
         // an editor's does.
         static_cast<void>((files_.*save)(row == 0 ? Int16{0} : int16OrZero(record.RecordNo)));

@@ -43,10 +43,15 @@ inline constexpr Color kAllDoneGreen = 0xE2F7E1;
 
 // --- Homework -------------------------------------------------------------------------
 
-struct HomeworkRows {
+// The columns of a list's rows, apart from its counters: a sort moves every one of them
+// (list_sort.h), so a column added here moves with its row.
+struct HomeworkColumns {
     Column<int> ListAssignmentRows;                             // row of the Assignment columns
     TextColumn ListTimes;                                       // time left, "HH:MM"; "00:00" for a done assignment
     TextColumn ListClassNames, ListForeColors, ListBackColors;  // of the class; may run short
+};
+
+struct HomeworkRows : HomeworkColumns {
     Int16 HomeworkTotal = 0;                                    // in the date range, whatever the done filter says
     Int16 HomeworkUnfinished = 0;                               // of those, not done
     bool HomeworkAllDone = true;                                // no unfinished one in range
@@ -66,12 +71,17 @@ void BuildHomeworkList(const ListHost& window);
 
 // --- Study sessions -------------------------------------------------------------------
 
-struct StudySessionRows {
-    Column<int> ListSessionRows;        // row of the StudySession columns; its count is the row count
-    Column<int> ListSessionLengthRows;  // the same rows, read for the "Time" column
+struct StudySessionColumns {
+    Column<int> ListSessionLengthRows;  // row of the StudySession columns, read for the "Time" column
     Column<int> ListSessionDateRows;    // the same rows, read for the "Done On" column
     Column<int> ListAssignmentRows;     // the session's assignment; may run short
     TextColumn ListClassNames, ListForeColors, ListBackColors;
+};
+
+struct StudySessionRows : StudySessionColumns {
+    // The same rows again, gathered; its count is the row count. A sort leaves it in the
+    // gathering order: it only counts the rows.
+    Column<int> ListSessionRows;
     std::string StudyTimeTotal;  // sum of the listed sessions, "HH:MM"
 };
 
@@ -82,9 +92,12 @@ void BuildStudySessionList(const ListHost& window);
 
 // --- Tasks ----------------------------------------------------------------------------
 
-struct TaskRows {
+struct TaskColumns {
     Column<int> ListTaskRows;
     TextColumn ListTaskForeColors, ListTaskBackColors;
+};
+
+struct TaskRows : TaskColumns {
     Int16 TaskTotal = 0, TaskDone = 0, TaskUnfinished = 0;
 };
 

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <string_view>
 
+#include "common/aggregate_members.h"
 #include "list_view/time_text.h"
 #include "platform/locale.h"
 
@@ -37,12 +38,12 @@ void reorder(Column<T>& column, const std::vector<int>& order) {
     values.swap(moved);
 }
 
-// Puts the rows of every given column into the order, unless the order leaves them as
-// they are.
-template <class... Columns>
-void reorderRows(const std::vector<int>& order, Columns&... columns) {
+// Puts every column of the rows into the order, unless the order leaves them as they are.
+// The columns are the members of the list's columns struct, so none can be left out.
+template <class Columns>
+void reorderRows(const std::vector<int>& order, Columns& rows) {
     if (isIdentity(order)) return;
-    (reorder(columns, order), ...);
+    forEachMember(rows, [&](auto& column) { reorder(column, order); });
 }
 
 // A text of a record column through a row index that may be missing.
@@ -257,8 +258,7 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
                 return record(SortRule::BinaryText, store.AssignmentGrades);
         }
     }();
-    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListTimes,
-                rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<HomeworkColumns&>(rows));
 }
 
 void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, int direction,
@@ -295,8 +295,7 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
                 return numberKeys(SortRule::Date, n, due);
         }
     }();
-    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListAssignmentRows, rows.ListSessionLengthRows,
-                rows.ListSessionDateRows, rows.ListForeColors, rows.ListBackColors, rows.ListClassNames);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<StudySessionColumns&>(rows));
 }
 
 void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
@@ -330,8 +329,7 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
                 return record(SortRule::BinaryText, store.TaskDones);
         }
     }();
-    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListTaskRows, rows.ListTaskForeColors,
-                rows.ListTaskBackColors);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<TaskColumns&>(rows));
 }
 
 void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
@@ -363,8 +361,7 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
                 return recordOrSubstitute(store.EventRecurrences);
         }
     }();
-    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ListEventRows, rows.ListEventDates,
-                rows.ListEventForeColors, rows.ListEventBackColors);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<EventColumns&>(rows));
 }
 
 void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale, TextRanks* ranks) {
@@ -396,9 +393,7 @@ void SortReminderList(ReminderRows& rows, int column, int direction, const Local
                 return numberKeys(SortRule::Date, n, date);
         }
     }();
-    reorderRows(SortedOrder(keys, direction, locale, ranks), rows.ReminderRecords, rows.ReminderKinds,
-                rows.ReminderForeColors, rows.ReminderBackColors, rows.ReminderClasses, rows.ReminderTypes,
-                rows.ReminderDescriptions, rows.ReminderDays, rows.ReminderDates);
+    reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<ReminderColumns&>(rows));
 }
 
 }  // namespace qh

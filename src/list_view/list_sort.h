@@ -24,10 +24,11 @@
 // A record field that should hold a date but doesn't sorts as day 0. A row whose linked
 // row is missing (a row column that ran short) sorts with empty keys.
 //
-// Rows move as a unit across the columns of their list. A column that runs short is
-// filled up with empty entries (0 for a row index) before the rows move, so that every
-// row keeps what it showed. A study session list moves all its columns but
-// ListSessionRows, which only counts the rows.
+// Rows move as a unit across the columns of their list: every member of the list's
+// columns struct (list_rows.h), found without a list to keep in step. A column that runs
+// short is filled up with empty entries (0 for a row index) before the rows move, so that
+// every row keeps what it showed. A study session list's ListSessionRows lies outside its
+// columns struct: it only counts the rows and keeps the gathering order.
 #include <string>
 #include <vector>
 

@@ -3,7 +3,7 @@
 
 #include "common/day_number.h"
 #include "common/failure.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 #include "record_store/record_io.h"
 #include "record_store/storage_locations.h"
@@ -23,10 +23,10 @@ bool RecordFiles::LoadAssignments() {
     RecordStore& s = store_;
     std::string current = "Assignments.txt";
     // The places of the values the load decides by.
-    const std::size_t classLinkAt = kAssignmentBinding.position("ClassLink");
-    const std::size_t descriptionAt = kAssignmentBinding.position("Description");
-    const std::size_t noteLinkAt = kNoteBinding.position("LinkID");
-    const std::size_t sessionLinkAt = kStudySessionBinding.position("LinkID");
+    constexpr std::size_t classLinkAt = kAssignmentTable.position("ClassLink");
+    constexpr std::size_t descriptionAt = kAssignmentTable.position("Description");
+    constexpr std::size_t noteLinkAt = kNoteTable.position("LinkID");
+    constexpr std::size_t sessionLinkAt = kStudySessionTable.position("LinkID");
     const bool read = runFileStep([&] {
         // Live classes of the active term, by ID.
         RowCounts classRows;
@@ -34,9 +34,9 @@ bool RecordFiles::LoadAssignments() {
             if (int16OrZero(s.ClassTermLinks(i)) == s.CurrentTermID && s.ClassNames(i) != kDeletedRecord)
                 ++classRows[int16OrZero(s.ClassIDs(i))];
 
-        const std::vector<TextColumn*> assignments = kAssignmentBinding.columns(s);
+        const std::vector<TextColumn*> assignments = kAssignmentTable.columns(s);
         // Only the active term's records are taken: no room is made ahead for them.
-        readRecords(kAssignmentBinding.layout, s.NextAssignmentRecord, {}, [&](const RecordView& r) {
+        readRecords(kAssignmentTable.layout, s.NextAssignmentRecord, {}, [&](const RecordView& r) {
             if (r.valueIs(descriptionAt, kDeletedRecord)) return;
             const auto found = classRows.find(int16OrZero(r.value(classLinkAt)));
             if (found == classRows.end()) return;
@@ -45,16 +45,16 @@ bool RecordFiles::LoadAssignments() {
 
         current = "Notes.txt";
         // The text stays on disk until a note is opened: only RecordNo and LinkID are read.
-        const std::vector<TextColumn*> notes = kNoteBinding.columns(s);
-        readRecords(kNoteBinding.layout, s.NextNoteRecord, notes, [&](const RecordView& r) {
+        const std::vector<TextColumn*> notes = kNoteTable.columns(s);
+        readRecords(kNoteTable.layout, s.NextNoteRecord, notes, [&](const RecordView& r) {
             if (int16OrZero(r.value(noteLinkAt)) > 0) r.appendTo(notes);
         });
 
         current = "StudySessions.txt";
         RowCounts assignmentRows;
         for (const std::string& id : s.AssignmentIDs) ++assignmentRows[int16OrZero(id)];
-        const std::vector<TextColumn*> sessions = kStudySessionBinding.columns(s);
-        readRecords(kStudySessionBinding.layout, s.NextStudySessionRecord, {}, [&](const RecordView& r) {
+        const std::vector<TextColumn*> sessions = kStudySessionTable.columns(s);
+        readRecords(kStudySessionTable.layout, s.NextStudySessionRecord, {}, [&](const RecordView& r) {
             const std::string link = r.value(sessionLinkAt);
             if (link == "0") return;
             const auto found = assignmentRows.find(int16OrZero(link));
@@ -67,18 +67,18 @@ bool RecordFiles::LoadAssignments() {
 }
 
 bool RecordFiles::SaveAssignment(Int16 RecordNumber) {
-    return saveOne(kAssignmentBinding.layout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber,
-                   [&] { return kAssignmentBinding.valuesOf(store_.AssignmentRecord); });
+    return saveOne(kAssignmentTable.layout, store_.NextAssignmentRecord, store_.AssignmentsChanged, RecordNumber,
+                   [&] { return kAssignmentTable.valuesOf(store_.AssignmentRecord); });
 }
 
 bool RecordFiles::SaveNote(Int16 RecordNumber) {
-    return saveOne(kNoteBinding.layout, store_.NextNoteRecord, store_.NotesChanged, RecordNumber,
-                   [&] { return kNoteBinding.valuesOf(store_.NoteRecord); });
+    return saveOne(kNoteTable.layout, store_.NextNoteRecord, store_.NotesChanged, RecordNumber,
+                   [&] { return kNoteTable.valuesOf(store_.NoteRecord); });
 }
 
 bool RecordFiles::SaveStudySession(Int16 RecordNumber, int Row) {
-    return saveOne(kEditStudySessionBinding.layout, store_.NextStudySessionRecord, store_.StudySessionsChanged,
-                   RecordNumber, [&] { return kEditStudySessionBinding.valuesOfRow(store_, Row); });
+    return saveOne(kEditStudySessionTable.layout, store_.NextStudySessionRecord, store_.StudySessionsChanged,
+                   RecordNumber, [&] { return kEditStudySessionTable.valuesOf(kEditStudySessionTable.rowOf(store_, Row)); });
 }
 
 bool RecordFiles::ReadNote(Int16 RecordNumber) {
@@ -86,13 +86,8 @@ bool RecordFiles::ReadNote(Int16 RecordNumber) {
     const bool read = runFileStep([&] {
         const auto file = platform_.files.openRecords(dataFilePath(store_, "Notes.txt"), kNotesLayout.length);
         std::string bytes;
-        NoteBuffer& note = store_.NoteRecord;
-        if (file->read(RecordNumber, bytes)) {
-            Values v = parseRecord(kNotesLayout, bytes);
-            note = {std::move(v[0]), std::move(v[1]), std::move(v[2])};
-        } else {
-            note = {};
-        }
+        store_.NoteRecord = file->read(RecordNumber, bytes) ? kNoteTable.bufferOf(parseRecord(kNotesLayout, bytes))
+                                                            : NoteBuffer{};
     });
     if (!read) reportFileError("Notes.txt", "reading");
     return read;

@@ -63,7 +63,7 @@ struct RecordStore {
         EventRecurrences, EventSameDates, EventRepeatNumbers, EventRepeatDays, EventRepeatDailies, EventEnds,
         EventEndDates, EventNotes, EventReminders;
 
-    // Record buffers filled by callers ahead of a save.
+    // Record buffers filled by callers ahead of a save (their fields: record_tables.h).
     AssignmentBuffer AssignmentRecord;
     NoteBuffer NoteRecord;
     TaskBuffer TaskRecord;

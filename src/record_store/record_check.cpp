@@ -2,83 +2,85 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 
 #include "common/day_number.h"
 #include "common/int16.h"
 #include "common/text.h"
 #include "record_store/color_vocabulary.h"
-#include "record_store/columns.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
 
 enum class Check { Number, Date, Colour };
 
-// A field the planner converts when it shows the record; `whenField` names the flag that
-// says whether the record has the value at all ("True" in it), empty when it always has.
+// A field the planner converts when it shows the record; `when` is the flag that says
+// whether the record has the value at all ("True" in it), none (width 0) when it always has.
 struct FieldRule {
-    std::string_view field;
+    FieldPlace field;
     Check check;
-    std::string_view whenField = {};
+    FieldPlace when = {};
 };
 
 struct FileRules {
     const RecordLayout& layout;
     // The field whose value marks a deleted record, and that value.
-    std::string_view deletedField;
+    FieldPlace deletedField;
     std::string_view deletedValue;
-    std::vector<FieldRule> fields;
+    std::span<const FieldRule> fields;
 };
 
-const std::vector<FileRules>& allRules() {
-    static const std::vector<FileRules> rules{
-        {kTermsLayout, "Name", kDeletedRecord, {{"ID", Check::Number}, {"Start", Check::Date}, {"End", Check::Date}}},
-        {kClassesLayout,
-         "Name",
-         kDeletedRecord,
-         {{"ID", Check::Number},
-          {"TermLink", Check::Number},
-          {"ForeColor", Check::Colour},
-          {"BackColor", Check::Colour}}},
-        {kAssignmentsLayout,
-         "Description",
-         kDeletedRecord,
-         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"ClassLink", Check::Number}, {"Date", Check::Date}}},
-        {kNotesLayout, "LinkID", "0", {{"RecordNo", Check::Number}, {"LinkID", Check::Number}}},
-        {kStudySessionsLayout,
-         "LinkID",
-         "0",
-         {{"RecordNo", Check::Number}, {"LinkID", Check::Number}, {"Date", Check::Date}}},
-        {kTasksLayout,
-         "Description",
-         kDeletedRecord,
-         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"Date", Check::Date, "DateExists"}}},
-        {kEventsLayout,
-         "Description",
-         kDeletedRecord,
-         {{"RecordNo", Check::Number}, {"ID", Check::Number}, {"Date", Check::Date}, {"EndDate", Check::Date, "End"}}},
-    };
-    return rules;
-}
+constexpr const auto& Te = kTermTable;
+constexpr const auto& Cl = kClassTable;
+constexpr const auto& As = kAssignmentTable;
+constexpr const auto& No = kNoteTable;
+constexpr const auto& Ss = kStudySessionTable;
+constexpr const auto& Ta = kTaskTable;
+constexpr const auto& Ev = kEventTable;
+
+constexpr FieldRule kTermRules[] = {
+    {Te.place("ID"), Check::Number}, {Te.place("Start"), Check::Date}, {Te.place("End"), Check::Date}};
+constexpr FieldRule kClassRules[] = {{Cl.place("ID"), Check::Number},
+                                     {Cl.place("TermLink"), Check::Number},
+                                     {Cl.place("ForeColor"), Check::Colour},
+                                     {Cl.place("BackColor"), Check::Colour}};
+constexpr FieldRule kAssignmentRules[] = {{As.place("RecordNo"), Check::Number},
+                                          {As.place("ID"), Check::Number},
+                                          {As.place("ClassLink"), Check::Number},
+                                          {As.place("Date"), Check::Date}};
+constexpr FieldRule kNoteRules[] = {{No.place("RecordNo"), Check::Number}, {No.place("LinkID"), Check::Number}};
+constexpr FieldRule kStudySessionRules[] = {
+    {Ss.place("RecordNo"), Check::Number}, {Ss.place("LinkID"), Check::Number}, {Ss.place("Date"), Check::Date}};
+constexpr FieldRule kTaskRules[] = {{Ta.place("RecordNo"), Check::Number},
+                                    {Ta.place("ID"), Check::Number},
+                                    {Ta.place("Date"), Check::Date, Ta.place("DateExists")}};
+constexpr FieldRule kEventRules[] = {{Ev.place("RecordNo"), Check::Number},
+                                     {Ev.place("ID"), Check::Number},
+                                     {Ev.place("Date"), Check::Date},
+                                     {Ev.place("EndDate"), Check::Date, Ev.place("End")}};
+
+const FileRules kRules[] = {
+    {kTermsLayout, Te.place("Name"), kDeletedRecord, kTermRules},
+    {kClassesLayout, Cl.place("Name"), kDeletedRecord, kClassRules},
+    {kAssignmentsLayout, As.place("Description"), kDeletedRecord, kAssignmentRules},
+    {kNotesLayout, No.place("LinkID"), "0", kNoteRules},
+    {kStudySessionsLayout, Ss.place("LinkID"), "0", kStudySessionRules},
+    {kTasksLayout, Ta.place("Description"), kDeletedRecord, kTaskRules},
+    {kEventsLayout, Ev.place("Description"), kDeletedRecord, kEventRules},
+};
 
 const FileRules& rulesOf(const RecordLayout& layout) {
-    for (const FileRules& rules : allRules())
+    for (const FileRules& rules : kRules)
         if (&rules.layout == &layout) return rules;
-    return allRules().front();  // not reached: every layout has its rules
+    return kRules[0];  // not reached: every layout has its rules
 }
 
 // The bytes of a field, trailing spaces removed.
-std::string_view fieldOf(const RecordLayout& layout, std::string_view record, std::string_view name) {
-    std::size_t offset = 0;
-    for (const FieldSpec& field : layout.fields) {
-        if (field.name == name) {
-            std::string_view bytes = record.substr(offset, std::size_t(field.width));
-            while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
-            return bytes;
-        }
-        offset += std::size_t(field.width);
-    }
-    return {};
+std::string_view fieldOf(std::string_view record, FieldPlace place) {
+    std::string_view bytes = record.substr(place.offset, place.width);
+    while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
+    return bytes;
 }
 
 bool isRecordDate(std::string_view text) {
@@ -120,7 +122,7 @@ bool startsRecord(const RecordLayout& layout, std::string_view record) {
     const std::optional<int> lead = writtenNumber(record.substr(0, std::size_t(first.width)));
     if (!lead || (numbered(layout) && *lead < 1)) return false;
     if (&layout == &kTermsLayout)
-        return isRecordDate(fieldOf(layout, record, "Start")) || isRecordDate(fieldOf(layout, record, "End"));
+        return isRecordDate(fieldOf(record, Te.place("Start"))) || isRecordDate(fieldOf(record, Te.place("End")));
     return writtenNumber(record.substr(std::size_t(first.width), std::size_t(second.width))).has_value();
 }
 
@@ -136,11 +138,13 @@ int CheckedRecords::readableCount() const { return int(std::count(readable.begin
 
 bool RecordReadable(const RecordLayout& layout, std::string_view record) {
     const FileRules& rules = rulesOf(layout);
-    if (numbered(layout) && !writtenNumber(fieldOf(layout, record, "RecordNo"))) return false;
-    if (fieldOf(layout, record, rules.deletedField) == rules.deletedValue) return true;
+    // A numbered record's number leads it.
+    const FieldPlace recordNo{0, std::size_t(layout.fields.front().width)};
+    if (numbered(layout) && !writtenNumber(fieldOf(record, recordNo))) return false;
+    if (fieldOf(record, rules.deletedField) == rules.deletedValue) return true;
     for (const FieldRule& rule : rules.fields) {
-        if (!rule.whenField.empty() && fieldOf(layout, record, rule.whenField) != "True") continue;
-        if (!converts(rule.check, fieldOf(layout, record, rule.field))) return false;
+        if (rule.when.width != 0 && fieldOf(record, rule.when) != "True") continue;
+        if (!converts(rule.check, fieldOf(record, rule.field))) return false;
     }
     return true;
 }

@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 #include "record_store/damage_messages.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_io.h"
 #include "record_store/storage_locations.h"
 
@@ -126,12 +126,12 @@ bool RecordFiles::LoadTermsAndClasses() {
     RecordStore& s = store_;
     std::string current = "Terms.txt";
     const bool read = runFileStep([&] {
-        const std::vector<TextColumn*> terms = kTermBinding.columns(s);
+        const std::vector<TextColumn*> terms = kTermTable.columns(s);
         keptTerms_ =
-            readRecords(kTermBinding.layout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
+            readRecords(kTermTable.layout, s.NextTermRecord, terms, [&](const RecordView& r) { r.appendTo(terms); });
         current = "Classes.txt";
-        const std::vector<TextColumn*> classes = kClassBinding.columns(s);
-        keptClasses_ = readRecords(kClassBinding.layout, s.NextClassRecord, classes,
+        const std::vector<TextColumn*> classes = kClassTable.columns(s);
+        keptClasses_ = readRecords(kClassTable.layout, s.NextClassRecord, classes,
                                    [&](const RecordView& r) { r.appendTo(classes); });
     });
     if (!read) reportFileError(current, "reading");
@@ -167,7 +167,7 @@ bool RecordFiles::SaveTermsAndClasses() {
             std::string bytes;
             bytes.reserve(std::size_t(s.TermNames.count()) * std::size_t(kTermsLayout.length));
             for (int i = 1; i <= s.TermNames.count(); ++i) {
-                bytes += buildRecord(kTermsLayout, kTermBinding.valuesOfRow(s, i));
+                bytes += buildRecord(kTermsLayout, kTermTable.valuesOf(kTermTable.rowOf(s, i)));
                 s.NextTermRecord = toInt16(s.NextTermRecord + 1);
             }
             bytes += keptTerms_;
@@ -181,7 +181,7 @@ bool RecordFiles::SaveTermsAndClasses() {
             bytes.clear();
             bytes.reserve(std::size_t(s.ClassNames.count()) * std::size_t(kClassesLayout.length));
             for (int i = 1; i <= s.ClassNames.count(); ++i) {
-                bytes += buildRecord(kClassesLayout, kClassBinding.valuesOfRow(s, i));
+                bytes += buildRecord(kClassesLayout, kClassTable.valuesOf(kClassTable.rowOf(s, i)));
                 s.NextClassRecord = toInt16(s.NextClassRecord + 1);
             }
             bytes += keptClasses_;

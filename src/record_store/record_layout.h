@@ -1,6 +1,6 @@
 #pragma once
-// The fixed-width record formats of the seven record files, as tables, and the one
-// builder and parser that all of them use.
+// The fixed-width record format and the one builder and parser that every record file
+// uses. The seven layouts are made from the kinds' tables (record_tables.h).
 //
 // A record is a run of text fields, each left-justified and padded with spaces to its
 // width, in the Windows-1252 code page (codepage.h). Reserved fields are never assigned:
@@ -35,23 +35,11 @@ struct RecordLayout {
 
     // Number of fields that carry a value (all but the reserved ones).
     int valueCount() const;
-    // The width of the field of that name; an unknown name is a programming error
-    // (std::invalid_argument).
-    int width(std::string_view field) const;
 };
 
-extern const RecordLayout kTermsLayout;          // Terms.txt, 100
-extern const RecordLayout kClassesLayout;        // Classes.txt, 615
-extern const RecordLayout kAssignmentsLayout;    // Assignments.txt, 160
-extern const RecordLayout kNotesLayout;          // Notes.txt, 1500
-extern const RecordLayout kStudySessionsLayout;  // StudySessions.txt, 55
-extern const RecordLayout kTasksLayout;          // Tasks.txt, 1000
-extern const RecordLayout kEventsLayout;         // Events.txt, 1000
-
-// A text as field `field` of the layout's file will hold it: cut to the field's width in
-// code-page bytes, with the characters the code page lacks replaced, as a load reads it
-// back.
-std::string storedText(const RecordLayout& layout, std::string_view field, const std::string& text);
+// A text as a field of that width will hold it: cut to the width in code-page bytes, with
+// the characters the code page lacks replaced, as a load reads it back.
+std::string storedText(int width, const std::string& text);
 
 // Builds one record from the values of the non-reserved fields in table order (UTF-8).
 // A date field's value must read as a date once its "." and "-" are taken for "/"

@@ -1,5 +1,5 @@
 // Tasks.txt and Events.txt: all live records in memory, one record written at a time.
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 #include "record_store/record_io.h"
 
@@ -8,10 +8,10 @@ namespace qh {
 bool RecordFiles::LoadTasks() {
     if (!enterDataDirectory()) return false;
     RecordStore& s = store_;
-    const std::vector<TextColumn*> columns = kTaskBinding.columns(s);
-    const std::size_t descriptionAt = kTaskBinding.position("Description");
+    const std::vector<TextColumn*> columns = kTaskTable.columns(s);
+    constexpr std::size_t descriptionAt = kTaskTable.position("Description");
     const bool read = runFileStep([&] {
-        readRecords(kTaskBinding.layout, s.NextTaskRecord, columns, [&](const RecordView& r) {
+        readRecords(kTaskTable.layout, s.NextTaskRecord, columns, [&](const RecordView& r) {
             if (!r.valueIs(descriptionAt, kDeletedRecord)) r.appendTo(columns);
         });
     });
@@ -20,17 +20,17 @@ bool RecordFiles::LoadTasks() {
 }
 
 bool RecordFiles::SaveTask(Int16 RecordNumber) {
-    return saveOne(kTaskBinding.layout, store_.NextTaskRecord, store_.TasksChanged, RecordNumber,
-                   [&] { return kTaskBinding.valuesOf(store_.TaskRecord); });
+    return saveOne(kTaskTable.layout, store_.NextTaskRecord, store_.TasksChanged, RecordNumber,
+                   [&] { return kTaskTable.valuesOf(store_.TaskRecord); });
 }
 
 bool RecordFiles::LoadEvents() {
     if (!enterDataDirectory()) return false;
     RecordStore& s = store_;
-    const std::vector<TextColumn*> columns = kEventBinding.columns(s);
-    const std::size_t descriptionAt = kEventBinding.position("Description");
+    const std::vector<TextColumn*> columns = kEventTable.columns(s);
+    constexpr std::size_t descriptionAt = kEventTable.position("Description");
     const bool read = runFileStep([&] {
-        readRecords(kEventBinding.layout, s.NextEventRecord, columns, [&](const RecordView& r) {
+        readRecords(kEventTable.layout, s.NextEventRecord, columns, [&](const RecordView& r) {
             if (!r.valueIs(descriptionAt, kDeletedRecord)) r.appendTo(columns);
         });
     });
@@ -39,8 +39,8 @@ bool RecordFiles::LoadEvents() {
 }
 
 bool RecordFiles::SaveEvent(Int16 RecordNumber) {
-    return saveOne(kEventBinding.layout, store_.NextEventRecord, store_.EventsChanged, RecordNumber,
-                   [&] { return kEventBinding.valuesOf(store_.EventRecord); });
+    return saveOne(kEventTable.layout, store_.NextEventRecord, store_.EventsChanged, RecordNumber,
+                   [&] { return kEventTable.valuesOf(store_.EventRecord); });
 }
 
 }  // namespace qh

@@ -19,13 +19,17 @@
 
 namespace qh {
 
-// The row columns of the event list and its counters. The counters count every
-// occurrence found, before the `ComboList` filter, so they tell what the range holds
-// whatever the list shows. They are 16-bit: passing 32767 is the "Overflow".
-struct EventRows {
+// The row columns of the event list, which a sort moves together.
+struct EventColumns {
     Column<Int16> ListEventRows;  // row of the Event columns of each occurrence
     Column<Date> ListEventDates;   // date of the occurrence
     TextColumn ListEventForeColors, ListEventBackColors;  // colour names
+};
+
+// The columns and the counters. The counters count every occurrence found, before the
+// `ComboList` filter, so they tell what the range holds whatever the list shows. They are
+// 16-bit: passing 32767 is the "Overflow".
+struct EventRows : EventColumns {
     Int16 EventClassCount = 0, EventOtherCount = 0, EventTotal = 0;
 };
 

@@ -16,9 +16,8 @@
 
 namespace qh {
 
-// The nine row columns of the reminder list, appended in step, and the three counters
-// (16-bit: passing 32767 is the "Overflow").
-struct ReminderRows {
+// The row columns of the reminder list, appended in step, which a sort moves together.
+struct ReminderColumns {
     Column<Int16> ReminderRecords;         // row in the columns of its kind
     TextColumn ReminderKinds;              // "Homework", "Task" or "Event"
     TextColumn ReminderClasses;            // class name; empty for a task or an event
@@ -27,6 +26,10 @@ struct ReminderRows {
     Column<int> ReminderDays;              // DaysBetween(date, record's date): 0 today, < 0 past
     Column<Date> ReminderDates;            // the record's date, for an event the occurrence
     TextColumn ReminderForeColors, ReminderBackColors;  // colour names
+};
+
+// The columns and the three counters (16-bit: passing 32767 is the "Overflow").
+struct ReminderRows : ReminderColumns {
     Int16 HomeworkReminderCount = 0, TaskReminderCount = 0, EventReminderCount = 0;
 };
 

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "record_store/damage_messages.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "store_fixture.h"
 
 namespace qh {

@@ -7,7 +7,7 @@
 
 #include "record_store/columns.h"
 #include "record_store/record_files.h"
-#include "record_store/record_layout.h"
+#include "record_store/record_tables.h"
 #include "record_store/storage_locations.h"
 #include "support/fake_platform.h"
 

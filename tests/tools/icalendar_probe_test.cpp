@@ -7,7 +7,7 @@
 #include <regex>
 
 #include "probe_script.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "support/main_window_fixture.h"
 #include "support/record_fields.h"
 
@@ -56,11 +56,11 @@ struct CalendarDrive {
                                               .reminder = "3 Days"}));
         const TaskBuffer task{"1", "1", "2026/11/23", "Return library books", "True", "Home", "High", "False", "",
                               "2 Days"};
-        fake.writeBytes(data + "/Tasks.txt", buildRecord(kTasksLayout, kTaskBinding.valuesOf(task)));
+        fake.writeBytes(data + "/Tasks.txt", buildRecord(kTasksLayout, kTaskTable.valuesOf(task)));
         const EventBuffer event{"1",     "1",       "2026/11/26", "Choir practice", "School", "4:15 pm", "Day",
                                 "False", "First",   "Sunday",     "FFTFFFF",        "True",   "2026/12/17",
                                 "",      "1 Day"};
-        fake.writeBytes(data + "/Events.txt", buildRecord(kEventsLayout, kEventBinding.valuesOf(event)));
+        fake.writeBytes(data + "/Events.txt", buildRecord(kEventsLayout, kEventTable.valuesOf(event)));
     }
 };
 

@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "probe_session.h"
-#include "record_store/record_bindings.h"
+#include "record_store/record_tables.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -34,11 +34,11 @@ struct ExportDrive {
                             assignmentRecord(2, 1, "2026/11/25", "Quiz review", true));
         const TaskBuffer task{"1",     "1", "2026/11/23", "Return <library> books", "True", "None", "High",
                               "False", "",  "2 Days"};
-        fake.writeBytes(data + "/Tasks.txt", buildRecord(kTasksLayout, kTaskBinding.valuesOf(task)));
+        fake.writeBytes(data + "/Tasks.txt", buildRecord(kTasksLayout, kTaskTable.valuesOf(task)));
         const EventBuffer event{
             "1",      "1",       "2026/11/26", "Choir & band concert", "None", "None", "None", "False", "First",
             "Sunday", "FFFFFFF", "False",      "2026/11/26",           "",     "None"};
-        fake.writeBytes(data + "/Events.txt", buildRecord(kEventsLayout, kEventBinding.valuesOf(event)));
+        fake.writeBytes(data + "/Events.txt", buildRecord(kEventsLayout, kEventTable.valuesOf(event)));
         std::filesystem::copy(
             std::string(QH_SOURCE_DIR) + "/templates", fake.exec,
             std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
