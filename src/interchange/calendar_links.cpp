@@ -6,6 +6,8 @@
 #include <random>
 #include <vector>
 
+#include "interchange/tab_separated.h"
+
 namespace qh {
 namespace {
 
@@ -20,16 +22,6 @@ std::string_view nameOf(LinkedKind kind) {
     return {};
 }
 
-std::vector<std::string_view> fields(std::string_view line) {
-    std::vector<std::string_view> out;
-    for (std::size_t at = 0;;) {
-        const std::size_t tab = line.find('\t', at);
-        out.push_back(line.substr(at, tab - at));
-        if (tab == std::string_view::npos) return out;
-        at = tab + 1;
-    }
-}
-
 // A UID, source or hash is one line of text without tabs; anything else would break the
 // file's own lines.
 bool plain(std::string_view text) { return text.find_first_of("\t\r\n") == std::string_view::npos; }
@@ -38,15 +30,7 @@ bool plain(std::string_view text) { return text.find_first_of("\t\r\n") == std::
 
 CalendarLinks CalendarLinks::parse(std::string_view text) {
     CalendarLinks links;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = text.find('\n', at);
-        if (end == std::string_view::npos) end = text.size();
-        std::string_view line = text.substr(at, end - at);
-        at = end + 1;
-        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        if (line.empty() || line == kHeader) continue;
-        const std::vector<std::string_view> parts = fields(line);
+    for (const std::vector<std::string_view>& parts : TabSeparatedLines(text, kHeader)) {
         if (parts.size() != 5 || parts[2].empty()) continue;
         const auto kind = std::find_if(kKindNames.begin(), kKindNames.end(),
                                        [&](const auto& entry) { return entry.second == parts[0]; });

@@ -4,20 +4,12 @@
 #include <charconv>
 #include <cstdio>
 
+#include "interchange/tab_separated.h"
+
 namespace qh {
 namespace {
 
 constexpr std::string_view kHeader = "Quillhollow subscriptions 1";
-
-std::vector<std::string_view> fields(std::string_view line) {
-    std::vector<std::string_view> out;
-    for (std::size_t at = 0;;) {
-        const std::size_t tab = line.find('\t', at);
-        out.push_back(line.substr(at, tab - at));
-        if (tab == std::string_view::npos) return out;
-        at = tab + 1;
-    }
-}
 
 // A value is one field of one line: whatever would break the line becomes a space.
 std::string plain(std::string text) {
@@ -57,15 +49,7 @@ std::optional<Moment> momentOf(std::string_view text) {
 
 Subscriptions Subscriptions::parse(std::string_view text) {
     Subscriptions out;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = text.find('\n', at);
-        if (end == std::string_view::npos) end = text.size();
-        std::string_view line = text.substr(at, end - at);
-        at = end + 1;
-        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        if (line.empty() || line == kHeader) continue;
-        const std::vector<std::string_view> f = fields(line);
+    for (const std::vector<std::string_view>& f : TabSeparatedLines(text, kHeader)) {
         const std::optional<int> id = f.size() > 1 ? number(f[1]) : std::nullopt;
         if (!id || *id <= 0) continue;
         if (f[0] == "Next" && f.size() == 2) {
