@@ -76,7 +76,7 @@ void FrmCourseSchedule::buildControls() {
     label("LabelClassName", 240, 2520, 3000, "Class Name");
     add(ControlKind::TextBox, "TextBoxClassName", "", 240, 2760, 2760, 315).border = true;
     Control& accent = add(ControlKind::CommandButton, "ButtonAccentColor", "", 3000, 2760, 360, 315);
-    accent.caption = "B";
+    accent.caption = std::string("B");  // moved in: the optimiser gives a false overlap alarm on a literal
     label("LabelClassColor", 240, 3180, 3000, "Class Color");
     Control& grid = addDrawable("picColorGrid", "", 240, 3420, kColorGridColumns * kColorGridCell,
                                 kColorGridRows * kColorGridCell);
