@@ -6,6 +6,7 @@
 
 #include "editors/recurrence_panel_defaults.h"
 #include "editors/shared_record_file.h"
+#include "recurrence/event_rule.h"
 #include "memory_drive.h"
 
 using namespace qh;
@@ -38,7 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // An undated task is written with "today": here the date it was read with.
     check(bytes, SharedKind::Task, &readSharedTask, [](const SharedTask& t) { return sharedFileBytes(t, t.date); });
     check(bytes, SharedKind::Event, &readSharedEvent, [](const SharedEvent& e) {
-        require(ProposedEndDate(e.recurrence, e.firstDate) >= e.firstDate, "a read event has an end date to propose");
+        require(ProposedEndDate(recurrenceOf(e.recurrence), e.firstDate) >= e.firstDate,
+                "a read event has an end date to propose");
         return sharedFileBytes(e);
     });
     return 0;
