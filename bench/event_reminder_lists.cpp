@@ -89,7 +89,7 @@ struct Planner {
         window.c("ComboList").text = list;
         window.c("ComboDateRange").text = range;
         window.state.SortColumn = Int16(sortColumn);
-        window.state.SortDirection = 1;
+        window.state.SortDirection = SortDirection::Ascending;
         window.c("VSGridScroll").value = 1;
         this->mode = mode;
         refresh();

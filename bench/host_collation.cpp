@@ -54,7 +54,7 @@ void FirstSortOfDistinctTexts(benchmark::State& state) {
     for (const std::string& text : texts) keys.texts.push_back(&text);
     for (auto _ : state) {
         TextRanks ranks;
-        benchmark::DoNotOptimize(SortedOrder(keys, 1, locale, &ranks).data());
+        benchmark::DoNotOptimize(SortedOrder(keys, SortDirection::Ascending, locale, &ranks).data());
     }
 }
 

@@ -80,7 +80,7 @@ struct Planner {
         window.c("ComboList").text = list;
         window.c("ComboDateRange").text = range;
         window.state.SortColumn = Int16(sortColumn);
-        window.state.SortDirection = 1;
+        window.state.SortDirection = SortDirection::Ascending;
         this->mode = mode;
         refresh();
     }

@@ -208,10 +208,9 @@ void PaintKeyboardRow(Canvas& canvas, const GridFrame& frame, int row, int gridW
     }
 }
 
-std::string HeaderPicture(int column, int sortColumn, int sortDirection) {
-    if (column == sortColumn && sortDirection == 1) return "GridTitleUp";
-    if (column == sortColumn && sortDirection == 2) return "GridTitleDown";
-    return "GridTitle";
+std::string HeaderPicture(int column, int sortColumn, SortDirection sortDirection) {
+    if (column != sortColumn) return "GridTitle";
+    return sortDirection == SortDirection::Ascending ? "GridTitleUp" : "GridTitleDown";
 }
 
 GridFrame CurrentGridFrame(const ListHost& window, int columnCount) {

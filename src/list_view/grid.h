@@ -131,7 +131,7 @@ void PaintKeyboardRow(Canvas& canvas, const GridFrame& frame, int row, int gridW
 inline constexpr Color kKeyboardRowFrame = rgb(28, 95, 200);
 
 // The header picture of column c under the sort state.
-std::string HeaderPicture(int column, int sortColumn, int sortDirection);
+std::string HeaderPicture(int column, int sortColumn, SortDirection sortDirection);
 
 // ---------------------------------------------------------------------------------------
 // Window glue, used by the list builders; the window is seen through a ListHost.

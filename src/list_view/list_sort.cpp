@@ -59,9 +59,9 @@ long long dayOf(const std::string& text) {
     return date ? *date : 0;
 }
 
-const std::string& noneReplaced(const std::string& value, int direction) {
+const std::string& noneReplaced(const std::string& value, SortDirection direction) {
     if (value != "None") return value;
-    return direction == 1 ? kNoneUp : kNoneDown;
+    return direction == SortDirection::Ascending ? kNoneUp : kNoneDown;
 }
 
 SortKeys textKeys(SortRule rule, int n, auto&& textOf) {
@@ -181,11 +181,10 @@ std::vector<long long> rankTexts(const std::vector<const std::string*>& texts, b
 
 }  // namespace
 
-std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& locale, TextRanks* ranks) {
+std::vector<int> SortedOrder(const SortKeys& keys, SortDirection direction, const Locale& locale, TextRanks* ranks) {
     const std::size_t n = std::size_t(keys.count());
     std::vector<int> order(n);
     std::iota(order.begin(), order.end(), 0);
-    if (direction != 1 && direction != 2) return order;
 
     // Every key becomes a number that orders as the key does; texts by their rank, taken
     // from the last sort when it ranked them all.
@@ -208,7 +207,7 @@ std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& 
     } else {
         numbers = keys.numbers;
     }
-    if (direction == 2)
+    if (direction == SortDirection::Descending)
         for (long long& v : numbers) v = -v;
     if (n == 0) return order;
 
@@ -227,7 +226,7 @@ std::vector<int> SortedOrder(const SortKeys& keys, int direction, const Locale& 
     return order;
 }
 
-void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
                       TextRanks* ranks) {
     const int n = rows.ListAssignmentRows.count();
     if (n < 2 || column < 1 || column > 8) return;
@@ -261,7 +260,7 @@ void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, 
     reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<HomeworkColumns&>(rows));
 }
 
-void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, int direction,
+void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, SortDirection direction,
                           const Locale& locale, TextRanks* ranks) {
     const int n = rows.ListSessionRows.count();
     if (n < 2 || column < 1 || column > 7) return;
@@ -298,7 +297,7 @@ void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int 
     reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<StudySessionColumns&>(rows));
 }
 
-void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+void SortTaskList(TaskRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
                   TextRanks* ranks) {
     const int n = rows.ListTaskRows.count();
     if (n < 2 || column < 1 || column > 5) return;
@@ -313,7 +312,7 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
     const auto day = [&](int i) -> long long {
         const bool dated = field(store.TaskDateExists, r(i)) == kTrueText;
         const auto date = dated ? parseDateText(field(store.TaskDates, r(i))) : std::nullopt;
-        return date ? *date : (direction == 1 ? kUndatedLast : kUndatedFirst);
+        return date ? *date : (direction == SortDirection::Ascending ? kUndatedLast : kUndatedFirst);
     };
     const SortKeys keys = [&] {
         switch (column) {
@@ -332,7 +331,7 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, int dire
     reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<TaskColumns&>(rows));
 }
 
-void SortEventList(EventRows& rows, const RecordStore& store, int column, int direction, const Locale& locale,
+void SortEventList(EventRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
                    TextRanks* ranks) {
     const int n = rows.ListEventRows.count();
     if (n < 2 || column < 1 || column > 5) return;
@@ -343,7 +342,7 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
     };
     const auto minuteOfDay = [&](int i) -> long long {
         const auto seconds = ParseTimeOfDay(field(store.EventTimes, r(i)));
-        return seconds ? *seconds / 60 : (direction == 1 ? 23 * 60 + 59 : 0);
+        return seconds ? *seconds / 60 : (direction == SortDirection::Ascending ? 23 * 60 + 59 : 0);
     };
     const auto name = [&](int i) -> const std::string& { return field(store.EventDescriptions, r(i)); };
     const auto date = [&](int i) -> long long { return rows.ListEventDates.valueOr(i, 0); };
@@ -364,7 +363,7 @@ void SortEventList(EventRows& rows, const RecordStore& store, int column, int di
     reorderRows(SortedOrder(keys, direction, locale, ranks), static_cast<EventColumns&>(rows));
 }
 
-void SortReminderList(ReminderRows& rows, int column, int direction, const Locale& locale, TextRanks* ranks) {
+void SortReminderList(ReminderRows& rows, int column, SortDirection direction, const Locale& locale, TextRanks* ranks) {
     const int n = rows.ReminderRecords.count();
     if (n < 2 || column < 1 || column > 6) return;
     const auto own = [&](const TextColumn& c) {
@@ -373,7 +372,7 @@ void SortReminderList(ReminderRows& rows, int column, int direction, const Local
     const auto classOrSubstitute = [&](int i) -> const std::string& {
         const std::string& value = field(rows.ReminderClasses, i);
         if (!value.empty()) return value;
-        return direction == 1 ? kNoClassUp : kNoClassDown;
+        return direction == SortDirection::Ascending ? kNoClassUp : kNoClassDown;
     };
     const auto days = [&](int i) -> long long { return rows.ReminderDays.valueOr(i, 0); };
     const auto date = [&](int i) -> long long { return rows.ReminderDates.valueOr(i, 0); };

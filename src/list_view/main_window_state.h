@@ -11,6 +11,7 @@
 #include "common/day_number.h"
 #include "common/int16.h"
 #include "list_view/refresh_reason.h"
+#include "list_view/sort_direction.h"
 #include "list_view/text_ranks.h"
 
 namespace qh {
@@ -34,7 +35,7 @@ struct MainWindowState {
     RefreshReason Refreshing = RefreshReason::None;
     bool SuppressComboEvents = false;
     Int16 SortColumn = 7;
-    Int16 SortDirection = 1;
+    qh::SortDirection SortDirection = SortDirection::Ascending;
     Int16 RowPitch = 22;
     Int16 TopRow = 1;
     Int16 GridMargin = 100;

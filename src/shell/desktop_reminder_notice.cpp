@@ -55,7 +55,7 @@ std::string ReminderCountSentence(int assignments, int tasks, int events) {
 ReminderNotice DesktopReminderNotice(const RecordStore& store, Date day, const Locale& locale,
                                      std::size_t shownItems) {
     ReminderRows rows = GatherReminders(store, day, "All");
-    SortReminderList(rows, kDateColumn, 1, locale);
+    SortReminderList(rows, kDateColumn, SortDirection::Ascending, locale);
     ReminderNotice notice;
     notice.title = "Today's Reminders";
     const int count = rows.ReminderRecords.count();

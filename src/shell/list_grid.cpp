@@ -121,7 +121,7 @@ void MainWindow::picGridMouseUp(const EventArgs& args) {
 
 void MainWindow::headerClicked(int index) {
     if (index == 0) return;  // the "#" column doesn't sort
-    if (index == state.SortColumn) state.SortDirection = state.SortDirection == 1 ? 2 : 1;
+    if (index == state.SortColumn) state.SortDirection = reversed(state.SortDirection);
     state.SortColumn = toInt16(index);
     ResetGridScroll();
 }

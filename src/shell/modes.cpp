@@ -238,7 +238,7 @@ void MainWindow::applyModeTable(Mode mode) {
     PaintStatusBar();
 
     state.SortColumn = m.sortColumn;
-    state.SortDirection = 1;
+    state.SortDirection = SortDirection::Ascending;
     state.SuppressComboEvents = false;
 
     Refresh(RefreshReason::ModeChange);

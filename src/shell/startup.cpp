@@ -98,7 +98,7 @@ void MainWindow::Form_Load() {
     files->LoadTasks();
     files->LoadEvents();
 
-    state.SortDirection = 1;
+    state.SortDirection = SortDirection::Ascending;
     state.SortColumn = 7;
     state.PressedRow = 0;
 

@@ -168,17 +168,18 @@ TEST_F(GridWindowTest, ScrollBarIsOffWhileTheListFitsAndSpansTheRestOtherwise) {
 TEST_F(GridWindowTest, HeaderClicksSortAndSwapTheDirectionButTheNumberColumnDoesNothing) {
     window.LayoutGrid(Mode::Homework);
     window.state.SortColumn = 7;
-    window.state.SortDirection = 1;
+    window.state.SortDirection = SortDirection::Ascending;
     const auto clicked = [&](int header) {
         window.click("picColHeader(" + std::to_string(header) + ")");
-        return std::to_string(window.state.SortColumn) + " " + std::to_string(window.state.SortDirection) + " " +
+        const bool ascending = window.state.SortDirection == SortDirection::Ascending;
+        return std::to_string(window.state.SortColumn) + (ascending ? " up " : " down ") +
                window.c("picColHeader", 7).picture + " " + window.c("picColHeader", 3).picture;
     };
-    EXPECT_EQ(clicked(0), "7 1 GridTitle GridTitle");  // no list is built: nothing repaints
-    EXPECT_EQ(clicked(7), "7 2 GridTitleDown GridTitle");
-    EXPECT_EQ(clicked(0), "7 2 GridTitleDown GridTitle");
-    EXPECT_EQ(clicked(3), "3 2 GridTitle GridTitleDown");  // a new column keeps the direction last used
-    EXPECT_EQ(clicked(3), "3 1 GridTitle GridTitleUp");
+    EXPECT_EQ(clicked(0), "7 up GridTitle GridTitle");  // no list is built: nothing repaints
+    EXPECT_EQ(clicked(7), "7 down GridTitleDown GridTitle");
+    EXPECT_EQ(clicked(0), "7 down GridTitleDown GridTitle");
+    EXPECT_EQ(clicked(3), "3 down GridTitle GridTitleDown");  // a new column keeps the direction last used
+    EXPECT_EQ(clicked(3), "3 up GridTitle GridTitleUp");
 }
 
 TEST_F(GridWindowTest, AClickOpensARowOnlyWhenPressAndReleaseMeetOnIt) {

@@ -105,7 +105,7 @@ public:
         window.state.CurrentMode = mode;
         const Int16 sortColumns[] = {7, 6, 5, 3, 5};
         window.state.SortColumn = sortColumns[int(mode) - 1];
-        window.state.SortDirection = 1;
+        window.state.SortDirection = SortDirection::Ascending;
     }
     void filters(const std::string& list, const std::string& range) {
         window.c("ComboList").text = list;

@@ -45,22 +45,21 @@ std::string rowOf(int i, const Columns&... columns) {
 // when strictly out of order, pass after pass until a pass swaps nothing. It orders the
 // row numbers of `original` by `compare(column, direction, a, b)`, which compares rows a
 // and b of `original`; `sort` must then show the rows in that order, each whole
-// (`row(rows, i)`). Column 0, the column after `lastColumn` and a direction other than 1
-// and 2 leave the order as it is.
+// (`row(rows, i)`). Column 0 and the column after `lastColumn` leave the order as it is.
 template <class Rows>
-void checkAgainstExchangeSort(const Rows& original, int lastColumn, const std::function<void(Rows&, int, int)>& sort,
-                              const std::function<int(int, int, int, int)>& compare,
+void checkAgainstExchangeSort(const Rows& original, int lastColumn, const std::function<void(Rows&, int, SortDirection)>& sort,
+                              const std::function<int(int, SortDirection, int, int)>& compare,
                               const std::function<std::string(const Rows&, int)>& row) {
     for (int column = 0; column <= lastColumn + 1; ++column) {
-        for (int direction : {0, 1, 2, 3}) {
+        for (SortDirection direction : {SortDirection::Ascending, SortDirection::Descending}) {
             std::vector<int> slow(kRows);
             std::iota(slow.begin(), slow.end(), 1);
-            const bool sorts = column >= 1 && column <= lastColumn && (direction == 1 || direction == 2);
+            const bool sorts = column >= 1 && column <= lastColumn;
             for (bool changed = sorts; changed;) {
                 changed = false;
                 for (std::size_t i = 0; i + 1 < slow.size(); ++i) {
                     const int c = compare(column, direction, slow[i], slow[i + 1]);
-                    if ((direction == 1 && c > 0) || (direction == 2 && c < 0)) {
+                    if (direction == SortDirection::Ascending ? c > 0 : c < 0) {
                         std::swap(slow[i], slow[i + 1]);
                         changed = true;
                     }
@@ -73,7 +72,7 @@ void checkAgainstExchangeSort(const Rows& original, int lastColumn, const std::f
                 shown.push_back(row(fast, i));
                 expected.push_back(row(original, slow[std::size_t(i - 1)]));
             }
-            EXPECT_EQ(shown, expected) << "column " << column << " direction " << direction;
+            EXPECT_EQ(shown, expected) << "column " << column << " direction " << int(direction);
         }
     }
 }
@@ -117,7 +116,9 @@ RecordStore randomStore(Random& random) {
 }
 
 // "None" is "z" ascending and "a" descending.
-std::string orNone(const std::string& v, int direction) { return v != "None" ? v : direction == 1 ? "z" : "a"; }
+std::string orNone(const std::string& v, SortDirection direction) {
+    return v != "None" ? v : direction == SortDirection::Ascending ? "z" : "a";
+}
 
 // The assignment columns shared by the homework and the study session lists.
 int assignmentRule(const RecordStore& s, int column, int a, int b) {
@@ -141,8 +142,8 @@ TEST(ListSortEquivalence, HomeworkOrderEqualsTheExchangeSort) {
         r.ListBackColors.append(numbered("White", i));
     }
     checkAgainstExchangeSort<HomeworkRows>(
-        r, 8, [&](HomeworkRows& rows, int c, int d) { SortHomeworkList(rows, s, c, d, locale); },
-        [&](int column, int, int i, int j) {
+        r, 8, [&](HomeworkRows& rows, int c, SortDirection d) { SortHomeworkList(rows, s, c, d, locale); },
+        [&](int column, SortDirection, int i, int j) {
             const int a = r.ListAssignmentRows(i), b = r.ListAssignmentRows(j);
             switch (column) {
                 case 1: return textRule(r.ListClassNames(i), r.ListClassNames(j));
@@ -174,12 +175,12 @@ TEST(ListSortEquivalence, StudySessionOrderEqualsTheExchangeSort) {
     }
     checkAgainstExchangeSort<StudySessionRows>(
         r, 7,
-        [&](StudySessionRows& rows, int c, int d) {
+        [&](StudySessionRows& rows, int c, SortDirection d) {
             SortStudySessionList(rows, s, c, d, locale);
             // The session rows only count the rows; they keep the gathering order.
             EXPECT_EQ(rows.ListSessionRows, r.ListSessionRows);
         },
-        [&](int column, int, int i, int j) {
+        [&](int column, SortDirection, int i, int j) {
             switch (column) {
                 case 1: return textRule(r.ListClassNames(i), r.ListClassNames(j));
                 case 5: return sign(minutesOf(s.StudySessionLengths(r.ListSessionLengthRows(i))) -
@@ -205,11 +206,11 @@ TEST(ListSortEquivalence, TaskOrderEqualsTheExchangeSortWithItsSubstitutes) {
         r.ListTaskBackColors.append(numbered("B", i));
     }
     checkAgainstExchangeSort<TaskRows>(
-        r, 5, [&](TaskRows& rows, int c, int d) { SortTaskList(rows, s, c, d, locale); },
-        [&](int column, int direction, int i, int j) {
+        r, 5, [&](TaskRows& rows, int c, SortDirection d) { SortTaskList(rows, s, c, d, locale); },
+        [&](int column, SortDirection direction, int i, int j) {
             const int a = r.ListTaskRows(i), b = r.ListTaskRows(j);
             auto day = [&](int t) -> long long {
-                return s.TaskDateExists(t) == "True" ? daysOf(s.TaskDates(t)) : direction == 1 ? 438657 : -109571;
+                return s.TaskDateExists(t) == "True" ? daysOf(s.TaskDates(t)) : direction == SortDirection::Ascending ? 438657 : -109571;
             };
             switch (column) {
                 case 1: return textRule(s.TaskDescriptions(a), s.TaskDescriptions(b));
@@ -236,13 +237,13 @@ TEST(ListSortEquivalence, EventOrderEqualsTheExchangeSortWithItsSubstitutes) {
         r.ListEventBackColors.append(numbered("B", i));
     }
     checkAgainstExchangeSort<EventRows>(
-        r, 5, [&](EventRows& rows, int c, int d) { SortEventList(rows, s, c, d, locale); },
-        [&](int column, int direction, int i, int j) {
+        r, 5, [&](EventRows& rows, int c, SortDirection d) { SortEventList(rows, s, c, d, locale); },
+        [&](int column, SortDirection direction, int i, int j) {
             const int a = r.ListEventRows(i), b = r.ListEventRows(j);
             // Minutes of the time as an "h:mm am" text, or the substitute.
             auto minutes = [&](const std::string& t) -> long long {
                 if (t.size() < 7 || t[t.size() - 3] != ' ' || t.find(':') == std::string::npos)
-                    return direction == 1 ? 1439 : 0;
+                    return direction == SortDirection::Ascending ? 1439 : 0;
                 const bool pm = t[t.size() - 2] == 'p' || t[t.size() - 2] == 'P';
                 return (LeadingNumber(t.substr(0, t.find(':'))) % 12 + (pm ? 12 : 0)) * 60 +
                        LeadingNumber(t.substr(t.find(':') + 1, 2));
@@ -278,10 +279,10 @@ TEST(ListSortEquivalence, ReminderOrderEqualsTheExchangeSortWithItsSubstitutes) 
         r.ReminderBackColors.append(numbered("B", i));
     }
     checkAgainstExchangeSort<ReminderRows>(
-        r, 6, [&](ReminderRows& rows, int c, int d) { SortReminderList(rows, c, d, locale); },
-        [&](int column, int direction, int i, int j) {
+        r, 6, [&](ReminderRows& rows, int c, SortDirection d) { SortReminderList(rows, c, d, locale); },
+        [&](int column, SortDirection direction, int i, int j) {
             auto cls = [&](const std::string& v) {
-                return !v.empty() ? v : std::string(10, direction == 1 ? 'z' : ' ');
+                return !v.empty() ? v : std::string(10, direction == SortDirection::Ascending ? 'z' : ' ');
             };
             switch (column) {
                 case 1: return textRule(r.ReminderKinds(i), r.ReminderKinds(j));
@@ -324,16 +325,16 @@ TEST(ListSortEquivalence, KeptTextRanksGiveTheOrderOfAFreshComparison) {
         SortKeys keys;
         keys.rule = random.number(0, 3) == 0 ? SortRule::BinaryText : SortRule::Text;
         for (const std::string& text : texts) keys.texts.push_back(&text);
-        const int direction = random.number(1, 2);
+        const SortDirection direction = random.number(1, 2) == 1 ? SortDirection::Ascending : SortDirection::Descending;
         EXPECT_EQ(SortedOrder(keys, direction, counting, &ranks), SortedOrder(keys, direction, locale)) << round;
     }
     // A second sort of the same texts makes no key.
     SortKeys keys;
     keys.rule = SortRule::Text;
     for (const std::string& text : kTexts) keys.texts.push_back(&text);
-    SortedOrder(keys, 1, counting, &ranks);
+    SortedOrder(keys, SortDirection::Ascending, counting, &ranks);
     const int before = counting.keysMade;
-    SortedOrder(keys, 2, counting, &ranks);
+    SortedOrder(keys, SortDirection::Descending, counting, &ranks);
     EXPECT_EQ(counting.keysMade, before);
 }
 

@@ -83,7 +83,7 @@ TEST(Modes, FilterChoicesAreRememberedPerModeButTheSortIsNot) {
     window.select("ComboList", "Done");
     window.select("ComboDateRange", "Day");
     window.state.SortColumn = 3;
-    window.state.SortDirection = -1;
+    window.state.SortDirection = SortDirection::Descending;
     window.click("MenuTasks");
     EXPECT_EQ(window.c("ComboList").text, "All");
     EXPECT_EQ(window.c("ComboDateRange").text, "All");
@@ -92,7 +92,7 @@ TEST(Modes, FilterChoicesAreRememberedPerModeButTheSortIsNot) {
     EXPECT_EQ(window.c("ComboList").text, "Done");
     EXPECT_EQ(window.c("ComboDateRange").text, "Day");
     EXPECT_EQ(window.state.SortColumn, 7);
-    EXPECT_EQ(window.state.SortDirection, 1);
+    EXPECT_EQ(window.state.SortDirection, SortDirection::Ascending);
     window.click("MenuTasks");
     EXPECT_EQ(window.c("ComboDateRange").text, "Without Date");
 
