@@ -17,6 +17,7 @@
 #include <random>
 #include <string>
 
+#include "common/flag_text.h"
 #include "list_view/list_fixture.h"
 #include "list_view/list_rows.h"
 #include "record_store/color_vocabulary.h"
@@ -57,7 +58,7 @@ void fill(RecordStore& s) {
             first = dateIn(2026, 2027);
             f.repeatDaily = "FFFFFFF";
             for (int d = uniform(1, 2); d > 0; --d) f.repeatDaily[std::size_t(uniform(0, 4))] = 'T';
-            f.ends = "True";
+            f.ends = flagText(true);
             f.endDate = dateText(first + uniform(14, 84));
         } else {  // monthly, on the same date, open-ended
             f.recurrence = "Month";

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 
+#include "common/flag_text.h"
 #include "interchange/ical_export_items.h"
 #include "platform/ical/ical_codec.h"
 #include "sample_drive_on_disk.h"
@@ -85,11 +86,11 @@ std::string schoolCalendar() {
         store.EventTypes.append(i % 2 ? "School" : "Class");
         store.EventTimes.append(i % 4 ? "10:30 am" : "None");
         store.EventRecurrences.append(i % 3 == 0 ? "Day" : i % 3 == 1 ? "Month" : "None");
-        store.EventSameDates.append("True");
+        store.EventSameDates.append(flagText(true));
         store.EventRepeatNumbers.append("First");
         store.EventRepeatDays.append("Day");
         store.EventRepeatDailies.append("TFTFTFF");
-        store.EventEnds.append(i % 3 == 0 ? "True" : "False");
+        store.EventEnds.append(flagText(i % 3 == 0));
         store.EventEndDates.append("2026/12/18");
         store.EventNotes.append("Room " + n);
         store.EventReminders.append("1 Day");

@@ -11,6 +11,7 @@
 #include <random>
 #include <string>
 
+#include "common/flag_text.h"
 #include "list_view/list_fixture.h"
 #include "recurrence/event_records.h"
 #include "recurrence/expansion.h"
@@ -52,7 +53,7 @@ RecordStore& plannerStore() {
                 first = dateIn(2000, 2045);
                 f.repeatDaily = "FFFFFFF";
                 for (int d = uniform(1, 3); d > 0; --d) f.repeatDaily[std::size_t(uniform(0, 4))] = 'T';
-                f.ends = "True";
+                f.ends = flagText(true);
                 f.endDate = dateText(first + uniform(14, 120));
             } else {  // monthly: same date or an ordinal weekday, six months or open-ended
                 f.recurrence = "Month";
@@ -60,12 +61,12 @@ RecordStore& plannerStore() {
                 if (uniform(0, 1)) {
                     const Ymd ymd = ymdOf(first);
                     first = dateFromYmd(ymd.year, ymd.month, uniform(1, 21));
-                    f.sameDate = "False";
+                    f.sameDate = flagText(false);
                     f.repeatNumber = kOrdinals[(ymdOf(first).day - 1) / 7];
                     f.repeatDay = kWeekdayNames[weekdayOf(first) - 1];
                 }
                 if (uniform(0, 3) != 0) {
-                    f.ends = "True";
+                    f.ends = flagText(true);
                     f.endDate = dateText(addMonths(first, 6));
                 }
             }

@@ -1,5 +1,7 @@
 #include "calendar_days/day_marks.h"
 
+#include "common/flag_text.h"
+
 namespace qh {
 namespace {
 
@@ -19,8 +21,8 @@ std::string doneFilterTint(const std::string& listChoice, const MainWindowColors
 
 bool passesDoneFilter(const std::string& listChoice, const std::string& done) {
     if (listChoice == "All") return true;
-    if (listChoice == "Done") return done == "True";
-    if (listChoice == "Not Done") return done == "False";
+    if (listChoice == "Done") return isTrueFlag(done);
+    if (listChoice == "Not Done") return isFalseFlag(done);
     return false;
 }
 
@@ -57,7 +59,7 @@ DayMarks MarkTaskDays(const RecordStore& store, Date firstCell, const std::strin
     DayMarks marks;
     marks.markedBack = doneFilterTint(listChoice, colors);
     for (int n = 1; n <= store.TaskRecordNos.count(); ++n) {
-        if (store.TaskDateExists.valueOr(n, {}) != "True") continue;
+        if (!isTrueFlag(store.TaskDateExists.valueOr(n, {}))) continue;
         if (store.TaskDescriptions.valueOr(n, {}) == kDeletedRecord) continue;
         const auto date = fieldDate(store.TaskDates.valueOr(n, {}));
         if (!date) continue;

@@ -11,8 +11,6 @@ std::string trimRight(std::string_view text);
 std::string trim(std::string_view text);
 // The last n characters of text (all of it when shorter).
 std::string rightChars(std::string_view text, std::size_t n);
-// "True" or "False": a flag as the record files and shared files write it.
-inline const char* trueFalse(bool value) { return value ? "True" : "False"; }
 // Two digits: the last two characters of "0" followed by the number, as the planner
 // shows hours and minutes; 123 gives "23", 7 gives "07".
 std::string twoDigits(long long number);

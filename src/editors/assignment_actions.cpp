@@ -3,7 +3,7 @@
 // the note, the study sessions, then the assignment itself.
 #include <array>
 
-#include "common/text.h"
+#include "common/flag_text.h"
 #include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
@@ -67,7 +67,7 @@ AssignmentBuffer recordOf(const FrmAssignment& w, const std::string& recordNo, c
     record.Difficulty = w.ComboDifficulty->text;
     record.EstTime = w.ComboEstTime->text;
     record.Description = w.TextBoxDescription->text;
-    record.Done = trueFalse(w.CheckBoxDone->checked);
+    record.Done = flagText(w.CheckBoxDone->checked);
     record.Grade = w.ComboGrade->text;
     record.Weight = w.ComboWeight->text;
     record.Reminder = w.ComboRemindMe->text;

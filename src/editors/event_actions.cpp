@@ -1,6 +1,7 @@
 // The event procedures: frmEvent shown for a new event or a row of the event columns,
 // then the row and its one record written, and the refresh. An edit
 // from any occurrence of a recurring event arrives here with the one row of its record.
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "editors/feed_origin.h"
 #include "editors/editor_host.h"
@@ -25,11 +26,11 @@ EventBuffer recordOf(const FrmEvent& form, const std::string& recordNo, const st
     record.Type = trimRight(form.ComboType->text);
     record.Time = trimRight(form.ComboTime->text);
     record.Recurrence = recurrenceText(form.recurrence);
-    record.SameDate = trueFalse(monthly ? form.RadioMonthlyThisDate->checked : form.RadioYearlyThisDate->checked);
+    record.SameDate = flagText(monthly ? form.RadioMonthlyThisDate->checked : form.RadioYearlyThisDate->checked);
     record.RepeatNumber = trimRight((monthly ? form.ComboMonthlyNumber : form.ComboYearlyNumber)->text);
     record.RepeatDay = trimRight((monthly ? form.ComboMonthlyDay : form.ComboYearlyDay)->text);
     record.RepeatDaily = form.weekdayLetters();
-    record.End = trueFalse(form.RadioEndOn->checked);
+    record.End = flagText(form.RadioEndOn->checked);
     record.EndDate = dateText(form.StoreEndDate);
     record.Notes = trimRight(form.TextBoxNotes->text);
     record.Reminder = trimRight(form.ComboRemindMe->text);

@@ -1,10 +1,11 @@
 #include "editors/frm_assignment.h"
 
+#include "common/flag_text.h"
 #include "common/text.h"
-#include "editors/feed_origin.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
+#include "editors/feed_origin.h"
 #include "editors/shared_file_transfer.h"
 #include "editors/study_session_math.h"
 #include "record_store/color_vocabulary.h"
@@ -237,7 +238,7 @@ void FrmAssignment::showEdit() {
         ListBoxStudySessions->addItem(StudySessionLine(tempStudySessionLengthArray(row),
                                                        tempStudySessionDateArray(row), platform_.locale));
     ButtonSessionDelete->enabled = false;
-    showDone(tempAssignment.Done == "True");
+    showDone(isTrueFlag(tempAssignment.Done));
     RecalculateSessions();
     TextBoxDescription->text = tempAssignment.Description;
     TextBoxNotes->text = tempAssignmentNotes;

@@ -1,9 +1,10 @@
 #include "editors/frm_event.h"
 
-#include "editors/feed_origin.h"
+#include "common/flag_text.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
+#include "editors/feed_origin.h"
 #include "editors/recurrence_panel_defaults.h"
 #include "editors/shared_file_transfer.h"
 #include "record_store/clock_text.h"
@@ -158,7 +159,7 @@ void FrmEvent::fillForEdit() {
     showRecurrence(recurrenceOf(tempEvent.Recurrence));
     if (recurrence == Recurrence::Month || recurrence == Recurrence::Year) {
         const bool monthly = recurrence == Recurrence::Month;
-        if (tempEvent.SameDate != "True") setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
+        if (!isTrueFlag(tempEvent.SameDate)) setQuietly(monthly ? RadioMonthlyUser.key() : RadioYearlyUser.key(), true);
         ShowEntry(monthly ? *ComboMonthlyNumber : *ComboYearlyNumber, tempEvent.RepeatNumber);
         ShowEntry(monthly ? *ComboMonthlyDay : *ComboYearlyDay, tempEvent.RepeatDay);
         if (!monthly) LabelRepeatMonth->caption = "of Every " + platform_.locale.monthName(monthOf(StoreEventDate));
@@ -170,7 +171,7 @@ void FrmEvent::fillForEdit() {
     // its repetition would propose; switching the end on takes the proposal.
     const std::optional<Date> end = parseDateText(tempEvent.EndDate);
     StoreEndDate = end.value_or(StoreEventDate);
-    const bool endOn = tempEvent.End == "True";
+    const bool endOn = isTrueFlag(tempEvent.End);
     showEndDate(endOn ? StoreEndDate : ProposedEndDate(recurrence, StoreEventDate));
     showEndLine(endOn);
     ResetDays = false;

@@ -1,9 +1,10 @@
 #include "editors/frm_task.h"
 
-#include "editors/feed_origin.h"
+#include "common/flag_text.h"
 #include "editors/editor_checks.h"
 #include "editors/editor_controls.h"
 #include "editors/editor_host.h"
+#include "editors/feed_origin.h"
 #include "editors/shared_file_transfer.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/columns.h"
@@ -143,12 +144,12 @@ void FrmTask::showRecord() {
         caption = "Quillhollow - Edit Task";
         TextBoxDescription->text = tempTask.Description;
         TextBoxNotes->text = tempTask.Notes;
-        setChecked(CheckBoxDone.key(), tempTask.Done == "True");
+        setChecked(CheckBoxDone.key(), isTrueFlag(tempTask.Done));
         ButtonDelete->visible = true;
         ShowEntry(*ComboPriority, tempTask.Priority);
         ShowEntry(*ComboType, tempTask.Type);
         ShowListedEntry(*ComboRemindMe, tempTask.Reminder, 0);
-        setChecked(CheckBoxDeadline.key(), tempTask.DateExists == "True");
+        setChecked(CheckBoxDeadline.key(), isTrueFlag(tempTask.DateExists));
     }
     TextboxTaskDate->text = platform_.locale.longDate(tempTaskDate);
     showDeadline(CheckBoxDeadline->checked);

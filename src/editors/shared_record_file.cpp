@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/failure.h"
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "editors/recurrence_panel_defaults.h"
 #include "platform/locale.h"
@@ -114,7 +115,7 @@ public:
         line_.replace(std::size_t(field.start - 1), bytes.size(), bytes);
     }
     void putDate(Field field, Date date) { put(field, dateText(date)); }
-    void putFlag(Field field, bool value) { put(field, trueFalse(value)); }
+    void putFlag(Field field, bool value) { put(field, flagText(value)); }
     template <class Record, std::size_t N>
     void putTexts(const TextField<Record> (&fields)[N], const Record& record) {
         for (const TextField<Record>& f : fields) put(f.field, record.*f.member);
@@ -145,7 +146,7 @@ public:
     // The field's bytes with trailing blanks stripped, as UTF-8.
     std::string text(Field field) const { return fromCodePage(trimRight(raw(field))); }
     std::optional<Date> date(Field field) const { return parseDateText(trimRight(raw(field))); }
-    bool isTrue(Field field) const { return trimRight(raw(field)) == "True"; }
+    bool isTrue(Field field) const { return isTrueFlag(trimRight(raw(field))); }
     template <class Record, std::size_t N>
     void readTexts(const TextField<Record> (&fields)[N], Record& record) const {
         for (const TextField<Record>& f : fields) record.*f.member = text(f.field);

@@ -1,5 +1,6 @@
 // The task procedures: FrmTask shown for a new task or a row of the task columns, then
 // the row and its one record written, and the refresh.
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "editors/feed_origin.h"
 #include "editors/editor_host.h"
@@ -21,10 +22,10 @@ TaskBuffer recordOf(const FrmTask& form, Date today, const std::string& recordNo
     record.ID = id;
     record.Date = dateText(deadline ? form.tempTaskDate : today);
     record.Description = trimRight(form.TextBoxDescription->text);
-    record.DateExists = trueFalse(deadline);
+    record.DateExists = flagText(deadline);
     record.Type = trimRight(form.ComboType->text);
     record.Priority = trimRight(form.ComboPriority->text);
-    record.Done = trueFalse(form.CheckBoxDone->checked);
+    record.Done = flagText(form.CheckBoxDone->checked);
     record.Notes = trimRight(form.TextBoxNotes->text);
     record.Reminder = trimRight(form.ComboRemindMe->text);
     return record;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "export/page_text.h"
 #include "list_view/list_rows.h"
@@ -107,7 +108,7 @@ void fillHomeworkDays(CalendarFill& fill, const RecordStore& s, const CalendarFr
         for (const bool done : {false, true}) {
             for (int i = 1; i <= assignments; ++i) {
                 if (due[std::size_t(i)] != day || s.AssignmentDescriptions(i) == kDeletedRecord) continue;
-                if ((s.AssignmentDones.valueOr(i, kNone) == kTrueText) != done) continue;
+                if (isTrueFlag(s.AssignmentDones.valueOr(i, kNone)) != done) continue;
                 if (done) {
                     lines.add("&nbsp;<font color=\"Silver\">0:00</font>&nbsp;" + linkOf(i, " (Done)"));
                     continue;
@@ -132,7 +133,7 @@ void fillTaskDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame&
     const int tasks = s.TaskRecordNos.count();
     std::vector<std::optional<Date>> dated(std::size_t(tasks) + 1);
     for (int i = 1; i <= tasks; ++i)
-        if (s.TaskDateExists.valueOr(i, kNone) == kTrueText && s.TaskDescriptions.valueOr(i, kNone) != kDeletedRecord)
+        if (isTrueFlag(s.TaskDateExists.valueOr(i, kNone)) && s.TaskDescriptions.valueOr(i, kNone) != kDeletedRecord)
             dated[std::size_t(i)] = dateOf(s.TaskDates.valueOr(i, kNone));
     for (int c = 0; c < 42; ++c) {
         const Date day = frame.dates[std::size_t(c)];
@@ -141,7 +142,7 @@ void fillTaskDays(CalendarFill& fill, const RecordStore& s, const CalendarFrame&
         bool open = false;
         for (const bool done : {false, true}) {
             for (int i = 1; i <= tasks; ++i) {
-                if (dated[std::size_t(i)] != day || (s.TaskDones.valueOr(i, kNone) == kTrueText) != done) continue;
+                if (dated[std::size_t(i)] != day || isTrueFlag(s.TaskDones.valueOr(i, kNone)) != done) continue;
                 open = open || !done;
                 const std::string& priority = s.TaskPriorities.valueOr(i, kNone);
                 const std::string& description = s.TaskDescriptions(i);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "export/page_text.h"
 #include "list_view/list_rows.h"
@@ -63,7 +64,7 @@ std::string withoutBlanks(const std::string& text) {
     return out;
 }
 
-const char* doneWord(const std::string& flag) { return flag == kTrueText ? "Yes" : ""; }
+const char* doneWord(const std::string& flag) { return isTrueFlag(flag) ? "Yes" : ""; }
 
 std::string unlessNone(const std::string& text) { return text == "None" ? std::string() : text; }
 
@@ -129,7 +130,7 @@ ListCells ListExportCells(Mode mode, const RecordStore& s, const MainWindowState
         case Mode::Tasks:
             rows.reserve(std::size_t(v.ListTaskRows.count()));
             for (const int r : v.ListTaskRows) {
-                const bool dated = s.TaskDateExists.valueOr(r, kNone) == kTrueText;
+                const bool dated = isTrueFlag(s.TaskDateExists.valueOr(r, kNone));
                 rows.push_back({s.TaskDescriptions.valueOr(r, kNone), trim(s.TaskTypes.valueOr(r, kNone)),
                                 trim(s.TaskPriorities.valueOr(r, kNone)),
                                 dated ? mediumDateOf(locale, s.TaskDates.valueOr(r, kNone)) : std::string(" "),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/flag_text.h"
 #include "list_view/list_rows.h"
 #include "list_view/record_index.h"
 
@@ -13,7 +14,7 @@ std::vector<StudyLoad> GatherStudyLoad(const RecordStore& store) {
     const std::string none;
     for (int i = 1; i <= store.AssignmentRecordNos.count(); ++i) {
         if (store.AssignmentDescriptions.valueOr(i, none) == kDeletedRecord) continue;
-        if (store.AssignmentDones.valueOr(i, none) == kTrueText) continue;
+        if (isTrueFlag(store.AssignmentDones.valueOr(i, none))) continue;
         const auto due = parseDateText(store.AssignmentDates.valueOr(i, none));
         if (!due) continue;
         const Span spent = studied.of(IdNumber(store.AssignmentIDs.valueOr(i, none)));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/flag_text.h"
 #include "recurrence/occurrence.h"
 
 namespace qh {
@@ -191,7 +192,7 @@ std::vector<PlannerRule> candidatesFor(const CalendarRule& rule, Date first) {
     base.first = first;
     base.endDate = first;
     if (rule.until) {
-        base.end = "True";
+        base.end = flagText(true);
         base.endDate = *rule.until;
     }
     std::vector<PlannerRule> out;
@@ -212,7 +213,7 @@ std::vector<PlannerRule> candidatesFor(const CalendarRule& rule, Date first) {
     for (const char* number : {"First", "Second", "Third", "Fourth", "Last"})
         for (const char* day : {"Day", kWeekdayNames[weekdayOf(first) - 1]}) {
             PlannerRule ordinal = base;
-            ordinal.sameDate = "False";
+            ordinal.sameDate = flagText(false);
             ordinal.repeatNumber = number;
             ordinal.repeatDay = day;
             out.push_back(ordinal);

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "common/flag_text.h"
 #include "platform/calendar_items.h"
 #include "recurrence/event_rule.h"
 
@@ -34,8 +35,8 @@ bool RulePatternHolds(const CalendarRule& rule, Date date);
 // The texts of an event record's rule, as the event editor writes them.
 struct PlannerRule {
     Date first = 0;
-    std::string recurrence = "None", sameDate = "True", repeatNumber = "First", repeatDay = "Day",
-                repeatDaily = "FFFFFFF", end = "False";
+    std::string recurrence = "None", sameDate = flagText(true), repeatNumber = "First", repeatDay = "Day",
+                repeatDaily = "FFFFFFF", end = flagText(false);
     Date endDate = 0;
 };
 

@@ -2,9 +2,10 @@
 
 #include <set>
 
+#include "common/flag_text.h"
 #include "common/int16.h"
-#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
@@ -30,7 +31,7 @@ public:
     void task(int row) {
         TaskBuffer r{s_.TaskRecordNos(row), s_.TaskIDs(row),         s_.TaskDates(row),
                      kDeletedRecord,        s_.TaskDateExists(row),  s_.TaskTypes(row),
-                     s_.TaskPriorities(row), "True",                 s_.TaskNotes(row),
+                     s_.TaskPriorities(row), flagText(true),         s_.TaskNotes(row),
                      s_.TaskReminders(row)};
         s_.TaskRecord = r;
         kTaskTable.storeRow(s_, row, r);
@@ -58,7 +59,7 @@ public:
         r.Difficulty = s_.AssignmentDifficulties(row);
         r.EstTime = s_.AssignmentEstTimes(row);
         r.Description = kDeletedRecord;
-        r.Done = "False";
+        r.Done = flagText(false);
         r.Grade = s_.AssignmentGrades(row);
         r.Weight = s_.AssignmentWeights(row);
         r.Reminder = s_.AssignmentReminders(row);
@@ -135,7 +136,7 @@ FeedSyncResult ApplyFeed(RecordStore& store, RecordFiles& files, const ImportPla
                 // refresh while its term is the active one.
                 if (row == 0) continue;
                 if (store.AssignmentDescriptions(row) == kDeletedRecord) break;
-                const bool worked = store.AssignmentDones(row) == "True" || !store.AssignmentGrades(row).empty() ||
+                const bool worked = isTrueFlag(store.AssignmentDones(row)) || !store.AssignmentGrades(row).empty() ||
                                     hasStudySessions(store, store.AssignmentIDs(row));
                 if (worked) {
                     ++result.kept;

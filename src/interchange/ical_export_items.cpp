@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 
+#include "common/flag_text.h"
 #include "common/int16.h"
 #include "interchange/event_repetition.h"
 #include "record_store/clock_text.h"
@@ -63,7 +64,7 @@ void addTasks(const RecordStore& store, CalendarLinks& links, const std::functio
         if (store.TaskDescriptions(i) == kDeletedRecord) continue;
         // A task without a date is a to-do without a due day; one whose date cannot be
         // read is left out rather than given a day it does not have.
-        const bool dated = store.TaskDateExists(i) == "True";
+        const bool dated = isTrueFlag(store.TaskDateExists(i));
         const std::optional<Date> due = dated ? parseDateText(store.TaskDates(i)) : std::nullopt;
         if (dated && !due) continue;
         CalendarItem item;
@@ -74,7 +75,7 @@ void addTasks(const RecordStore& store, CalendarLinks& links, const std::functio
         item.categories = categoriesOf({store.TaskTypes(i)});
         item.color = colorOf(TaskTypeBackColor(store.TaskTypes(i)));
         item.start = due.value_or(0);
-        item.done = store.TaskDones(i) == "True";
+        item.done = isTrueFlag(store.TaskDones(i));
         item.priority = CalendarPriorityOf(store.TaskPriorities(i));
         if (due) item.alarmDaysBefore = alarmOf(store.TaskReminders(i));
         out.items.push_back(std::move(item));
@@ -103,7 +104,7 @@ void addAssignments(const RecordStore& store, bool asEvents, CalendarLinks& link
         item.categories = categoriesOf({className, store.AssignmentTypes(i)});
         item.color = classColor == "White" ? std::string() : classColor;
         item.start = *due;
-        item.done = store.AssignmentDones(i) == "True";
+        item.done = isTrueFlag(store.AssignmentDones(i));
         item.alarmDaysBefore = alarmOf(store.AssignmentReminders(i));
         out.items.push_back(std::move(item));
         ++out.assignments;

@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "common/flag_text.h"
 #include "common/int16.h"
 #include "common/text.h"
 #include "interchange/event_repetition.h"
 #include "record_store/clock_text.h"
-#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
 #include "record_store/record_layout.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {
@@ -123,11 +124,11 @@ EventBuffer eventRecordOf(const CalendarItem& item, bool firstOnly, std::vector<
 TaskBuffer taskRecordOf(const CalendarItem& item, Date today, std::vector<std::string>* changes) {
     TaskBuffer record;
     record.Description = fitted(kTaskTable.width("Description"), summaryOf(item), "name", changes);
-    record.DateExists = trueFalse(item.start != 0);
+    record.DateExists = flagText(item.start != 0);
     record.Date = dateText(item.start != 0 ? item.start : today);
     record.Type = typeOf(item, kTaskTypes, "None");
     record.Priority = priorityOf(item.priority);
-    record.Done = trueFalse(item.done);
+    record.Done = flagText(item.done);
     record.Notes = fitted(kTaskTable.width("Notes"), boxText(item.description), "notes", changes);
     record.Reminder = item.start != 0 ? reminderOf(item, true, changes) : "None";
     return record;
@@ -142,7 +143,7 @@ AssignmentBuffer assignmentRecordOf(const CalendarItem& item, const std::string&
     record.Difficulty = "Average";
     record.EstTime = "00 : 30";
     record.Description = fitted(kAssignmentTable.width("Description"), summaryOf(item), "name", changes);
-    record.Done = trueFalse(item.done);
+    record.Done = flagText(item.done);
     record.Grade = "";
     record.Weight = "5";
     record.Reminder = reminderOf(item, false, changes);
@@ -178,7 +179,7 @@ public:
     std::int32_t task(const CalendarItem& item, Date today, int row) {
         TaskBuffer record = taskRecordOf(item, today, nullptr);
         // The student's own tick stays.
-        if (row != 0 && store_.TaskDones(row) == "True") record.Done = "True";
+        if (row != 0 && isTrueFlag(store_.TaskDones(row))) record.Done = flagText(true);
         return put(record, row, store_.NextTaskRecord, &RecordStore::TaskRecord, kTaskTable, store_.TaskRecordNos,
                    store_.TaskIDs, &RecordFiles::SaveTask);
     }

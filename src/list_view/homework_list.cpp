@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "common/flag_text.h"
 #include "list_view/grid.h"
 #include "list_view/list_host.h"
 #include "list_view/list_rows.h"
@@ -67,7 +68,7 @@ HomeworkRows GatherHomework(const RecordStore& store, Date date, std::string_vie
         if (!inRange || store.AssignmentDescriptions.valueOr(i, kNoText) == kDeletedRecord) continue;
         rows.ListAssignmentRows.append(i);
         rows.HomeworkTotal = toInt16(rows.HomeworkTotal + 1);
-        if (store.AssignmentDones.valueOr(i, kNoText) == kTrueText) {
+        if (isTrueFlag(store.AssignmentDones.valueOr(i, kNoText))) {
             if (listChoice == "Not Done") {
                 rows.ListAssignmentRows.removeAt(rows.ListAssignmentRows.count());
                 continue;
@@ -138,7 +139,7 @@ void BuildHomeworkList(const ListHost& window) {
             {CellKind::Trimmed, store.AssignmentDifficulties.valueOr(r, kNoText)},
             {CellKind::Trimmed, state.ListTimes.valueOr(p, kNoText)},
             {CellKind::Plain, MediumDateOf(window, store.AssignmentDates.valueOr(r, kNoText))},
-            {CellKind::Check, "", store.AssignmentDones.valueOr(r, kNoText) == kTrueText},
+            {CellKind::Check, "", isTrueFlag(store.AssignmentDones.valueOr(r, kNoText))},
             {CellKind::Trimmed, store.AssignmentGrades.valueOr(r, kNoText)},
         };
         return row;

@@ -34,9 +34,6 @@ struct ListHost;
 // date of that day can't be told from it.
 inline constexpr Date kAllDatesSentinel = 19583;
 
-// A flag of the record store as text.
-inline constexpr const char* kTrueText = "True";
-
 // Backgrounds of the summary boxes: pink while work is open, green when all is done.
 inline constexpr Color kOpenWorkPink = 0xE5E5FF;
 inline constexpr Color kAllDoneGreen = 0xE2F7E1;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "common/aggregate_members.h"
+#include "common/flag_text.h"
 #include "list_view/time_text.h"
 #include "platform/locale.h"
 
@@ -310,7 +311,7 @@ void SortTaskList(TaskRows& rows, const RecordStore& store, int column, SortDire
                         [&](int i) -> const std::string& { return noneReplaced(field(c, r(i)), direction); });
     };
     const auto day = [&](int i) -> long long {
-        const bool dated = field(store.TaskDateExists, r(i)) == kTrueText;
+        const bool dated = isTrueFlag(field(store.TaskDateExists, r(i)));
         const auto date = dated ? parseDateText(field(store.TaskDates, r(i))) : std::nullopt;
         return date ? *date : (direction == SortDirection::Ascending ? kUndatedLast : kUndatedFirst);
     };

@@ -1,6 +1,7 @@
 // The task list: to-do records, coloured by their type, filtered by date and by done.
 #include <array>
 
+#include "common/flag_text.h"
 #include "list_view/grid.h"
 #include "list_view/list_host.h"
 #include "list_view/list_rows.h"
@@ -15,7 +16,7 @@ const std::string kNoText;
 constexpr std::array<const char*, 6> kTitles{"#", "Name", "Type", "Priority", "Date", "Done"};
 
 bool inDateRange(const RecordStore& store, int i, Date date, std::string_view dateRange) {
-    const bool dated = store.TaskDateExists.valueOr(i, kNoText) == kTrueText;
+    const bool dated = isTrueFlag(store.TaskDateExists.valueOr(i, kNoText));
     if (dateRange == "Day") {
         const auto day = parseDateText(store.TaskDates.valueOr(i, kNoText));
         return dated && day && *day == date;
@@ -39,7 +40,7 @@ TaskRows GatherTasks(const RecordStore& store, Date date, std::string_view dateR
     for (int i = 1; i <= n; ++i) {
         if (store.TaskDescriptions.valueOr(i, kNoText) == kDeletedRecord) continue;
         if (!inDateRange(store, i, date, dateRange)) continue;
-        const bool done = store.TaskDones.valueOr(i, kNoText) == kTrueText;
+        const bool done = isTrueFlag(store.TaskDones.valueOr(i, kNoText));
         rows.TaskTotal = toInt16(rows.TaskTotal + 1);
         if (done) rows.TaskDone = toInt16(rows.TaskDone + 1);
         const bool kept = listChoice == "All" || (listChoice == "Done" && done) || (listChoice == "Not Done" && !done);
@@ -89,7 +90,7 @@ void BuildTaskList(const ListHost& window) {
 
     PaintList(window, kTitles, [&](int p) {
         const int r = state.ListTaskRows(p);
-        const bool dated = store.TaskDateExists.valueOr(r, kNoText) == kTrueText;
+        const bool dated = isTrueFlag(store.TaskDateExists.valueOr(r, kNoText));
         GridRow row;
         row.fore = RowColor(window, state.ListTaskForeColors.valueOr(p, kNoText), kBlack);
         row.back = RowColor(window, state.ListTaskBackColors.valueOr(p, kNoText), kWhite);
@@ -98,7 +99,7 @@ void BuildTaskList(const ListHost& window) {
             {CellKind::Trimmed, unlessNone(store.TaskTypes.valueOr(r, kNoText))},
             {CellKind::Trimmed, unlessNone(store.TaskPriorities.valueOr(r, kNoText))},
             {CellKind::Plain, dated ? MediumDateOf(window, store.TaskDates.valueOr(r, kNoText)) : std::string()},
-            {CellKind::Check, "", store.TaskDones.valueOr(r, kNoText) == kTrueText},
+            {CellKind::Check, "", isTrueFlag(store.TaskDones.valueOr(r, kNoText))},
         };
         return row;
     });

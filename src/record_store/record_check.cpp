@@ -5,6 +5,7 @@
 #include <span>
 
 #include "common/day_number.h"
+#include "common/flag_text.h"
 #include "common/int16.h"
 #include "common/text.h"
 #include "record_store/color_vocabulary.h"
@@ -143,7 +144,7 @@ bool RecordReadable(const RecordLayout& layout, std::string_view record) {
     if (numbered(layout) && !writtenNumber(fieldOf(record, recordNo))) return false;
     if (fieldOf(record, rules.deletedField) == rules.deletedValue) return true;
     for (const FieldRule& rule : rules.fields) {
-        if (rule.when.width != 0 && fieldOf(record, rule.when) != "True") continue;
+        if (rule.when.width != 0 && !isTrueFlag(fieldOf(record, rule.when))) continue;
         if (!converts(rule.check, fieldOf(record, rule.field))) return false;
     }
     return true;

@@ -1,6 +1,7 @@
 #include "recurrence/event_rule.h"
 
 #include "common/failure.h"
+#include "common/flag_text.h"
 
 namespace qh {
 
@@ -44,8 +45,8 @@ Ordinal ordinalOf(std::string_view text) {
 }
 
 SameDate sameDateOf(std::string_view text) {
-    if (text == "True") return SameDate::True;
-    if (text == "False") return SameDate::False;
+    if (isTrueFlag(text)) return SameDate::True;
+    if (isFalseFlag(text)) return SameDate::False;
     return SameDate::Other;
 }
 
@@ -87,7 +88,7 @@ EventRule ruleOfTexts(Date first, std::string_view type, std::string_view recurr
     rule.repeatDayIsDay = repeatDay == "Day";
     rule.repeatWeekday = weekdayNamed(repeatDay);
     for (std::size_t i = 0; i < 7 && i < dailies.size(); ++i) rule.dailies[i] = dailies[i];
-    rule.ends = ends == "True";
+    rule.ends = isTrueFlag(ends);
     if (rule.ends) rule.readableEnd = parseDateText(endDate);
     return rule;
 }

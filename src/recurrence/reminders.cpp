@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "recurrence/date_primitives.h"
 #include "recurrence/event_rule.h"
@@ -43,8 +44,8 @@ ReminderRows GatherReminders(const RecordStore& store, Date date, std::string_vi
 void GatherTaskReminders(const RecordStore& store, Date date, std::string_view filter, ReminderRows& rows) {
     const int count = store.TaskRecordNos.count();
     for (int i = 1; i <= count; ++i) {
-        if (store.TaskDateExists(i) != "True" || store.TaskDescriptions(i) == kDeletedRecord ||
-            store.TaskDones(i) != "False")
+        if (!isTrueFlag(store.TaskDateExists(i)) || store.TaskDescriptions(i) == kDeletedRecord ||
+            !isFalseFlag(store.TaskDones(i)))
             continue;
         const Date taskDate = dateFromText(store.TaskDates(i));
         // No upper bound: an undone task stays, with negative days, until it is done.
@@ -66,7 +67,7 @@ void GatherHomeworkReminders(const RecordStore& store, Date date, std::string_vi
     const std::vector<int> noClass;
     const int count = store.AssignmentRecordNos.count();
     for (int i = 1; i <= count; ++i) {
-        if (store.AssignmentDescriptions(i) == kDeletedRecord || store.AssignmentDones(i) != "False") continue;
+        if (store.AssignmentDescriptions(i) == kDeletedRecord || !isFalseFlag(store.AssignmentDones(i))) continue;
         const Date dueDate = dateFromText(store.AssignmentDates(i));
         if (date < dueDate + ReminderOffset(store.AssignmentReminders(i))) continue;
         countOne(rows.HomeworkReminderCount);

@@ -1,6 +1,7 @@
 #include "shell/desktop_reminder_settings.h"
 
 #include "common/failure.h"
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "record_store/storage_locations.h"
 
@@ -13,7 +14,7 @@ const char* const kFileName = "DesktopReminders.ini";
 
 std::string DesktopReminderSettingsText(const DesktopReminderSettings& settings) {
     std::string text = "[Desktop Reminders]\r\n";
-    text += std::string("Enabled=") + trueFalse(settings.enabled) + "\r\n";
+    text += std::string("Enabled=") + flagText(settings.enabled) + "\r\n";
     if (settings.lastDay != 0) {
         text += "LastDay=" + dateText(settings.lastDay) + "\r\n";
         text += "LastItems=" + settings.lastItems + "\r\n";
@@ -32,7 +33,7 @@ DesktopReminderSettings ReadDesktopReminderSettingsText(std::string_view text) {
         if (equals == std::string_view::npos) continue;
         const std::string key = trim(line.substr(0, equals)), value = trim(line.substr(equals + 1));
         if (key == "Enabled") {
-            if (value == "True" || value == "False") settings.enabled = value == "True";
+            if (isTrueFlag(value) || isFalseFlag(value)) settings.enabled = isTrueFlag(value);
         } else if (key == "LastDay") {
             if (const auto day = parseDateText(value)) settings.lastDay = *day;
         } else if (key == "LastItems") {

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "common/flag_text.h"
 #include "common/text.h"
 #include "record_store/color_vocabulary.h"
 
@@ -324,7 +325,7 @@ AssignmentPlan makeAssignment(Dice& dice, Date today, const std::string& classId
                       : due < today    ? dice.percent(85)
                       : due == today   ? dice.percent(40)
                                        : dice.percent(10);
-    a.Done = trueFalse(done);
+    a.Done = flagText(done);
     const bool graded =
         done && (a.Type != "Assignment" && a.Type != "Reading" && a.Type != "Study" ? true : dice.percent(30));
     a.Grade = graded ? dice.pick(kGrades) : " ";
@@ -367,7 +368,7 @@ void addSessions(Dice& dice, Date today, std::vector<AssignmentPlan>& assignment
             studied += std::stoi(s.length.substr(0, 2)) * 60 + std::stoi(s.length.substr(5, 2));
         AssignmentBuffer& a = plan.record;
         const int estimate = std::stoi(a.EstTime.substr(0, 2)) * 60 + std::stoi(a.EstTime.substr(5, 2));
-        if (a.Done == "False" && studied >= estimate)
+        if (isFalseFlag(a.Done) && studied >= estimate)
             a.EstTime = spanText(std::min(3000, roundTo5(studied + dice.between(15, 60))));
     }
 }
@@ -378,7 +379,7 @@ TaskPlan makeTask(Dice& dice, Date today) {
     const bool dated = dice.percent(75);
     const Date date = dated ? near(dice, today, -90, 45) : near(dice, today, -90, 0);
     t.Description = dice.pick(kTaskDescriptions);
-    t.DateExists = trueFalse(dated);
+    t.DateExists = flagText(dated);
     t.Date = dateText(date);
     t.Type = dice.pick(kTaskTypes);
     t.Priority = dice.pick(kPriorities);
@@ -386,7 +387,7 @@ TaskPlan makeTask(Dice& dice, Date today) {
                       : date < today - 14 ? dice.percent(97)
                       : date < today      ? dice.percent(75)
                                           : dice.percent(10);
-    t.Done = trueFalse(done);
+    t.Done = flagText(done);
     t.Notes = dice.pick(kTaskNotes);
     // The editor gives a reminder only to a task with a date.
     t.Reminder = dated && !done && date >= today && dice.percent(50)
@@ -406,12 +407,12 @@ EventPlan baseEvent(Dice& dice, EventKind kind, Date first, const std::string& d
     e.Type = type;
     e.Time = dice.percent(70) ? clockText(dice.between(7 * 4, 21 * 4) * 15) : "None";
     e.Recurrence = "None";
-    e.SameDate = "True";
+    e.SameDate = flagText(true);
     const auto [number, day] = proposedRule(first);
     e.RepeatNumber = number;
     e.RepeatDay = day;
     e.RepeatDaily = "FFFFFFF";
-    e.End = "False";
+    e.End = flagText(false);
     e.EndDate = e.Date;
     e.Notes = dice.pick(kEventNotes);
     e.Reminder =
@@ -422,7 +423,7 @@ EventPlan baseEvent(Dice& dice, EventKind kind, Date first, const std::string& d
 void repeatMonthly(EventPlan& plan, Dice& dice, Date first) {
     plan.record.Recurrence = "Month";
     const bool ends = dice.percent(80);  // the editor proposes an end six months on
-    plan.record.End = trueFalse(ends);
+    plan.record.End = flagText(ends);
     plan.record.EndDate = dateText(addMonths(first, ends && dice.percent(30) ? 12 : 6));
 }
 
@@ -430,7 +431,7 @@ void repeatYearly(EventPlan& plan, Date first) {
     EventBuffer& e = plan.record;
     e.Recurrence = "Year";
     e.Time = "None";
-    e.End = "False";  // the editor proposes no end for a yearly event
+    e.End = flagText(false);  // the editor proposes no end for a yearly event
     e.EndDate = dateText(addYears(first, 5));
 }
 
@@ -455,7 +456,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
                 Date first = term.start;
                 while (std::find(weekdays.begin(), weekdays.end(), weekdayOf(first)) == weekdays.end()) ++first;
                 plan = baseEvent(dice, kind, first, dice.pick(classes).name, "Class");
-                plan.record.End = "True";
+                plan.record.End = flagText(true);
                 plan.record.EndDate = dateText(std::max(term.end, first));
                 plan.record.Reminder = "None";
             } else {
@@ -465,7 +466,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
                 if (dice.percent(40)) weekdays.push_back(dice.between(1, 7));
                 plan = baseEvent(dice, kind, first, h.description, h.type);
                 const bool ends = dice.percent(75);
-                plan.record.End = trueFalse(ends);
+                plan.record.End = flagText(ends);
                 plan.record.EndDate = dateText(first + (ends ? 7 * dice.between(2, 16) : 14));
             }
             plan.record.Recurrence = "Day";
@@ -487,7 +488,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
                 byWeekday ? nthWeekday(year, month, dice.between(1, 7), ordinal) : nthDay(year, month, ordinal);
             const Happening& h = kMonthlyEvents[dice.between(byWeekday ? 6 : 0, byWeekday ? 9 : 5)];
             EventPlan plan = baseEvent(dice, kind, first, h.description, h.type);
-            plan.record.SameDate = "False";
+            plan.record.SameDate = flagText(false);
             plan.record.RepeatNumber = kOrdinals[ordinal];
             plan.record.RepeatDay = byWeekday ? kWeekdayNames[weekdayOf(first) - 1] : "Day";
             repeatMonthly(plan, dice, first);
@@ -510,7 +511,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
             const DayNumberHoliday& h = kDayNumberHolidays[ordinal];
             const Date first = nthDay(lastYear, h.month, h.ordinal);
             EventPlan plan = baseEvent(dice, kind, first, h.name, "Holiday");
-            plan.record.SameDate = "False";
+            plan.record.SameDate = flagText(false);
             plan.record.RepeatNumber = kOrdinals[h.ordinal];
             plan.record.RepeatDay = "Day";
             repeatYearly(plan, first);
@@ -520,7 +521,7 @@ EventPlan makeEvent(Dice& dice, Date today, EventKind kind, int ordinal, const s
             const WeekdayHoliday& h = kWeekdayHolidays[ordinal];
             const Date first = nthWeekday(lastYear, h.month, h.weekday, h.ordinal);
             EventPlan plan = baseEvent(dice, kind, first, h.name, "Holiday");
-            plan.record.SameDate = "False";
+            plan.record.SameDate = flagText(false);
             plan.record.RepeatNumber = kOrdinals[h.ordinal];
             plan.record.RepeatDay = kWeekdayNames[h.weekday - 1];
             repeatYearly(plan, first);

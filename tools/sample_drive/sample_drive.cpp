@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "common/flag_text.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "sample_content.h"
@@ -111,7 +112,7 @@ public:
         s_.AssignmentRecord = plan.record;
         s_.AssignmentRecord.RecordNo = s_.AssignmentRecord.ID = std::to_string(written.record);
         s_.AssignmentRecord.Description = kDeletedRecord;
-        s_.AssignmentRecord.Done = "False";
+        s_.AssignmentRecord.Done = flagText(false);
         check(files_.SaveAssignment(written.record), "deleting an assignment");
     }
 
@@ -127,7 +128,7 @@ public:
         s_.TaskRecord = plan.record;
         s_.TaskRecord.RecordNo = s_.TaskRecord.ID = std::to_string(number);
         s_.TaskRecord.Description = kDeletedRecord;
-        s_.TaskRecord.Done = "True";
+        s_.TaskRecord.Done = flagText(true);
         check(files_.SaveTask(number), "deleting a task");
     }
 
