@@ -42,7 +42,7 @@ public:
 
 private:
     std::size_t checked(int i) const {
-        if (i < 1 || i > count()) throw UntrappedFailure("Subscript out of range");
+        if (i < 1 || i > count()) throw SubscriptOutOfRange();
         return static_cast<std::size_t>(i - 1);
     }
     std::vector<T> values_;

@@ -16,7 +16,7 @@ constexpr sys_days kEpoch = sys_days{year{1899} / December / 30};
 int floorDiv(int a, int b) { return (a >= 0) ? a / b : -((-a + b - 1) / b); }
 
 void checkYear(int y) {
-    if (y < 100 || y > 9999) throw UntrappedFailure("Overflow");
+    if (y < 100 || y > 9999) throw Overflow();
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ std::optional<Date> parseDateText(std::string_view text) {
 
 Date dateFromText(std::string_view text) {
     if (auto date = parseDateText(text)) return *date;
-    throw UntrappedFailure("Type mismatch");
+    throw TypeMismatch();
 }
 
 std::string repairDateSeparators(std::string text) {

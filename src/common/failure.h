@@ -1,12 +1,17 @@
 #pragma once
-// The two kinds of failure the planner knows.
+// The kinds of failure the planner knows.
 //
 // An UntrappedFailure is what the planner leaves untrapped (a subscript out of range, an
-// unknown colour name, an overflow outside a file routine). It travels up to the one
-// handler at the event-dispatch boundary, which reports it and ends the run.
+// unknown colour name, an overflow outside a file routine); the common ones have a type
+// each below. It travels up to the one handler at the event-dispatch boundary, which
+// reports it and ends the run.
 //
 // A FileFailure is raised by the file layer and always caught by the file routine that
-// called it, which turns it into the directory or file message.
+// called it, which turns it into the directory or file message. A routine that saves
+// returns whether it did, and its caller either acts on a refusal or passes it up.
+//
+// A fault of the code itself that no student's action can cause (a record built from the
+// wrong number of values) is a std::logic_error, which the tests meet first.
 #include <stdexcept>
 #include <string>
 
@@ -34,9 +39,19 @@ struct FileFailure : std::runtime_error {
 // read-only", "the file is in use"; empty for any other failure.
 std::string problemInWords(FileProblem problem);
 
-// A whole number that does not fit the 16 bits the planner stores it in.
+// The planner's untrapped failures by kind, each with the one text it is reported by.
+// A whole number that does not fit the 16 bits the planner stores it in, or a date
+// outside the years it counts.
 struct Overflow : UntrappedFailure {
     Overflow() : UntrappedFailure("Overflow") {}
+};
+// A row or line asked for that a list, a column or a combo box does not have.
+struct SubscriptOutOfRange : UntrappedFailure {
+    SubscriptOutOfRange() : UntrappedFailure("Subscript out of range") {}
+};
+// A text read as a date, a number or a colour that is none.
+struct TypeMismatch : UntrappedFailure {
+    TypeMismatch() : UntrappedFailure("Type mismatch") {}
 };
 
 }  // namespace qh

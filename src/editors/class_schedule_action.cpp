@@ -49,7 +49,7 @@ bool RecordActions::EditClassSchedule() {
     const Date today = platform_.clock.today();
     const auto selectedID = [&select] {
         const int line = select.ComboTermList->listIndex;
-        if (line < 0 || line >= int(select.tempTermIDArray.size())) throw UntrappedFailure("Subscript out of range");
+        if (line < 0 || line >= int(select.tempTermIDArray.size())) throw SubscriptOutOfRange();
         return select.tempTermIDArray[std::size_t(line)];
     };
     std::string termID;

@@ -241,7 +241,7 @@ void FrmCourseSchedule::ButtonEditClass_Click() {
     ButtonDeleteClass->enabled = true;
     classPanelMode = ClassPanelMode::Edit;
     const int line = ComboBoxClassList->listIndex;
-    if (line < 0 || line >= int(IndexClassIDArray.size())) throw UntrappedFailure("Subscript out of range");
+    if (line < 0 || line >= int(IndexClassIDArray.size())) throw SubscriptOutOfRange();
     const std::size_t row = std::size_t(IndexClassIDArray[std::size_t(line)]);
     SelectedClassIndex = Int16(row);
     SelectedClassID = int16OrZero(tempClassIDArray[row]);

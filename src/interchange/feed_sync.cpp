@@ -29,40 +29,26 @@ public:
     RecordRemover(RecordStore& store, RecordFiles& files) : s_(store), files_(files) {}
 
     void task(int row) {
-        TaskBuffer r{s_.TaskRecordNos(row), s_.TaskIDs(row),         s_.TaskDates(row),
-                     kDeletedRecord,        s_.TaskDateExists(row),  s_.TaskTypes(row),
-                     s_.TaskPriorities(row), flagText(true),         s_.TaskNotes(row),
-                     s_.TaskReminders(row)};
+        TaskBuffer r = kTaskTable.rowOf(s_, row);
+        r.Description = kDeletedRecord;
+        r.Done = flagText(true);
         s_.TaskRecord = r;
         kTaskTable.storeRow(s_, row, r);
-        static_cast<void>(files_.SaveTask(int16OrZero(r.RecordNo)));
+        saved(files_.SaveTask(int16OrZero(r.RecordNo)));
     }
 
     void event(int row) {
-        EventBuffer r{s_.EventRecordNos(row),  s_.EventIDs(row),         s_.EventDates(row),
-                      kDeletedRecord,          s_.EventTypes(row),       s_.EventTimes(row),
-                      s_.EventRecurrences(row), s_.EventSameDates(row),  s_.EventRepeatNumbers(row),
-                      s_.EventRepeatDays(row), s_.EventRepeatDailies(row), s_.EventEnds(row),
-                      s_.EventEndDates(row),   s_.EventNotes(row),       s_.EventReminders(row)};
+        EventBuffer r = kEventTable.rowOf(s_, row);
+        r.Description = kDeletedRecord;
         s_.EventRecord = r;
         kEventTable.storeRow(s_, row, r);
-        static_cast<void>(files_.SaveEvent(int16OrZero(r.RecordNo)));
+        saved(files_.SaveEvent(int16OrZero(r.RecordNo)));
     }
 
     void assignment(int row) {
-        AssignmentBuffer r;
-        r.RecordNo = s_.AssignmentRecordNos(row);
-        r.ID = s_.AssignmentIDs(row);
-        r.ClassLink = s_.AssignmentClassLinks(row);
-        r.DateValue = parseDateText(s_.AssignmentDates(row)).value_or(0);
-        r.Type = s_.AssignmentTypes(row);
-        r.Difficulty = s_.AssignmentDifficulties(row);
-        r.EstTime = s_.AssignmentEstTimes(row);
+        AssignmentBuffer r = kAssignmentTable.rowOf(s_, row);
         r.Description = kDeletedRecord;
         r.Done = flagText(false);
-        r.Grade = s_.AssignmentGrades(row);
-        r.Weight = s_.AssignmentWeights(row);
-        r.Reminder = s_.AssignmentReminders(row);
         // Its note goes with it, freed as the editor frees an emptied one.
         for (int note = 1; note <= s_.NoteLinkIDs.count(); ++note) {
             if (s_.NoteLinkIDs(note) != r.ID) continue;
@@ -71,17 +57,23 @@ public:
             s_.NoteRecord = {s_.NoteRecordNos(note), "0", ""};
             s_.NoteRecordNos.removeAt(note);
             s_.NoteLinkIDs.removeAt(note);
-            static_cast<void>(files_.SaveNote(noteNumber));
+            saved(files_.SaveNote(noteNumber));
             break;
         }
         s_.AssignmentRecord = r;
         kAssignmentTable.storeRow(s_, row, r);
-        static_cast<void>(files_.SaveAssignment(int16OrZero(r.RecordNo)));
+        saved(files_.SaveAssignment(int16OrZero(r.RecordNo)));
     }
 
+    // Whether a write was refused (its file named to the student).
+    bool failed() const { return failed_; }
+
 private:
+    void saved(bool written) { failed_ = failed_ || !written; }
+
     RecordStore& s_;
     RecordFiles& files_;
+    bool failed_ = false;
 };
 
 }  // namespace
@@ -108,6 +100,10 @@ FeedSyncResult ApplyFeed(RecordStore& store, RecordFiles& files, const ImportPla
                          CalendarLinks& links, Date today) {
     FeedSyncResult result;
     result.import = ApplyImport(store, files, plan, ChoicesOf(feed), links, feed.source(), today);
+    // A refused write leaves the feed half applied: the removals wait for a refresh that
+    // can write, so nothing is deleted on the strength of an import that did not finish.
+    result.writeFailed = result.import.writeFailed;
+    if (result.writeFailed) return result;
 
     std::set<std::string> inFeed;
     for (const CalendarItem& item : plan.items) inFeed.insert(item.uid);
@@ -146,6 +142,10 @@ FeedSyncResult ApplyFeed(RecordStore& store, RecordFiles& files, const ImportPla
                 }
                 break;
             }
+        }
+        if (remover.failed()) {
+            result.writeFailed = true;
+            return result;  // the link stays, so the next refresh deletes it again
         }
         links.remove(linked.kind, linked.id);
     }

@@ -30,6 +30,9 @@ struct FeedSyncResult {
     ImportResult import;
     int deleted = 0;  // records of items gone from the feed
     int kept = 0;     // assignments gone from the feed that the student had worked on
+    // A write was refused (the import's or a deletion's): the sync stopped there and the
+    // feed must be fetched whole again.
+    bool writeFailed = false;
 };
 
 FeedSyncResult ApplyFeed(RecordStore& store, RecordFiles& files, const ImportPlan& plan, const Subscription& feed,

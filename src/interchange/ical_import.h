@@ -58,6 +58,9 @@ struct ImportChoices {
 struct ImportResult {
     int added = 0, updated = 0, unchanged = 0, skipped = 0;
     bool full = false;  // some item was skipped because its record file holds all it can
+    // A write was refused: the file was named to the student and the import stopped there,
+    // its item neither counted nor linked.
+    bool writeFailed = false;
 };
 
 // Writes the plan: each new record appended and each changed one rewritten, one record at a

@@ -69,7 +69,7 @@ std::string keyOf(std::string_view name) {
 
 // What a keyed list says of a missing key and of a row it does not have.
 [[noreturn]] void noSuchKey() { throw UntrappedFailure("Invalid procedure call or argument"); }
-[[noreturn]] void noSuchRow() { throw UntrappedFailure("Subscript out of range"); }
+[[noreturn]] void noSuchRow() { throw SubscriptOutOfRange(); }
 [[noreturn]] void keyTaken() {
     throw UntrappedFailure("This key is already associated with an element of this collection");
 }

@@ -15,7 +15,7 @@ namespace {
 // The date as it is written: through its year, month and day parts.
 std::string dateFieldText(const std::string& value) {
     const std::optional<Date> date = parseDateText(repairDateSeparators(value));
-    if (!date) throw UntrappedFailure("Type mismatch");
+    if (!date) throw TypeMismatch();
     return dateText(*date);
 }
 
@@ -48,7 +48,7 @@ int RecordLayout::valueCount() const {
 
 std::string buildRecord(const RecordLayout& layout, std::span<const std::string> values) {
     if (int(values.size()) != layout.valueCount())
-        throw std::invalid_argument("wrong number of values for " + std::string(layout.fileName));
+        throw std::logic_error("wrong number of values for " + std::string(layout.fileName));
     std::string record;
     record.reserve(std::size_t(layout.length));
     std::size_t next = 0;
@@ -89,7 +89,7 @@ RecordView::RecordView(const RecordLayout& layout) : layout_(layout) {
 
 void RecordView::reset(std::string_view bytes) {
     if (int(bytes.size()) != layout_.length)
-        throw std::invalid_argument("wrong record length for " + std::string(layout_.fileName));
+        throw std::logic_error("wrong record length for " + std::string(layout_.fileName));
     bytes_ = bytes;
 }
 

@@ -45,7 +45,7 @@ std::string storedText(int width, const std::string& text);
 // A date field's value must read as a date once its "." and "-" are taken for "/"
 // ("2026/11/21", "2026-1-5"); anything else is the untrapped "Type mismatch", which the
 // file routines report as an error writing the file. Fewer or more values than the
-// layout has is a programming error (std::invalid_argument).
+// layout has is a fault of the code (std::logic_error).
 std::string buildRecord(const RecordLayout& layout, std::span<const std::string> values);
 
 // Reads the non-reserved fields of one record (exactly layout.length bytes) in table

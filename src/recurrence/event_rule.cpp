@@ -6,7 +6,7 @@
 namespace qh {
 
 Date EventRule::endDate() const {
-    if (!readableEnd) throw UntrappedFailure("Type mismatch");
+    if (!readableEnd) throw TypeMismatch();
     return *readableEnd;
 }
 

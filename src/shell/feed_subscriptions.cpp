@@ -248,6 +248,12 @@ void FeedSubscriptions::apply(int id, const FeedAnswer& answer) {
             const FeedSyncResult result = ApplyFeed(w_.store, *w_.files, plan, *feed, links, w_.platform.clock.today());
             w_.storeCalendarLinks(links, kTitle);
             recordsChanged = result.import.added + result.import.updated + result.deleted > 0;
+            if (result.writeFailed) {
+                // Half applied: without its tags the next refresh asks for the whole feed again.
+                feed->problem = "its items could not be written to the drive";
+                feed->unreachable = false;
+                break;
+            }
             feed->etag = answer.etag;
             feed->lastModified = answer.lastModified;
             feed->items = int(plan.items.size());

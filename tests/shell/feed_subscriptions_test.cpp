@@ -266,5 +266,33 @@ TEST(FeedSubscriptions, AnItemDeletedAndHiddenStaysAwayFromLaterRefreshes) {
     EXPECT_TRUE(planner.fake.messages.shown.empty());
 }
 
+TEST(FeedSubscriptions, AWriteTheDriveRefusesStopsTheRefreshAndTheNextAsksForTheWholeFeed) {
+    SubscribedPlanner planner;
+    planner.subscribe();
+    RecordStore& s = planner.store;
+    std::vector<CalendarItem> next = planner.feed;
+    next.erase(next.begin() + 2);  // the reading goes
+    next.push_back(deadline("a4", "Test on chapter 6", planner.monday + 8));
+    next.push_back(deadline("a5", "Lab report", planner.monday + 9));
+    planner.fake.feeds.answers[kAddress] = fetched(planner, next, "\"v2\"");
+    planner.fake.files.failWrite(1);
+    planner.refresh();
+
+    // One message names the file; the rest is not tried, nothing is deleted, and the feed
+    // keeps the tag of what it last applied whole.
+    EXPECT_EQ(planner.fake.messages.shown.size(), 1u);
+    EXPECT_EQ(rowOf(s.AssignmentDescriptions, "Lab report"), 0);
+    EXPECT_NE(rowOf(s.AssignmentDescriptions, "Chapter 6 reading"), 0);
+    EXPECT_EQ(planner.window->state.StatusBarText, "School: refused: its items could not be written to the drive");
+    EXPECT_EQ(planner.window->subscriptions().subscriptions().feeds.front().etag, "\"v1\"");
+
+    planner.refresh();
+    EXPECT_EQ(planner.fake.feeds.requests.back().etag, "\"v1\"");
+    EXPECT_NE(rowOf(s.AssignmentDescriptions, "Lab report"), 0);
+    EXPECT_EQ(rowOf(s.AssignmentDescriptions, "Chapter 6 reading"), 0);
+    EXPECT_EQ(planner.fake.messages.shown.size(), 1u);
+    EXPECT_EQ(planner.window->subscriptions().subscriptions().feeds.front().etag, "\"v2\"");
+}
+
 }  // namespace
 }  // namespace qh
