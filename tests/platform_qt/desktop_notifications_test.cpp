@@ -74,7 +74,7 @@ struct Planner {
         window = std::make_unique<MainWindow>(store, platform);
         window->Form_Load();
         fake.windowing.show(*window);
-        window->tick("TimerDesktopReminders");
+        window->tick(window->ui.TimerDesktopReminders.key());
     }
     std::string remembered() const { return fake.bytesOf(fake.dataDirectory() + "/DesktopReminders.ini"); }
     bool told() const { return remembered().find("LastDay=") != std::string::npos; }
@@ -139,7 +139,7 @@ TEST_F(DesktopNotificationsOnDunst, TellsWhatIsDueAndItsActionShowsTodaysReminde
 
     // The next day comes while the planner runs: a new notice, read back from the history.
     planner.fake.clock.set(2026, 11, 24, 0, 0, 5);
-    planner.window->tick("TimerStatusBar");
+    planner.window->tick(planner.window->ui.TimerStatusBar.key());
     ASSERT_TRUE(waitFor([&] { return planner.remembered().find("2026/11/24") != std::string::npos; }));
     ASSERT_TRUE(waitFor([] { return displayedNotices() == 1; }));
     history = historyOnceClosed();
@@ -152,7 +152,7 @@ TEST_F(DesktopNotificationsOnDunst, NothingDueOrSwitchedOffSendsNothing) {
     const std::string before = dunstctl("count history");
     Planner nothingDue(20);
     Planner switchedOff(23, "[Desktop Reminders]\r\nEnabled=False\r\n");
-    EXPECT_FALSE(switchedOff.window->c("MenuDesktopReminders").checked);
+    EXPECT_FALSE(switchedOff.window->ui.MenuDesktopReminders->checked);
     // Any notice sent would have been taken within this time.
     waitFor([] { return displayedNotices() != 0; });
     EXPECT_EQ(displayedNotices(), 0);

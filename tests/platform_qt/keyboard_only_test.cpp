@@ -178,7 +178,7 @@ TEST(KeyboardOnly, TheDatePickerTakesItsKeysAndEscapeClosesOnlyIt) {
         seen.push_back(schedule.TextboxTermEnd->text);
         press(Qt::Key_Escape);
     });
-    run.window->click("ButtonSelectTerm");
+    run.window->click(run.window->ui.ButtonSelectTerm.key());
     // 21 November and 70 days: 30 January 2027; a day, a week and a month on.
     EXPECT_EQ(seen, (std::vector<std::string>{"picCalendar", "ButtonTermEnd window open",
                                               "Sunday, March 7, 2027"}));

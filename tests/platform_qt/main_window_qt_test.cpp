@@ -72,8 +72,7 @@ TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
     EXPECT_EQ(window->focusedControl, ui.picCalendar.key());
     // Its cells are named for a screen reader, today's as today.
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), today);
-    EXPECT_EQ(widget(ui.LabelCalDate, cell)->accessibleName(),
-              "Saturday, November 21, 2026, today, selected");
+    EXPECT_EQ(widget(ui.LabelCalDate, cell)->accessibleName(), "Saturday, November 21, 2026, today, selected");
 }
 
 TEST_F(MainWindowQt, AWheelTurnOverADayCellStepsTheCalendarsMonth) {
@@ -107,8 +106,11 @@ TEST_F(MainWindowQt, TheMenusHaveLettersAndTheUsualShortcutsChooseTheModes) {
     const struct {
         Qt::Key key;
         Mode mode;
-    } modes[] = {{Qt::Key_4, Mode::Tasks},  {Qt::Key_1, Mode::Reminders},    {Qt::Key_5, Mode::Events},
-                 {Qt::Key_3, Mode::StudySessions}, {Qt::Key_2, Mode::Homework}};
+    } modes[] = {{Qt::Key_4, Mode::Tasks},
+                 {Qt::Key_1, Mode::Reminders},
+                 {Qt::Key_5, Mode::Events},
+                 {Qt::Key_3, Mode::StudySessions},
+                 {Qt::Key_2, Mode::Homework}};
     for (const auto& m : modes) {
         key(frame, m.key, Qt::ControlModifier);
         EXPECT_EQ(window->CurrentMode(), m.mode) << QTest::toString(m.key);
@@ -145,9 +147,9 @@ TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
 
 bool needsName(QAccessible::Role role) {
     static constexpr QAccessible::Role named[] = {
-        QAccessible::Button,   QAccessible::CheckBox,  QAccessible::RadioButton, QAccessible::ComboBox,
-        QAccessible::EditableText, QAccessible::StaticText, QAccessible::Graphic, QAccessible::List,
-        QAccessible::ListItem, QAccessible::ScrollBar, QAccessible::MenuItem,    QAccessible::Table,
+        QAccessible::Button,       QAccessible::CheckBox,   QAccessible::RadioButton, QAccessible::ComboBox,
+        QAccessible::EditableText, QAccessible::StaticText, QAccessible::Graphic,     QAccessible::List,
+        QAccessible::ListItem,     QAccessible::ScrollBar,  QAccessible::MenuItem,    QAccessible::Table,
         QAccessible::Cell};
     return std::find(std::begin(named), std::end(named), role) != std::end(named);
 }
@@ -332,7 +334,8 @@ TEST_F(MainWindowQt, TheSortArrowNeverCoversAHeaderTitle) {
             for (const QString& picture : {QStringLiteral("GridTitleUp"), QStringLiteral("GridTitleDown")}) {
                 const QRectF arrow = arrowIn(picture, header->size(), header->devicePixelRatioF());
                 EXPECT_FALSE(arrow.isEmpty()) << title;
-                EXPECT_FALSE(arrow.intersects(text)) << mode->key() << " " << title << " in " << header->width() << " pixels";
+                EXPECT_FALSE(arrow.intersects(text))
+                    << mode->key() << " " << title << " in " << header->width() << " pixels";
             }
         }
     }

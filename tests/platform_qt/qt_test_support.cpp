@@ -20,8 +20,8 @@ Application& testApplication() {
 }
 
 Platform withCanvases(FakePlatform& fake, CanvasFactory& canvases) {
-    return {fake.environment, fake.clock,     fake.locale,    fake.messages, fake.files,
-            fake.processes,   fake.dialogs,   fake.windowing, canvases,      fake.calendars};
+    return {fake.environment, fake.clock,   fake.locale,    fake.messages, fake.files,
+            fake.processes,   fake.dialogs, fake.windowing, canvases,      fake.calendars};
 }
 
 }  // namespace qh

@@ -135,7 +135,7 @@ TEST(WidgetModelAgreement, ARefusedDoneLeavesNoTickOnScreen) {
         expectAgreement(run, "Done without a session");
         QTest::mouseClick(frame.widget("ButtonOK"), Qt::LeftButton);
     });
-    run.window->click("ButtonNewAssignment");
+    run.window->click(run.window->ui.ButtonNewAssignment.key());
     run.onScreen("frmAssignment", [&](FormWindow& frame) {
         seen.push_back("next showing " + shown(box(frame)->isChecked()));
         QTest::mouseClick(frame.widget("LabelViewSessions"), Qt::LeftButton);
@@ -145,7 +145,7 @@ TEST(WidgetModelAgreement, ARefusedDoneLeavesNoTickOnScreen) {
         expectAgreement(run, "Done with a session");
         QTest::mouseClick(frame.widget("ButtonCancel"), Qt::LeftButton);
     });
-    run.window->click("ButtonNewAssignment");
+    run.window->click(run.window->ui.ButtonNewAssignment.key());
     EXPECT_EQ(seen, (std::vector<std::string>{"refused false", "next showing false", "with a session true"}));
     EXPECT_EQ(run.messageTexts().front(), "Add a Study Session before checking 'Done'.");
 }
@@ -162,10 +162,10 @@ TEST(WidgetModelAgreement, EveryGestureOnEveryWindowLeavesWidgetAndModelAlike) {
         const char* name;
         std::function<void()> open;
     } windows[] = {
-        {"frmAssignment", [&] { run.window->click("ButtonNewAssignment"); }},
+        {"frmAssignment", [&] { run.window->click(run.window->ui.ButtonNewAssignment.key()); }},
         {"FrmTask", [&] { run.window->NewTask(); }},
         {"frmEvent", [&] { run.window->NewEvent(); }},
-        {"frmSelectCourseSchedule", [&] { run.window->click("ButtonSelectTerm"); }},
+        {"frmSelectCourseSchedule", [&] { run.window->click(run.window->ui.ButtonSelectTerm.key()); }},
     };
     int driven = 0;
     for (const auto& window : windows) {
@@ -183,7 +183,7 @@ TEST(WidgetModelAgreement, EveryGestureOnEveryWindowLeavesWidgetAndModelAlike) {
         run.renderer.syncAll();
         drive(frame);
     });
-    run.window->click("ButtonSelectTerm");
+    run.window->click(run.window->ui.ButtonSelectTerm.key());
     driveEveryControl(*run.renderer.windowOf(*run.window), [&](const std::string& step) { expectAgreement(run, step); });
     EXPECT_EQ(driven, 5);
 }
