@@ -34,14 +34,22 @@ bool waitFor(const std::function<bool()>& done) {
     return true;
 }
 
-std::string dunstctl(const QStringList& arguments) {
+// What dunstctl answers to the words of `arguments`.
+std::string dunstctl(const char* arguments) {
     QProcess process;
-    process.start(QStringLiteral("dunstctl"), arguments);
+    process.start(QStringLiteral("dunstctl"), QString::fromLatin1(arguments).split(' '));
     process.waitForFinished(5000);
     return process.readAllStandardOutput().toStdString();
 }
 
-int displayedNotices() { return std::atoi(dunstctl({QStringLiteral("count"), QStringLiteral("displayed")}).c_str()); }
+int displayedNotices() { return std::atoi(dunstctl("count displayed").c_str()); }
+
+// Closes the notices shown into the history, and reads the history.
+std::string historyOnceClosed() {
+    dunstctl("close-all");
+    EXPECT_TRUE(waitFor([] { return displayedNotices() == 0; }));
+    return dunstctl("history");
+}
 
 // The planner on a fake drive with one assignment due on the 24th (a day's notice), its
 // notices going through the real service.
@@ -66,9 +74,10 @@ struct Planner {
         window = std::make_unique<MainWindow>(store, platform);
         window->Form_Load();
         fake.windowing.show(*window);
-        window->tick("TimerDesktopReminders");
+        window->tick(window->ui.TimerDesktopReminders.key());
     }
-    bool told() const { return fake.bytesOf(fake.dataDirectory() + "/DesktopReminders.ini").find("LastDay=") != std::string::npos; }
+    std::string remembered() const { return fake.bytesOf(fake.dataDirectory() + "/DesktopReminders.ini"); }
+    bool told() const { return remembered().find("LastDay=") != std::string::npos; }
 };
 
 TEST(DesktopNotificationsWithoutBus, ThePlannerGoesOnSilently) {
@@ -119,12 +128,10 @@ TEST_F(DesktopNotificationsOnDunst, TellsWhatIsDueAndItsActionShowsTodaysReminde
     ASSERT_TRUE(waitFor([] { return displayedNotices() == 1; }));
 
     // The default action, as a click on the notice; then it is closed into the history.
-    dunstctl({QStringLiteral("action"), QStringLiteral("0")});
+    dunstctl("action 0");
     ASSERT_TRUE(waitFor([&] { return planner.window->CurrentMode() == Mode::Reminders; }));
     EXPECT_EQ(planner.fake.windowing.log.back(), "raise frmMain");
-    dunstctl({QStringLiteral("close-all")});
-    ASSERT_TRUE(waitFor([] { return displayedNotices() == 0; }));
-    std::string history = dunstctl({QStringLiteral("history")});
+    std::string history = historyOnceClosed();
     EXPECT_NE(history.find("\"Today's Reminders\""), std::string::npos) << history;
     EXPECT_NE(history.find("\"1 assignment needs you soon\\nTomorrow: Problem set 7 (Algebra)\""),
               std::string::npos)
@@ -132,29 +139,24 @@ TEST_F(DesktopNotificationsOnDunst, TellsWhatIsDueAndItsActionShowsTodaysReminde
 
     // The next day comes while the planner runs: a new notice, read back from the history.
     planner.fake.clock.set(2026, 11, 24, 0, 0, 5);
-    planner.window->tick("TimerStatusBar");
-    ASSERT_TRUE(waitFor([&] {
-        return planner.fake.bytesOf(planner.fake.dataDirectory() + "/DesktopReminders.ini").find("2026/11/24") !=
-               std::string::npos;
-    }));
+    planner.window->tick(planner.window->ui.TimerStatusBar.key());
+    ASSERT_TRUE(waitFor([&] { return planner.remembered().find("2026/11/24") != std::string::npos; }));
     ASSERT_TRUE(waitFor([] { return displayedNotices() == 1; }));
-    dunstctl({QStringLiteral("close-all")});
-    ASSERT_TRUE(waitFor([] { return displayedNotices() == 0; }));
-    history = dunstctl({QStringLiteral("history")});
+    history = historyOnceClosed();
     EXPECT_NE(history.find("\"1 assignment needs you soon\\nToday: Problem set 7 (Algebra)\""), std::string::npos)
         << history;
 }
 
 TEST_F(DesktopNotificationsOnDunst, NothingDueOrSwitchedOffSendsNothing) {
     startDunst();
-    const std::string before = dunstctl({QStringLiteral("count"), QStringLiteral("history")});
+    const std::string before = dunstctl("count history");
     Planner nothingDue(20);
     Planner switchedOff(23, "[Desktop Reminders]\r\nEnabled=False\r\n");
-    EXPECT_FALSE(switchedOff.window->c("MenuDesktopReminders").checked);
+    EXPECT_FALSE(switchedOff.window->ui.MenuDesktopReminders->checked);
     // Any notice sent would have been taken within this time.
     waitFor([] { return displayedNotices() != 0; });
     EXPECT_EQ(displayedNotices(), 0);
-    EXPECT_EQ(dunstctl({QStringLiteral("count"), QStringLiteral("history")}), before);
+    EXPECT_EQ(dunstctl("count history"), before);
     EXPECT_FALSE(nothingDue.told());
     EXPECT_FALSE(switchedOff.told());
     EXPECT_EQ(nothingDue.window->state.StatusBarText, "Homework Mode");

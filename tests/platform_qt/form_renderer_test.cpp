@@ -324,19 +324,6 @@ TEST_F(FormRendererTest, AFailureInAClickHandlerReachesTheFailureReport) {
     app.setFailureReport(nullptr);
 }
 
-TEST_F(FormRendererTest, ModalShowLastsUntilTheModelHidesTheWindow) {
-    bool wasVisible = false;
-    QTimer::singleShot(0, [&] {
-        wasVisible = renderer.windowOf(window) && renderer.windowOf(window)->isVisible();
-        QTest::mouseClick(widget("ButtonOK"), Qt::LeftButton);
-    });
-    renderer.showModal(window, nullptr);
-    EXPECT_TRUE(wasVisible);
-    EXPECT_EQ(window.log, "ok;");
-    EXPECT_FALSE(shown().isVisible());
-    EXPECT_FALSE(shown().isModal());
-}
-
 TEST_F(FormRendererTest, TheCloseBoxAsksTheModelAndTheLastWindowClosedEndsTheProgram) {
     renderer.quitWhenLastWindowCloses = true;
     renderer.show(window);

@@ -29,7 +29,6 @@ class MainWindowQt : public ::testing::Test {
 protected:
     MainWindowQt() {
         testApplication();
-        window = &main.load();
         renderer.quitWhenLastWindowCloses = false;
         renderer.show(*window);
         frame = renderer.windowOf(*window);
@@ -37,13 +36,15 @@ protected:
         QApplication::setActiveWindow(frame);
         (void)QTest::qWaitForWindowActive(frame);
     }
-    QWidget* widget(const std::string& key) { return frame->widget(key); }
+    QWidget* widget(const ControlRef& control) { return frame->widget(control.key()); }
+    QWidget* widget(const ControlArrayRef& array, int index) { return frame->widget(array.key(index)); }
     void key(QWidget* target, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(target, key, modifiers);
     }
 
     LoadedMainWindow main;
-    MainWindow* window = nullptr;
+    MainWindow* window = &main.load();  // the model needs no application
+    const MainWindowControls& ui = window->ui;
     FormRenderer renderer;
     FormWindow* frame = nullptr;
 };
@@ -51,7 +52,7 @@ protected:
 // --- The keyboard ----------------------------------------------------------------------
 
 TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
-    QWidget* calendar = widget("picCalendar");
+    QWidget* calendar = widget(ui.picCalendar);
     calendar->setFocus();
     ASSERT_TRUE(calendar->hasFocus());
     const Date today = main.fake.clock.today();  // Saturday, November 21, 2026
@@ -68,15 +69,14 @@ TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
     }
     // The keys stay with the calendar: no other control took the focus.
     EXPECT_TRUE(calendar->hasFocus());
-    EXPECT_EQ(window->focusedControl, "picCalendar");
+    EXPECT_EQ(window->focusedControl, ui.picCalendar.key());
     // Its cells are named for a screen reader, today's as today.
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), today);
-    EXPECT_EQ(widget("LabelCalDate(" + std::to_string(cell) + ")")->accessibleName(),
-              "Saturday, November 21, 2026, today, selected");
+    EXPECT_EQ(widget(ui.LabelCalDate, cell)->accessibleName(), "Saturday, November 21, 2026, today, selected");
 }
 
 TEST_F(MainWindowQt, AWheelTurnOverADayCellStepsTheCalendarsMonth) {
-    QWidget* cell = widget("LabelCalDate(30)");
+    QWidget* cell = widget(ui.LabelCalDate, 30);
     const auto turn = [&](int eighths) {
         const QPointF at(5, 5);
         QWheelEvent event(at, cell->mapToGlobal(at), QPoint(), QPoint(0, eighths), Qt::NoButton, Qt::NoModifier,
@@ -105,26 +105,27 @@ TEST_F(MainWindowQt, TheMenusHaveLettersAndTheUsualShortcutsChooseTheModes) {
 
     const struct {
         Qt::Key key;
-        const char* menu;
         Mode mode;
-    } modes[] = {{Qt::Key_4, "MenuTasks", Mode::Tasks},     {Qt::Key_1, "MenuReminders", Mode::Reminders},
-                 {Qt::Key_5, "MenuEvents", Mode::Events},   {Qt::Key_3, "MenuStudySessions", Mode::StudySessions},
-                 {Qt::Key_2, "MenuHomework", Mode::Homework}};
+    } modes[] = {{Qt::Key_4, Mode::Tasks},
+                 {Qt::Key_1, Mode::Reminders},
+                 {Qt::Key_5, Mode::Events},
+                 {Qt::Key_3, Mode::StudySessions},
+                 {Qt::Key_2, Mode::Homework}};
     for (const auto& m : modes) {
         key(frame, m.key, Qt::ControlModifier);
-        EXPECT_EQ(window->CurrentMode(), m.mode) << m.menu;
+        EXPECT_EQ(window->CurrentMode(), m.mode) << QTest::toString(m.key);
     }
     // Ctrl+N belongs to the one New entry the mode enables.
-    EXPECT_EQ(frame->action("MenuNewAssignment")->shortcut().toString(), "Ctrl+N");
-    EXPECT_TRUE(frame->action("MenuNewAssignment")->isEnabled());
-    EXPECT_FALSE(frame->action("MenuNewTask")->isEnabled());
+    EXPECT_EQ(frame->action(ui.MenuNewAssignment.key())->shortcut().toString(), "Ctrl+N");
+    EXPECT_TRUE(frame->action(ui.MenuNewAssignment.key())->isEnabled());
+    EXPECT_FALSE(frame->action(ui.MenuNewTask.key())->isEnabled());
 }
 
 TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
-    window->click("MenuStudySessions");
+    window->click(ui.MenuStudySessions.key());
     renderer.syncAll();
     std::vector<std::string> visited;
-    widget("picCalendar")->setFocus();
+    widget(ui.picCalendar)->setFocus();
     for (int i = 0; i < 40; ++i) {
         QWidget* focused = QApplication::focusWidget();
         ASSERT_NE(focused, nullptr);
@@ -133,10 +134,11 @@ TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
         visited.push_back(name);
         key(focused, Qt::Key_Tab);
     }
-    for (const char* wanted : {"picCalendar", "picGrid", "ButtonStart", "ComboList", "ComboDateRange", "ComboGPA"})
-        EXPECT_NE(std::find(visited.begin(), visited.end(), wanted), visited.end()) << wanted;
+    for (const ControlRef* wanted :
+         {&ui.picCalendar, &ui.picGrid, &ui.ButtonStart, &ui.ComboList, &ui.ComboDateRange, &ui.ComboGPA})
+        EXPECT_NE(std::find(visited.begin(), visited.end(), wanted->key()), visited.end()) << wanted->key();
     for (const std::string& name : visited) {
-        EXPECT_NE(name, "ButtonNewAssignment") << "lies under the study panel";
+        EXPECT_NE(name, ui.ButtonNewAssignment.key()) << "lies under the study panel";
         EXPECT_TRUE(name.rfind("TextBox", 0) != 0) << name << " is read only";
     }
 }
@@ -144,22 +146,12 @@ TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
 // --- A screen reader's view ------------------------------------------------------------
 
 bool needsName(QAccessible::Role role) {
-    switch (role) {
-        case QAccessible::Button:
-        case QAccessible::CheckBox:
-        case QAccessible::RadioButton:
-        case QAccessible::ComboBox:
-        case QAccessible::EditableText:
-        case QAccessible::StaticText:
-        case QAccessible::Graphic:
-        case QAccessible::List:
-        case QAccessible::ListItem:
-        case QAccessible::ScrollBar:
-        case QAccessible::MenuItem:
-        case QAccessible::Table:
-        case QAccessible::Cell: return true;
-        default: return false;
-    }
+    static constexpr QAccessible::Role named[] = {
+        QAccessible::Button,       QAccessible::CheckBox,   QAccessible::RadioButton, QAccessible::ComboBox,
+        QAccessible::EditableText, QAccessible::StaticText, QAccessible::Graphic,     QAccessible::List,
+        QAccessible::ListItem,     QAccessible::ScrollBar,  QAccessible::MenuItem,    QAccessible::Table,
+        QAccessible::Cell};
+    return std::find(std::begin(named), std::end(named), role) != std::end(named);
 }
 
 // Every shown node that acts or informs, without a name: "path (role)".
@@ -173,12 +165,13 @@ void unnamedNodes(QAccessibleInterface* node, const QString& path, QStringList& 
 
 TEST_F(MainWindowQt, EveryControlThatActsOrInformsHasAName) {
     // Each mode shows other panels; each editor the main window loaded shows its own.
-    for (const char* mode : {"MenuReminders", "MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents"}) {
-        window->click(mode);
+    for (const ControlRef* mode :
+         {&ui.MenuReminders, &ui.MenuHomework, &ui.MenuStudySessions, &ui.MenuTasks, &ui.MenuEvents}) {
+        window->click(mode->key());
         renderer.syncAll();
         QStringList found;
         unnamedNodes(QAccessible::queryAccessibleInterface(frame), "", found);
-        EXPECT_TRUE(found.isEmpty()) << mode << ": " << found.join(", ").toStdString();
+        EXPECT_TRUE(found.isEmpty()) << mode->key() << ": " << found.join(", ").toStdString();
     }
     for (Form* editor : window->editors->windows()) {
         FormWindow& shown = renderer.windowFor(*editor);
@@ -193,34 +186,34 @@ TEST_F(MainWindowQt, EveryControlThatActsOrInformsHasAName) {
 
 TEST_F(MainWindowQt, PicturesAndCombosAreCalledByWhatTheyAreNotByWhatTheyShow) {
     const struct {
-        const char* key;
+        std::string key;
         const char* name;
         QAccessible::Role role;
     } expected[] = {
-        {"PictureBarTasks", "Tasks", QAccessible::Button},
-        {"PictureBarReminders", "Today's Reminders", QAccessible::Button},
+        {ui.PictureBarTasks.key(), "Tasks", QAccessible::Button},
+        {ui.PictureBarReminders.key(), "Today's Reminders", QAccessible::Button},
         {"picCalMonthUp", "Next month", QAccessible::Button},
-        {"ComboList", "List", QAccessible::ComboBox},
-        {"ComboDateRange", "Range", QAccessible::ComboBox},
-        {"TextBoxTotalAssignments", "Total Assignments", QAccessible::EditableText},
+        {ui.ComboList.key(), "List", QAccessible::ComboBox},
+        {ui.ComboDateRange.key(), "Range", QAccessible::ComboBox},
+        {ui.TextBoxTotalAssignments.key(), "Total Assignments", QAccessible::EditableText},
         {"LabelList", "List:", QAccessible::StaticText},
-        {"picCalendar", "Calendar", QAccessible::Grouping},
-        {"picGrid", "List", QAccessible::List},
+        {ui.picCalendar.key(), "Calendar", QAccessible::Grouping},
+        {ui.picGrid.key(), "List", QAccessible::List},
     };
     for (const auto& e : expected) {
-        QAccessibleInterface* node = QAccessible::queryAccessibleInterface(widget(e.key));
+        QAccessibleInterface* node = QAccessible::queryAccessibleInterface(frame->widget(e.key));
         ASSERT_NE(node, nullptr) << e.key;
         EXPECT_EQ(node->text(QAccessible::Name).toStdString(), e.name) << e.key;
         EXPECT_EQ(node->role(), e.role) << e.key;
     }
-    EXPECT_EQ(widget("PictureBarTasks")->toolTip(), "Tasks");
+    EXPECT_EQ(widget(ui.PictureBarTasks)->toolTip(), "Tasks");
 }
 
 TEST_F(MainWindowQt, AScreenReaderReadsTheGridRowByRowAndEnterOpensTheRowOfTheKeys) {
     for (const char* description : {"Buy paper", "Call home"})
         testing::addTask(main.store, {.description = description, .dated = false, .priority = "High"});
     key(frame, Qt::Key_4, Qt::ControlModifier);  // Tasks
-    QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(widget("picGrid"));
+    QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(widget(ui.picGrid));
     ASSERT_NE(grid, nullptr);
     QStringList lines;
     for (int i = 0; i < grid->childCount(); ++i)
@@ -231,26 +224,26 @@ TEST_F(MainWindowQt, AScreenReaderReadsTheGridRowByRowAndEnterOpensTheRowOfTheKe
     EXPECT_EQ(lines.join("|").toStdString(), "1, Buy paper, Personal, High, not checked|2, Call home, Personal, High, not checked");
 
     // Down twice stands on the second row; the frame shows round it while the grid has the keys.
-    widget("picGrid")->setFocus();
-    key(widget("picGrid"), Qt::Key_Down);
-    key(widget("picGrid"), Qt::Key_Down);
+    widget(ui.picGrid)->setFocus();
+    key(widget(ui.picGrid), Qt::Key_Down);
+    key(widget(ui.picGrid), Qt::Key_Down);
     EXPECT_EQ(window->state.KeyboardRow, 2);
-    EXPECT_TRUE(widget("picGrid")->hasFocus());
+    EXPECT_TRUE(widget(ui.picGrid)->hasFocus());
 }
 
 // --- What shows ------------------------------------------------------------------------
 
 TEST_F(MainWindowQt, TheStopwatchShowsItsLongFormWhole) {
-    window->click("MenuStudySessions");
-    window->click("LabelTime");  // hours, minutes and seconds
+    window->click(ui.MenuStudySessions.key());
+    window->click(ui.LabelTime.key());  // hours, minutes and seconds
     renderer.syncAll();
-    auto* label = dynamic_cast<PaintedBox*>(widget("LabelTime"));
+    auto* label = dynamic_cast<PaintedBox*>(widget(ui.LabelTime));
     ASSERT_NE(label, nullptr);
     ASSERT_EQ(label->control().caption, "00:00:00");
     const QFontMetricsF metrics(label->captionFont(), label);
     EXPECT_LE(metrics.horizontalAdvance(QStringLiteral("00:00:00")), label->width());
     // The short form keeps the control's own size.
-    window->click("LabelTime");
+    window->click(ui.LabelTime.key());
     renderer.syncAll();
     EXPECT_DOUBLE_EQ(label->captionFont().pointSizeF(), 14.0);
 }
@@ -262,9 +255,7 @@ TEST(MainWindowLook, TheStatusBarsTextStaysInsideItsFrame) {
     testApplication();
     LoadedMainWindow main;
     QtCanvasFactory canvases;
-    FakePlatform& fake = main.fake;
-    Platform platform{fake.environment, fake.clock,     fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs,   fake.windowing, canvases, fake.calendars};
+    Platform platform = withCanvases(main.fake, canvases);
     MainWindow window(main.store, platform);
     window.Form_Load();
     FormRenderer renderer;
@@ -272,7 +263,7 @@ TEST(MainWindowLook, TheStatusBarsTextStaysInsideItsFrame) {
     renderer.show(window);
     FormWindow& frame = *renderer.windowOf(window);
 
-    QWidget* bar = frame.widget("picStatusBar");
+    QWidget* bar = frame.widget(window.ui.picStatusBar.key());
     EXPECT_LE(bar->geometry().bottom(), frame.client()->rect().bottom());
     const QImage image = bar->grab().toImage();
     const double ratio = image.devicePixelRatio();
@@ -289,22 +280,19 @@ TEST(MainWindowLook, TheStatusBarsTextStaysInsideItsFrame) {
 
 TEST_F(MainWindowQt, TodaysCellHasABlackFrameAllRound) {
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), main.fake.clock.today());
-    QWidget* calendar = widget("picCalendar");
+    QWidget* calendar = widget(ui.picCalendar);
     // Looked at in the widget's own pixels, whatever the screen's density.
     const QImage image = calendar->grab().toImage().scaled(calendar->size());
-    const QRect today = widget("LabelCalDate(" + std::to_string(cell) + ")")->geometry();
-    int black = 0, ring = 0;
-    for (int x = today.left() - 1; x <= today.right() + 1; ++x)
-        for (int y : {today.top() - 1, today.bottom() + 1}) {
-            ++ring;
-            black += image.pixelColor(x, y) == Qt::black;
-        }
-    for (int y = today.top(); y <= today.bottom(); ++y)
-        for (int x : {today.left() - 1, today.right() + 1}) {
-            ++ring;
-            black += image.pixelColor(x, y) == Qt::black;
-        }
-    EXPECT_EQ(black, ring);
+    const QRect today = widget(ui.LabelCalDate, cell)->geometry();
+    const QRect ring = today.adjusted(-1, -1, 1, 1);
+    int black = 0, around = 0;
+    for (int y = ring.top(); y <= ring.bottom(); ++y)
+        for (int x = ring.left(); x <= ring.right(); ++x)
+            if (!today.contains(x, y)) {
+                ++around;
+                black += image.pixelColor(x, y) == Qt::black;
+            }
+    EXPECT_EQ(black, around);
 }
 
 // The box the sort arrow takes in a header picture of a size, drawn at the screen's
@@ -327,11 +315,12 @@ QRectF arrowIn(const QString& picture, QSize size, double ratio) {
 
 TEST_F(MainWindowQt, TheSortArrowNeverCoversAHeaderTitle) {
     int narrowest = 1 << 30;
-    for (const char* mode : {"MenuHomework", "MenuStudySessions", "MenuTasks", "MenuEvents", "MenuReminders"}) {
-        window->click(mode);
+    for (const ControlRef* mode :
+         {&ui.MenuHomework, &ui.MenuStudySessions, &ui.MenuTasks, &ui.MenuEvents, &ui.MenuReminders}) {
+        window->click(mode->key());
         renderer.syncAll();
         for (int c = 1; c < 9; ++c) {
-            QWidget* header = widget("picColHeader(" + std::to_string(c) + ")");
+            QWidget* header = frame->widget("picColHeader(" + std::to_string(c) + ")");
             if (!header->isVisible()) continue;
             auto& canvas = dynamic_cast<RecordingCanvas&>(*window->c("picColHeader", c).canvas);
             std::string title;
@@ -345,7 +334,8 @@ TEST_F(MainWindowQt, TheSortArrowNeverCoversAHeaderTitle) {
             for (const QString& picture : {QStringLiteral("GridTitleUp"), QStringLiteral("GridTitleDown")}) {
                 const QRectF arrow = arrowIn(picture, header->size(), header->devicePixelRatioF());
                 EXPECT_FALSE(arrow.isEmpty()) << title;
-                EXPECT_FALSE(arrow.intersects(text)) << mode << " " << title << " in " << header->width() << " pixels";
+                EXPECT_FALSE(arrow.intersects(text))
+                    << mode->key() << " " << title << " in " << header->width() << " pixels";
             }
         }
     }

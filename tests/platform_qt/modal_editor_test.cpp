@@ -1,6 +1,6 @@
 // An editor window shown modal by the real renderer: a press on its date field opens the
 // picker where the field's table puts it, a click on a day writes the field and closes the
-// picker, and OK ends the modal showing.
+// picker, and OK or the close box ends the modal showing.
 #include <gtest/gtest.h>
 
 #include <QCloseEvent>
@@ -13,7 +13,6 @@
 #include "editors/editor_host.h"
 #include "editors/frm_assignment.h"
 #include "editors/frm_course_schedule.h"
-#include "platform/fake/fake_platform.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_canvas.h"
 #include "qt_test_support.h"
@@ -32,26 +31,41 @@ public:
     Form owner{"frmMain"};
 };
 
-TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
-    testApplication();
+// An editor of the planner on the fake platform, drawn for real and shown modal by the
+// renderer, with the student's gestures made once it is up.
+class ModalEditor : public ::testing::Test {
+protected:
+    ModalEditor() {
+        testApplication();
+        renderer.quitWhenLastWindowCloses = false;
+    }
+    // Shows `window` new and modal until the gestures of `user` end the showing, which
+    // leaves the window hidden and no longer modal.
+    void showModal(Form& window, const std::function<void(FormWindow&)>& user) {
+        QObject scope;
+        QTimer::singleShot(0, &scope, [&] { user(*renderer.windowOf(window)); });
+        QTimer::singleShot(5000, &scope, [&] { window.hide(); });  // a safety net, never reached
+        renderer.showModal(window, nullptr);
+        EXPECT_FALSE(window.visible);
+        EXPECT_FALSE(renderer.windowOf(window)->isVisible());
+        EXPECT_FALSE(renderer.windowOf(window)->isModal());
+    }
+
     FakePlatform fake;
     QtCanvasFactory canvases;
-    Platform platform{fake.environment, fake.clock, fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs, fake.windowing, canvases, fake.calendars};
+    Platform platform = withCanvases(fake, canvases);
     Host host;
+    FormRenderer renderer;
+};
+
+TEST_F(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
     FrmCourseSchedule window(platform, host);
     window.Form_Load();
     window.editMode = EditMode::New;
-    FormRenderer renderer;
-    renderer.quitWhenLastWindowCloses = false;
-
     bool pickerShown = false;
     QPoint pickerAt;
-    QObject scope;
-    QTimer::singleShot(0, &scope, [&] {
-        FormWindow& shown = *renderer.windowOf(window);
-        QWidget* field = shown.widget("TextboxTermEnd");
-        QTest::mouseClick(field, Qt::LeftButton);
+    showModal(window, [&](FormWindow& shown) {
+        QTest::mouseClick(shown.widget("TextboxTermEnd"), Qt::LeftButton);
         QWidget* calendar = shown.widget("picCalendar");
         pickerShown = calendar->isVisible();
         pickerAt = calendar->pos();
@@ -59,50 +73,32 @@ TEST(ModalEditor, PicksADateWithTheMouseAndClosesWithOK) {
         QTest::mousePress(shown.widget("LabelCalMonthUp"), Qt::LeftButton);
         QTest::mouseRelease(shown.widget("LabelCalMonthUp"), Qt::LeftButton);
         const int cell = CellForDate(window.datePicker().cells().firstCell, dateFromYmd(2027, 2, 10));
-        if (cell < 0) {
-            window.hide();
-            return;
-        }
+        ASSERT_GE(cell, 0);
         QTest::mouseClick(shown.widget("LabelCalDate(" + std::to_string(cell) + ")"), Qt::LeftButton);
         QTest::mouseClick(shown.widget("ButtonOK"), Qt::LeftButton);
     });
-    QTimer::singleShot(5000, &scope, [&] { window.hide(); });  // a safety net, never reached
-    renderer.showModal(window, nullptr);
-
     EXPECT_TRUE(pickerShown);
     EXPECT_EQ(pickerAt, QPoint(3720 / 15, 1275 / 15));
     EXPECT_EQ(window.tempTermEndDate, dateFromYmd(2027, 2, 10));
     EXPECT_EQ(window.TextboxTermEnd->text, "Wednesday, February 10, 2027");
     EXPECT_EQ(window.outcome(), EditorOutcome::Saved);
-    EXPECT_FALSE(window.visible);
     EXPECT_FALSE(window.c("picCalendar").visible);
 }
 
 // The assignment editor under the renderer: the label's click makes the real window large,
 // a session added shows its line, a click on that line enables its Delete, and the close
 // box, refused by the window, cancels through its question.
-TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
-    testApplication();
-    FakePlatform fake;
-    QtCanvasFactory canvases;
-    Platform platform{fake.environment, fake.clock, fake.locale, fake.messages, fake.files,
-                      fake.processes,   fake.dialogs, fake.windowing, canvases, fake.calendars};
-    Host host;
+TEST_F(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
     FrmAssignment window(platform, host);
     window.Form_Load();
     window.editMode = EditMode::New;
     window.FormSmall = true;
     window.tempClassNameArray = {"Algebra"};
     window.tempAssignmentClassLinkArray = {"1"};
-    FormRenderer renderer;
-    renderer.quitWhenLastWindowCloses = false;
-
     int smallHeight = 0, largeHeight = 0;
     bool deleteEnabled = false;
     std::string line;
-    QObject scope;
-    QTimer::singleShot(0, &scope, [&] {
-        FormWindow& shown = *renderer.windowOf(window);
+    showModal(window, [&](FormWindow& shown) {
         smallHeight = shown.client()->height();
         QTest::mouseClick(shown.widget("LabelViewSessions"), Qt::LeftButton);
         largeHeight = shown.client()->height();
@@ -116,9 +112,6 @@ TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
         QCloseEvent close;
         QApplication::sendEvent(&shown, &close);
     });
-    QTimer::singleShot(5000, &scope, [&] { window.hide(); });  // a safety net, never reached
-    renderer.showModal(window, nullptr);
-
     EXPECT_EQ(smallHeight, (kAssignmentSmallHeight - Form::kFrameHeight) / 15);
     EXPECT_EQ(largeHeight, (kAssignmentLargeHeight - Form::kFrameHeight) / 15);
     EXPECT_EQ(line, "00 : 30    Saturday, Nov 21, 2026");
@@ -126,7 +119,6 @@ TEST(ModalEditor, AssignmentEditorGrowsAddsASessionAndCancelsByTheCloseBox) {
     ASSERT_EQ(fake.messages.shown.size(), 1u);
     EXPECT_EQ(fake.messages.shown[0].text, "Cancel this Assignment?");
     EXPECT_EQ(window.outcome(), EditorOutcome::Cancelled);
-    EXPECT_FALSE(window.visible);
 }
 
 }  // namespace

@@ -19,6 +19,11 @@ Application& testApplication() {
     return *app;
 }
 
+Platform withCanvases(FakePlatform& fake, CanvasFactory& canvases) {
+    return {fake.environment, fake.clock,   fake.locale,    fake.messages, fake.files,
+            fake.processes,   fake.dialogs, fake.windowing, canvases,      fake.calendars};
+}
+
 }  // namespace qh
 
 // Read by LeakSanitizer in the sanitizer build. Fontconfig keeps its parsed configuration
