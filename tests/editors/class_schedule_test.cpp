@@ -30,7 +30,7 @@ struct Schedule : LoadedMainWindow {
     void run(const std::function<void(FrmSelectCourseSchedule&)>& choose, const Step& edit) {
         drive<FrmSelectCourseSchedule>("frmSelectCourseSchedule", choose);
         drive<FrmCourseSchedule>("frmCourseSchedule", edit);
-        window->click("ButtonSelectTerm");
+        window->click(window->ui.ButtonSelectTerm.key());
     }
 };
 
@@ -218,7 +218,7 @@ TEST(ClassSchedule, ProposesTheSeasonByMonthAndSeventyDays) {
         EXPECT_FALSE(form.c("ButtonActive").enabled);
         form.click("ButtonCancel");
     });
-    empty.window->click("MenuClassSchedule");
+    empty.window->click(empty.window->ui.MenuClassSchedule.key());
     EXPECT_EQ(empty.fake.windowing.log.back(), "modal frmSelectCourseSchedule");
 }
 
