@@ -9,7 +9,13 @@
 #include "editors/editor_form.h"
 #include "support/main_window_fixture.h"
 
-namespace qh::test {
+namespace qh {
+
+inline void PrintTo(EditorOutcome outcome, std::ostream* os) {
+    *os << (outcome == EditorOutcome::Saved ? "Saved" : outcome == EditorOutcome::Deleted ? "Deleted" : "Cancelled");
+}
+
+namespace test {
 
 // 2026-11-21, a Saturday: today and the calendar's date at the start.
 template <class Window>
@@ -94,4 +100,5 @@ void expectEachQuestion(const std::string& file, const std::vector<QuestionCase<
     }
 }
 
-}  // namespace qh::test
+}  // namespace test
+}  // namespace qh
