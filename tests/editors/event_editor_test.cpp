@@ -53,11 +53,6 @@ const EventFields kClass{.recordNo = 4, .date = "2026/11/02", .description = "Sw
 
 std::string fourEvents() { return eventRecord(kBirthday) + eventRecord(kClub) + eventRecord(kGone) + eventRecord(kClass); }
 
-EventFields with(EventFields event, const std::function<void(EventFields&)>& change) {
-    change(event);
-    return event;
-}
-
 TEST(EventEditor, EachKindOfSaveWritesTheRecordByteForByte) {
     test::expectEachSave<Events, FrmEvent>({
         // A one-off stores the yearly controls as they stand, and the end date the
@@ -82,14 +77,14 @@ TEST(EventEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.click("ButtonOK");
          },
          eventRecord(kBirthday) + eventRecord(kClub) + eventRecord(kGone) +
-             eventRecord(with(kClass, [](EventFields& e) { e.repeatDaily = "TFTFTFF"; }))},
+             eventRecord(test::with(kClass, [](EventFields& e) { e.repeatDaily = "TFTFTFF"; }))},
         // The yearly event has no end: switching the end on takes the proposal shown.
         {"EditSwitchesTheProposedEndOn", fourEvents(), 1,
          [](FrmEvent& w) {
              w.click("CheckboxEndDate");
              w.click("ButtonOK");
          },
-         eventRecord(with(kBirthday, [](EventFields& e) {
+         eventRecord(test::with(kBirthday, [](EventFields& e) {
              e.end = "True";
              e.endDate = "2006/03/12";
          })) + eventRecord(kClub) + eventRecord(kGone) + eventRecord(kClass)},

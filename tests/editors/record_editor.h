@@ -11,6 +11,7 @@
 
 namespace qh {
 
+// A showing's outcome by name in a failed check, for every editor's tests.
 inline void PrintTo(EditorOutcome outcome, std::ostream* os) {
     *os << (outcome == EditorOutcome::Saved ? "Saved" : outcome == EditorOutcome::Deleted ? "Deleted" : "Cancelled");
 }
@@ -40,6 +41,13 @@ struct RecordEditor : LoadedMainWindow {
     std::string fileName, windowName;
     Open open;
 };
+
+// A record's fields with `change` made, as an edit leaves them.
+template <class Fields, class Change>
+Fields with(Fields fields, Change change) {
+    change(fields);
+    return fields;
+}
 
 // A drive holding `before`, the record of `row` opened and driven by `step`: the file then
 // holds `after`.

@@ -25,10 +25,6 @@ const TaskFields kEssay{.recordNo = 3, .description = "Essay outline", .dateExis
 std::string threeTasks() { return taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(kEssay); }
 
 TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
-    const auto with = [](TaskFields task, const std::function<void(TaskFields&)>& change) {
-        change(task);
-        return task;
-    };
     test::expectEachSave<Tasks, FrmTask>({
         // A date picked and the deadline switched off again: today's date is stored.
         {"NewWithoutDeadlineStoresToday", "", 0,
@@ -55,7 +51,7 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.click("CheckBoxDone");
              w.click("ButtonOK");
          },
-         taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(with(kEssay, [](TaskFields& t) {
+         taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(test::with(kEssay, [](TaskFields& t) {
              t.description = "Essay draft";
              t.done = "True";
          }))},
@@ -65,7 +61,7 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.select("ComboPriority", "Low");
              w.click("ButtonOK");
          },
-         taskRecord(with(kLaundry, [](TaskFields& t) {
+         taskRecord(test::with(kLaundry, [](TaskFields& t) {
              t.priority = "Low";
              t.date = "2026/11/21";
          })) + taskRecord(kTombstone) + taskRecord(kEssay)},
