@@ -44,7 +44,14 @@ struct Editor : LoadedMainWindow {
         loadLogLength = fake.files.log.size();
     }
     std::size_t loadLogLength = 0;
-    void use(const Use& user) { drive<FrmAssignment>("frmAssignment", user); }
+    // Opens the assignment of list row `row` (0: a new one, from the button) for `user`.
+    void run(int row, const Use& user) {
+        drive<FrmAssignment>("frmAssignment", user);
+        if (row == 0)
+            window->click(window->ui.ButtonNewAssignment.key());
+        else
+            window->EditAssignment(row);
+    }
     // The records written since the load, "Notes.txt record 2"; any other write too.
     std::vector<std::string> recordWrites() {
         std::vector<std::string> writes;
@@ -159,11 +166,7 @@ TEST(AssignmentEditor, EachKindOfSaveWritesTheRecordsByteForByte) {
         SCOPED_TRACE(c.name);
         Editor editor(c.records);
         editor.fake.messages.answers.assign(c.answers.begin(), c.answers.end());
-        editor.use(c.user);
-        if (c.editRow == 0)
-            editor.window->click("ButtonNewAssignment");
-        else
-            editor.window->EditAssignment(c.editRow);
+        editor.run(c.editRow, c.user);
         EXPECT_EQ(editor.dataFile("Assignments.txt"), c.assignments);
         EXPECT_EQ(editor.dataFile("Notes.txt"), c.notes);
         EXPECT_EQ(editor.dataFile("StudySessions.txt"), c.sessions);
@@ -204,15 +207,13 @@ TEST(AssignmentEditor, AnEditShowsTheRecordWithItsCorrections) {
         shown["first session"] = w.ListBoxStudySessions->items.empty() ? "" : w.ListBoxStudySessions->items[0];
         w.click("ButtonCancel");
     };
-    editor.use(look);
-    editor.window->EditAssignment(1);
+    editor.run(1, look);
     EXPECT_EQ(shown["TextboxDateDue"], "Tuesday, November 24, 2026");
     EXPECT_EQ(shown["TextBoxTotalTime"], "01 : 45");
     EXPECT_EQ(shown["LabelClass"], "Classes Fall 2026");
     EXPECT_EQ(shown["first session"], "00 : 15    Friday, Nov 20, 2026");
 
-    editor.use(look);
-    editor.window->EditAssignment(2);
+    editor.run(2, look);
     EXPECT_EQ(shown["ComboClassNameList"], "");
     EXPECT_EQ(shown["ComboGrade"], " ");
     EXPECT_EQ(shown["ComboWeight"], "5");
@@ -284,17 +285,13 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
         editor.window->state.Refreshing = RefreshReason::Resize;  // no refresh puts it back to None
         bool stayedOpen = false;
         std::string focus;
-        editor.use([&](FrmAssignment& w) {
+        editor.run(c.edit ? 1 : 0, [&](FrmAssignment& w) {
             w.SetFocus("ButtonOK");
             c.user(w);
             stayedOpen = w.visible;
             focus = w.focusedControl;
             if (w.visible) w.hide();  // a hidden window saves nothing
         });
-        if (c.edit)
-            editor.window->EditAssignment(1);
-        else
-            editor.window->click("ButtonNewAssignment");
         EXPECT_EQ(editor.messageTexts(), c.messages);
         EXPECT_EQ(stayedOpen, c.stayedOpen);
         if (!c.focus.empty()) {
@@ -310,7 +307,7 @@ TEST(AssignmentEditor, ChecksAndQuestionsInTheirOrder) {
 TEST(AssignmentEditor, SessionRulesRefuseAndAddedSessionsThatGoLeaveNoTrace) {
     Editor editor(false);
     std::vector<std::string> states;
-    editor.use([&](FrmAssignment& w) {
+    editor.run(0, [&](FrmAssignment& w) {
         const auto state = [&] {
             states.push_back(w.LabelStudySessions->caption + " " + w.TextBoxTotalTime->text + " " +
                              w.TextBoxTimeLeft->text + (w.estimateUsedUp ? " used" : ""));
@@ -349,7 +346,6 @@ TEST(AssignmentEditor, SessionRulesRefuseAndAddedSessionsThatGoLeaveNoTrace) {
         state();
         w.click("ButtonCancel");
     });
-    editor.window->click("ButtonNewAssignment");
     EXPECT_EQ(states, (std::vector<std::string>{
                           "Study Sessions: 02 01 : 05 00 : -5 used", "Study Sessions: 01 00 : 45 00 : 15",
                           "Study Sessions: 01 00 : 45 00 : 15", "Study Sessions: 00 00 : 00 01 : 00",
@@ -385,12 +381,12 @@ TEST(AssignmentEditor, ListRowsOpenTheRecordTheyShow) {
     MainWindow& window = *editor.window;
     std::vector<std::string> opened;
     const auto expectOpen = [&] {
-        editor.use([&](FrmAssignment& w) {
+        editor.drive<FrmAssignment>("frmAssignment", [&](FrmAssignment& w) {
             opened.push_back((w.editMode == EditMode::New ? "New " : "Edit ") + w.TextBoxDescription->text);
             w.click("ButtonCancel");
         });
     };
-    window.scrollTo("VSGridScroll", 5);
+    window.scrollTo(window.ui.VSGridScroll.key(), 5);
     ASSERT_EQ(window.state.TopRow, 5);
     const std::string shownSecond =
         editor.store.AssignmentDescriptions(int(window.state.ListAssignmentRows(window.state.TopRow - 1 + 2)));
@@ -398,7 +394,7 @@ TEST(AssignmentEditor, ListRowsOpenTheRecordTheyShow) {
     window.GridRowClicked(2);
     expectOpen();
     window.GridRowClicked(window.state.ListAssignmentRows.count() + 1);
-    window.click("MenuStudySessions");
+    window.click(window.ui.MenuStudySessions.key());
     expectOpen();
     window.GridRowClicked(1);
     window.GridRowClicked(2);  // below the one session: nothing opens
@@ -414,19 +410,17 @@ TEST(AssignmentEditor, ShareWritesFromAnEditAndReadsIntoANewOne) {
     editor.fake.dialogs.fileAnswers.push_back({true, 0, path, "Chapter 6 test, Nov 24.txt"});
     // A share out is no change of the record: Cancel after it asks nothing.
     editor.fake.dialogs.fileAnswers.push_front({true, 0, path + ".first", "first.txt"});
-    editor.use([&](FrmAssignment& w) {
+    editor.run(1, [&](FrmAssignment& w) {
         w.click("ButtonShare");
         w.click("ButtonCancel");
     });
-    editor.window->EditAssignment(1);
     EXPECT_TRUE(editor.messageTexts().empty());
     editor.fake.messages.answers.push_back(MessageAnswer::Yes);
-    editor.use([&](FrmAssignment& w) {
+    editor.run(1, [&](FrmAssignment& w) {
         w.type("TextBoxDescription", "Chapter 6 test");  // not saved
         w.click("ButtonShare");
         w.click("ButtonCancel");
     });
-    editor.window->EditAssignment(1);
     ASSERT_EQ(editor.fake.dialogs.fileRequests.size(), 2u);
     EXPECT_EQ(editor.fake.dialogs.fileRequests[1].title, "Save an Assignment File");
     EXPECT_EQ(editor.messageTexts(), std::vector<std::string>{"Cancel all changes to this Test?"});
@@ -436,11 +430,10 @@ TEST(AssignmentEditor, ShareWritesFromAnEditAndReadsIntoANewOne) {
     EXPECT_EQ(editor.fake.bytesOf(path), sharedFileBytes(onScreen));
 
     editor.fake.dialogs.fileAnswers.push_back({true, 0, path, "Chapter 6 test, Nov 24.txt"});
-    editor.use([](FrmAssignment& w) {
+    editor.run(0, [](FrmAssignment& w) {
         w.click("ButtonShare");
         w.click("ButtonOK");
     });
-    editor.window->click("ButtonNewAssignment");
     EXPECT_EQ(editor.dataFile("Assignments.txt"),
               record(kTest) + record(kReading) +
                   record({3, 1, "2026/11/24", "Test", "Hard", "02 : 00", "Chapter 6 test", "False", " ", "20", "1 Day"}));
@@ -476,7 +469,7 @@ TEST(AssignmentEditor, NewAssignmentAsksForATermAndClassesFirst) {
         editor.fake.windowing.log.clear();
         editor.fake.windowing.modalUsers["frmSelectCourseSchedule"].push_back(
             [](Form& form) { form.click("ButtonCancel"); });
-        editor.window->click("MenuNewAssignment");
+        editor.window->click(editor.window->ui.MenuNewAssignment.key());
         EXPECT_EQ(editor.messageTexts(), std::vector<std::string>{c.question});
         std::string modals;
         for (const std::string& line : editor.fake.windowing.log)

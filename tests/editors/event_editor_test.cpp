@@ -8,13 +8,11 @@
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
 #include "editors/frm_task.h"
-#include "support/main_window_fixture.h"
+#include "editors/record_editor.h"
 #include "support/record_fields.h"
 
 namespace qh {
 namespace {
-
-using Step = std::function<void(FrmEvent&)>;
 
 // Picks `date` in date field `field` with the window's own picker, as a person does.
 void pick(FrmEvent& w, const std::string& field, int year, int month, int day) {
@@ -33,20 +31,10 @@ void pick(FrmEvent& w, const std::string& field, int year, int month, int day) {
     w.click("LabelCalDate(" + std::to_string(cell) + ")");
 }
 
-// 2026-11-21, a Saturday: today and the calendar's date at the start.
-struct Events : LoadedMainWindow {
-    explicit Events(const std::string& file = "") {
-        if (!file.empty()) putDataFile("Events.txt", file);
-        fake.clock.set(2026, 11, 21);
-        load();
-    }
-    void run(int row, const Step& step) {
-        drive<FrmEvent>("frmEvent", step);
-        if (row == 0)
-            window->NewEvent();
-        else
-            window->EditEvent(row);
-    }
+struct Events : test::RecordEditor<FrmEvent> {
+    explicit Events(const std::string& file = "")
+        : RecordEditor("Events.txt", "frmEvent",
+                       [](MainWindow& w, int row) { row == 0 ? w.NewEvent() : w.EditEvent(row); }, file) {}
     std::string longDate(int year, int month, int day) { return fake.locale.longDate(dateFromYmd(year, month, day)); }
 };
 
@@ -65,19 +53,8 @@ const EventFields kClass{.recordNo = 4, .date = "2026/11/02", .description = "Sw
 
 std::string fourEvents() { return eventRecord(kBirthday) + eventRecord(kClub) + eventRecord(kGone) + eventRecord(kClass); }
 
-EventFields with(EventFields event, const std::function<void(EventFields&)>& change) {
-    change(event);
-    return event;
-}
-
 TEST(EventEditor, EachKindOfSaveWritesTheRecordByteForByte) {
-    const struct {
-        const char* name;
-        std::string before;
-        int row;
-        Step step;
-        std::string after;
-    } cases[] = {
+    test::expectEachSave<Events, FrmEvent>({
         // A one-off stores the yearly controls as they stand, and the end date the
         // yearly panel proposed, with no end.
         {"NewOneOffStoresTheYearlyControls", "", 0,
@@ -100,24 +77,18 @@ TEST(EventEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.click("ButtonOK");
          },
          eventRecord(kBirthday) + eventRecord(kClub) + eventRecord(kGone) +
-             eventRecord(with(kClass, [](EventFields& e) { e.repeatDaily = "TFTFTFF"; }))},
+             eventRecord(test::with(kClass, [](EventFields& e) { e.repeatDaily = "TFTFTFF"; }))},
         // The yearly event has no end: switching the end on takes the proposal shown.
         {"EditSwitchesTheProposedEndOn", fourEvents(), 1,
          [](FrmEvent& w) {
              w.click("CheckboxEndDate");
              w.click("ButtonOK");
          },
-         eventRecord(with(kBirthday, [](EventFields& e) {
+         eventRecord(test::with(kBirthday, [](EventFields& e) {
              e.end = "True";
              e.endDate = "2006/03/12";
          })) + eventRecord(kClub) + eventRecord(kGone) + eventRecord(kClass)},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Events events(c.before);
-        events.run(c.row, c.step);
-        EXPECT_EQ(events.dataFile("Events.txt"), c.after);
-    }
+    });
 }
 
 // The panel as the radios and the dates set it, and the two heights of the window.
@@ -212,21 +183,14 @@ TEST(EventEditor, ThePanelTakesTheDefaultsOfItsDate) {
 // OK's four checks, the first failing one alone; cancel, close box and delete with their
 // questions.
 TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
-    const struct {
-        const char* name;
-        int row;
-        std::vector<MessageAnswer> answers;
-        Step step;
-        std::vector<std::string> messages;
-        bool staysOpen;
-    } cases[] = {
+    test::expectEachQuestion<Events, FrmEvent>(fourEvents(), {
         {"NoNameWinsOverNoDays", 0, {},
          [](FrmEvent& w) {
              w.click("RadioRepeatDaily");
              w.click("CheckBoxSaturday");
              w.click("ButtonOK");
          },
-         {"This Event has no name."}, true},
+         {"This Event has no name."}, true, EditorOutcome::Cancelled},
         {"EndBeforeTheDate", 0, {},
          [](FrmEvent& w) {
              w.type("TextBoxEvent", "Run");
@@ -234,7 +198,7 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
              pick(w, "TextboxEndDate", 2026, 11, 20);
              w.click("ButtonOK");
          },
-         {"The 'End on' Date occurs before the Event Date."}, true},
+         {"The 'End on' Date occurs before the Event Date."}, true, EditorOutcome::Cancelled},
         // The 9th is a Monday of the second run: "First" "Monday" doesn't fit it.
         {"RuleThatMissesItsDate", 0, {},
          [](FrmEvent& w) {
@@ -245,7 +209,8 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
              w.select("ComboYearlyNumber", "First");
              w.click("ButtonOK");
          },
-         {"This Event does not recur on the same days that it starts on."}, true},
+         {"This Event does not recur on the same days that it starts on."}, true,
+         EditorOutcome::Cancelled},
         // A misfit in the yearly panel is not read for a monthly event.
         {"OnlyTheChosenPanelIsChecked", 0, {},
          [](FrmEvent& w) {
@@ -256,7 +221,7 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
              w.click("RadioRepeatMonthly");
              w.click("ButtonOK");
          },
-         {}, false},
+         {}, false, EditorOutcome::Saved},
         {"CancelOfANewEventRefused", 0, {MessageAnswer::No},
          [](FrmEvent& w) {
              w.type("TextBoxEvent", "Run");
@@ -264,36 +229,20 @@ TEST(EventEditor, ChecksAndQuestionsInTheirOrder) {
              EXPECT_EQ(w.TextBoxEvent->text, "Run");
              EXPECT_TRUE(w.hasChanges());
          },
-         {"Cancel this Event?"}, true},
+         {"Cancel this Event?"}, true, EditorOutcome::Cancelled},
         {"CloseBoxOfAnEditAsksAndHides", 2, {MessageAnswer::Yes},
          [](FrmEvent& w) {
              w.select("ComboTime", "None");
              EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox));
          },
-         {"Cancel all changes to this Event?"}, false},
+         {"Cancel all changes to this Event?"}, false, EditorOutcome::Cancelled},
         {"DeleteRefused", 2, {MessageAnswer::No},
          [](FrmEvent& w) {
              w.click("ButtonDelete");
              EXPECT_EQ(w.TextBoxEvent->text, "Chess club");
          },
-         {"Are you sure you want to Delete this Event?"}, true},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Events events(fourEvents());
-        for (MessageAnswer answer : c.answers) events.fake.messages.answers.push_back(answer);
-        bool open = false;
-        events.run(c.row, [&](FrmEvent& w) {
-            c.step(w);
-            open = w.visible;
-            if (open) w.hide();  // hidden by no button of its own: a cancel, so nothing is written
-        });
-        EXPECT_EQ(events.messageTexts(), c.messages);
-        EXPECT_EQ(open, c.staysOpen);
-        if (c.staysOpen) {
-            EXPECT_EQ(events.dataFile("Events.txt"), fourEvents());
-        }
-    }
+         {"Are you sure you want to Delete this Event?"}, true, EditorOutcome::Cancelled},
+    });
 }
 
 // Every control of both windows lies inside its container, the window's client area at

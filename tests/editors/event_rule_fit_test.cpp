@@ -35,45 +35,9 @@ TEST(RuleFitsStartDate, WeekdayRulesOnTheBoundariesOfTheSevenDayRuns) {
     }
 }
 
-// "Day" rules name days 1 to 4 and the month's last day; the last day is looked up in the
-// date's own month and year.
-TEST(RuleFitsStartDate, DayRulesNameTheFirstFourDaysAndTheMonthsLastDay) {
-    const struct {
-        const char* name;
-        const char* number;
-        Ymd date;
-        bool fits;
-    } rows[] = {
-        {"First on the 1st", "First", {2026, 3, 1}, true},
-        {"First on the 8th", "First", {2026, 3, 8}, false},
-        {"Second on the 2nd", "Second", {2026, 3, 2}, true},
-        {"Second on the 1st", "Second", {2026, 3, 1}, false},
-        {"Third on the 3rd", "Third", {2026, 3, 3}, true},
-        {"Fourth on the 4th", "Fourth", {2026, 6, 4}, true},
-        {"Fourth on the 22nd", "Fourth", {2026, 3, 22}, false},
-        {"Fourth on the 28th", "Fourth", {2026, 2, 28}, false},
-        {"Last on 28 February, common year", "Last", {2026, 2, 28}, true},
-        {"Last on 28 February, leap year", "Last", {2024, 2, 28}, false},
-        {"Last on 29 February, leap year", "Last", {2024, 2, 29}, true},
-        {"Last on 28 April", "Last", {2026, 4, 28}, false},
-        {"Last on 29 April", "Last", {2026, 4, 29}, false},
-        {"Last on 30 April", "Last", {2026, 4, 30}, true},
-        {"Last on 1 May", "Last", {2026, 5, 1}, false},
-        {"Last on 28 December", "Last", {2026, 12, 28}, false},
-        {"Last on 29 December", "Last", {2026, 12, 29}, false},
-        {"Last on 30 December", "Last", {2026, 12, 30}, false},
-        {"Last on 31 December", "Last", {2026, 12, 31}, true},
-        {"Last on 31 December 9999", "Last", {9999, 12, 31}, true},
-        {"a number the combo doesn't hold", "Fifth", {2026, 3, 17}, true},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(RuleFitsStartDate(row.number, "Day", dateFromYmd(row.date.year, row.date.month, row.date.day)),
-                  row.fits);
-    }
-}
-
-TEST(RuleFitsStartDate, AWeekdayRuleMustNameTheStartDatesOwnWeekday) {
+// "Day" rules name days 1 to 4 and the month's last day, looked up in the date's own month
+// and year; a weekday rule must name the start date's own weekday.
+TEST(RuleFitsStartDate, DayRulesNameTheFirstFourDaysOrTheLastAndWeekdayRulesTheDatesWeekday) {
     const struct {
         const char* name;
         const char* number;
@@ -81,13 +45,34 @@ TEST(RuleFitsStartDate, AWeekdayRuleMustNameTheStartDatesOwnWeekday) {
         Ymd date;
         bool fits;
     } rows[] = {
+        {"First on the 1st", "First", "Day", {2026, 3, 1}, true},
+        {"First on the 8th", "First", "Day", {2026, 3, 8}, false},
+        {"Second on the 2nd", "Second", "Day", {2026, 3, 2}, true},
+        {"Second on the 1st", "Second", "Day", {2026, 3, 1}, false},
+        {"Third on the 3rd", "Third", "Day", {2026, 3, 3}, true},
+        {"Fourth on the 4th", "Fourth", "Day", {2026, 6, 4}, true},
+        {"Fourth on the 22nd", "Fourth", "Day", {2026, 3, 22}, false},
+        {"Fourth on the 28th", "Fourth", "Day", {2026, 2, 28}, false},
+        {"Last on 28 February, common year", "Last", "Day", {2026, 2, 28}, true},
+        {"Last on 28 February, leap year", "Last", "Day", {2024, 2, 28}, false},
+        {"Last on 29 February, leap year", "Last", "Day", {2024, 2, 29}, true},
+        {"Last on 28 April", "Last", "Day", {2026, 4, 28}, false},
+        {"Last on 29 April", "Last", "Day", {2026, 4, 29}, false},
+        {"Last on 30 April", "Last", "Day", {2026, 4, 30}, true},
+        {"Last on 1 May", "Last", "Day", {2026, 5, 1}, false},
+        {"Last on 28 December", "Last", "Day", {2026, 12, 28}, false},
+        {"Last on 29 December", "Last", "Day", {2026, 12, 29}, false},
+        {"Last on 30 December", "Last", "Day", {2026, 12, 30}, false},
+        {"Last on 31 December", "Last", "Day", {2026, 12, 31}, true},
+        {"Last on 31 December 9999", "Last", "Day", {9999, 12, 31}, true},
+        {"a number the combo doesn't hold, Day", "Fifth", "Day", {2026, 3, 17}, true},
         {"Monday the 8th as First Monday", "First", "Monday", {2027, 3, 8}, false},
         {"Monday the 8th as Second Monday", "Second", "Monday", {2027, 3, 8}, true},
         {"Monday the 8th as Second Tuesday", "Second", "Tuesday", {2027, 3, 8}, false},
         {"Monday the 22nd as Last Monday, the 29th follows", "Last", "Monday", {2022, 8, 22}, true},
         {"Sunday as Sunday, the last of the combo's days", "Third", "Sunday", {2026, 3, 15}, true},
         {"a day name the combo doesn't hold", "Third", "sunday", {2026, 3, 15}, false},
-        {"a number the combo doesn't hold", "Fifth", "Sunday", {2026, 3, 29}, false},
+        {"a number the combo doesn't hold, Sunday", "Fifth", "Sunday", {2026, 3, 29}, false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

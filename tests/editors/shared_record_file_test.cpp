@@ -44,28 +44,18 @@ std::string readable(const std::string& bytes) {
     return out.str();
 }
 
-struct WriteCase {
-    const char* name;
-    std::function<std::string()> write;
-};
-
-void PrintTo(const WriteCase& c, std::ostream* os) { *os << c.name; }
-
-class SharedFileWrite : public testing::TestWithParam<WriteCase> {};
-
-TEST_P(SharedFileWrite, MatchesItsReferenceByteForByte) {
-    const std::string expected = referenceBytes(std::string(GetParam().name) + ".txt");
-    ASSERT_FALSE(expected.empty());
-    const std::string written = GetParam().write();
-    EXPECT_EQ(readable(written), readable(expected));
-    EXPECT_TRUE(written == expected);  // byte for byte; the line above shows where not
+TEST(SharedFileWrite, EachKindMatchesItsReferenceByteForByte) {
+    const std::pair<const char*, std::string> kinds[] = {{"assignment", sharedFileBytes(filledAssignment())},
+                                                         {"task", sharedFileBytes(filledTask(), kSharedToday)},
+                                                         {"event", sharedFileBytes(filledEvent())}};
+    for (const auto& [name, written] : kinds) {
+        SCOPED_TRACE(name);
+        const std::string expected = referenceBytes(std::string(name) + ".txt");
+        ASSERT_FALSE(expected.empty());
+        EXPECT_EQ(readable(written), readable(expected));
+        EXPECT_TRUE(written == expected);  // byte for byte; the line above shows where not
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, SharedFileWrite,
-                         testing::Values(WriteCase{"assignment", [] { return sharedFileBytes(filledAssignment()); }},
-                                         WriteCase{"task", [] { return sharedFileBytes(filledTask(), kSharedToday); }},
-                                         WriteCase{"event", [] { return sharedFileBytes(filledEvent()); }}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SharedFileRoundTrip, GivesBackEveryFieldWithTheNotesLineBreaks) {
     SharedAssignment assignment = filledAssignment();
@@ -133,53 +123,45 @@ TEST(SharedFileWidth, TextsAreCutAtTheirWidthInCodePageBytes) {
     EXPECT_EQ(read->description, std::string(59, 'a') + "\u00E9");
 }
 
-// Lines each reader must refuse, made from a valid file of the kind.
-struct Refusal {
-    const char* name;
-    SharedKind kind;
-    std::function<std::string(std::string)> damage;  // from the valid file's bytes
-};
-
 std::string replaced(std::string bytes, std::size_t start, std::string_view with) {
     return bytes.replace(start - 1, with.size(), with);
 }
 
-void PrintTo(const Refusal& r, std::ostream* os) { *os << r.name; }
-
-class SharedFileRefusal : public testing::TestWithParam<Refusal> {};
-
-TEST_P(SharedFileRefusal, IsNotAFileOfTheKind) {
-    const SharedKind kind = GetParam().kind;
-    ASSERT_TRUE(readsAs(kind, filledFile(kind)));
-    EXPECT_FALSE(readsAs(kind, GetParam().damage(filledFile(kind))));
+// Lines each reader must refuse, made from a valid file of the kind.
+TEST(SharedFileRead, RefusesWhatIsNotAFileOfTheKind) {
+    constexpr auto A = SharedKind::Assignment;
+    constexpr auto T = SharedKind::Task;
+    constexpr auto E = SharedKind::Event;
+    const struct {
+        const char* name;
+        SharedKind kind;
+        std::function<std::string(std::string)> damage;  // from the valid file's bytes
+    } rows[] = {
+        {"EventMarkerOnATaskLengthLine", T, [](std::string b) { return replaced(b, 1, "EVEN"); }},
+        {"TaskMarkerOnAnEventLengthLine", E, [](std::string b) { return replaced(b, 1, "TASK "); }},
+        {"LowerCaseMarker", A, [](std::string b) { return replaced(b, 1, "assignment"); }},
+        {"OneByteShort", E, [](std::string b) { return b.erase(954, 1); }},
+        {"OneByteLong", T, [](std::string b) { return b.insert(900, "x"); }},
+        {"AnotherKindsFile", A, [](std::string) { return filledFile(T); }},
+        {"Empty", T, [](std::string) { return std::string(); }},
+        {"OnlyALineEnd", E, [](std::string) { return std::string("\r\n"); }},
+        {"CarriageReturnInsideTheLine", A, [](std::string b) { return replaced(b, 500, "\r"); }},
+        {"NulInTheNotes", E, [](std::string b) { return replaced(b, 200, std::string(1, '\0')); }},
+        {"DueDateMonth13", A, [](std::string b) { return replaced(b, 86, "2026/13/01"); }},
+        {"DueDateBlank", A, [](std::string b) { return replaced(b, 86, std::string(15, ' ')); }},
+        {"TaskDateWords", T, [](std::string b) { return replaced(b, 70, "tomorrow  "); }},
+        {"DeadlineNeitherTrueNorFalse", T, [](std::string b) { return replaced(b, 65, "Yes  "); }},
+        {"EventFirstDate30February", E, [](std::string b) { return replaced(b, 66, "2027/02/30"); }},
+        {"EventEndDateBlank", E, [](std::string b) { return replaced(b, 146, std::string(15, ' ')); }},
+        {"UnknownRecurrence", E, [](std::string b) { return replaced(b, 101, "Week "); }},
+        {"MonthlyFromLateIn9999", E, [](std::string b) { return replaced(b, 66, "9999/08/01"); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(readsAs(row.kind, filledFile(row.kind)));
+        EXPECT_FALSE(readsAs(row.kind, row.damage(filledFile(row.kind))));
+    }
 }
-
-constexpr auto A = SharedKind::Assignment;
-constexpr auto T = SharedKind::Task;
-constexpr auto E = SharedKind::Event;
-
-INSTANTIATE_TEST_SUITE_P(
-    Damaged, SharedFileRefusal,
-    testing::Values(Refusal{"EventMarkerOnATaskLengthLine", T, [](std::string b) { return replaced(b, 1, "EVEN"); }},
-                    Refusal{"TaskMarkerOnAnEventLengthLine", E, [](std::string b) { return replaced(b, 1, "TASK "); }},
-                    Refusal{"LowerCaseMarker", A, [](std::string b) { return replaced(b, 1, "assignment"); }},
-                    Refusal{"OneByteShort", E, [](std::string b) { return b.erase(954, 1); }},
-                    Refusal{"OneByteLong", T, [](std::string b) { return b.insert(900, "x"); }},
-                    Refusal{"AnotherKindsFile", A, [](std::string) { return filledFile(T); }},
-                    Refusal{"Empty", T, [](std::string) { return std::string(); }},
-                    Refusal{"OnlyALineEnd", E, [](std::string) { return std::string("\r\n"); }},
-                    Refusal{"CarriageReturnInsideTheLine", A, [](std::string b) { return replaced(b, 500, "\r"); }},
-                    Refusal{"NulInTheNotes", E, [](std::string b) { return replaced(b, 200, std::string(1, '\0')); }},
-                    Refusal{"DueDateMonth13", A, [](std::string b) { return replaced(b, 86, "2026/13/01"); }},
-                    Refusal{"DueDateBlank", A, [](std::string b) { return replaced(b, 86, std::string(15, ' ')); }},
-                    Refusal{"TaskDateWords", T, [](std::string b) { return replaced(b, 70, "tomorrow  "); }},
-                    Refusal{"DeadlineNeitherTrueNorFalse", T, [](std::string b) { return replaced(b, 65, "Yes  "); }},
-                    Refusal{"EventFirstDate30February", E, [](std::string b) { return replaced(b, 66, "2027/02/30"); }},
-                    Refusal{"EventEndDateBlank", E,
-                            [](std::string b) { return replaced(b, 146, std::string(15, ' ')); }},
-                    Refusal{"UnknownRecurrence", E, [](std::string b) { return replaced(b, 101, "Week "); }},
-                    Refusal{"MonthlyFromLateIn9999", E, [](std::string b) { return replaced(b, 66, "9999/08/01"); }}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SharedFileRead, TakesTheFirstLineAndToleratesWhatTheWriterLeavesOpen) {
     const std::string task = sharedFileBytes(filledTask(), kSharedToday);
@@ -194,31 +176,21 @@ TEST(SharedFileRead, TakesTheFirstLineAndToleratesWhatTheWriterLeavesOpen) {
     EXPECT_EQ(oneDigitMonth->date, dateFromYmd(2026, 1, 5));
 }
 
-struct NameCase {
-    const char* name;
-    std::string description;
-    std::string expected;
-};
-
-void PrintTo(const NameCase& n, std::ostream* os) { *os << n.name; }
-
-class SharedFileName : public testing::TestWithParam<NameCase> {};
-
-TEST_P(SharedFileName, IsTheTrimmedNameCutAndMadeSafe) {
-    EXPECT_EQ(sharedFileName(GetParam().description), GetParam().expected);
+TEST(SharedFileName, IsTheTrimmedNameCutAndMadeSafe) {
+    const struct {
+        const char* name;
+        std::string description;
+        std::string expected;
+    } rows[] = {
+        {"Colon", "Math: test", "Math  test.txt"},
+        {"Quote", "The \"big\" game", "The 'big' game.txt"},
+        {"EveryUnsafeCharacter", "a*b|c\\d:e<f>g?h/i", "a b c d e f g h i.txt"},
+        {"SeventyCharactersCutToForty", std::string(40, 'x') + std::string(30, 'y'), std::string(40, 'x') + ".txt"},
+        {"TrimmedBeforeTheCut", "   " + std::string(45, 'z') + "  ", std::string(40, 'z') + ".txt"},
+        {"FortyCharactersNotBytes", std::string(39, 'e') + "\u00E9\u00E9", std::string(39, 'e') + "\u00E9.txt"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(sharedFileName(row.description), row.expected) << row.name;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, SharedFileName,
-    testing::Values(NameCase{"Colon", "Math: test", "Math  test.txt"},
-                    NameCase{"Quote", "The \"big\" game", "The 'big' game.txt"},
-                    NameCase{"EveryUnsafeCharacter", "a*b|c\\d:e<f>g?h/i", "a b c d e f g h i.txt"},
-                    NameCase{"SeventyCharactersCutToForty", std::string(40, 'x') + std::string(30, 'y'),
-                             std::string(40, 'x') + ".txt"},
-                    NameCase{"TrimmedBeforeTheCut", "   " + std::string(45, 'z') + "  ", std::string(40, 'z') + ".txt"},
-                    NameCase{"FortyCharactersNotBytes", std::string(39, 'e') + "\u00E9\u00E9",
-                             std::string(39, 'e') + "\u00E9.txt"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SharedFileName, AssignmentNamesEndWithTheDueDate) {
     const FakeLocale locale;

@@ -3,31 +3,17 @@
 // what each showing puts on screen.
 #include <gtest/gtest.h>
 
-#include "editors/editor_windows.h"
 #include "editors/frm_task.h"
-#include "support/main_window_fixture.h"
+#include "editors/record_editor.h"
 #include "support/record_fields.h"
 
 namespace qh {
 namespace {
 
-using Step = std::function<void(FrmTask&)>;
-
-// 2026-11-21, a Saturday: today and the calendar's date at the start.
-struct Tasks : LoadedMainWindow {
-    explicit Tasks(const std::string& file = "") {
-        if (!file.empty()) putDataFile("Tasks.txt", file);
-        fake.clock.set(2026, 11, 21);
-        load();
-    }
-    // Opens the task of `row` (0 for a new one) and drives it with `step`.
-    void run(int row, const Step& step) {
-        drive<FrmTask>("FrmTask", step);
-        if (row == 0)
-            window->NewTask();
-        else
-            window->EditTask(row);
-    }
+struct Tasks : test::RecordEditor<FrmTask> {
+    explicit Tasks(const std::string& file = "")
+        : RecordEditor("Tasks.txt", "FrmTask", [](MainWindow& w, int row) { row == 0 ? w.NewTask() : w.EditTask(row); },
+                       file) {}
 };
 
 // The Tasks.txt of the edit cases: three records, the second a tombstone.
@@ -39,17 +25,7 @@ const TaskFields kEssay{.recordNo = 3, .description = "Essay outline", .dateExis
 std::string threeTasks() { return taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(kEssay); }
 
 TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
-    const auto with = [](TaskFields task, const std::function<void(TaskFields&)>& change) {
-        change(task);
-        return task;
-    };
-    const struct {
-        const char* name;
-        std::string before;
-        int row;
-        Step step;
-        std::string after;
-    } cases[] = {
+    test::expectEachSave<Tasks, FrmTask>({
         // A date picked and the deadline switched off again: today's date is stored.
         {"NewWithoutDeadlineStoresToday", "", 0,
          [](FrmTask& w) {
@@ -75,7 +51,7 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.click("CheckBoxDone");
              w.click("ButtonOK");
          },
-         taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(with(kEssay, [](TaskFields& t) {
+         taskRecord(kLaundry) + taskRecord(kTombstone) + taskRecord(test::with(kEssay, [](TaskFields& t) {
              t.description = "Essay draft";
              t.done = "True";
          }))},
@@ -85,38 +61,25 @@ TEST(TaskEditor, EachKindOfSaveWritesTheRecordByteForByte) {
              w.select("ComboPriority", "Low");
              w.click("ButtonOK");
          },
-         taskRecord(with(kLaundry, [](TaskFields& t) {
+         taskRecord(test::with(kLaundry, [](TaskFields& t) {
              t.priority = "Low";
              t.date = "2026/11/21";
          })) + taskRecord(kTombstone) + taskRecord(kEssay)},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Tasks tasks(c.before);
-        tasks.run(c.row, c.step);
-        EXPECT_EQ(tasks.dataFile("Tasks.txt"), c.after);
-    }
+    });
 }
 
 // OK's refusal read from the window's controls; cancel, close box and delete with their
-// questions. Each row ends with the messages shown and whether the window stays open, and
-// writes nothing.
+// questions. No row writes anything.
 TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
-    const struct {
-        const char* name;
-        int row;
-        std::vector<MessageAnswer> answers;
-        Step step;
-        std::vector<std::string> messages;
-        bool staysOpen;
-    } cases[] = {
+    test::expectEachQuestion<Tasks, FrmTask>(threeTasks(), {
         {"NoNameWinsOverReminderWithoutDeadline", 0, {},
          [](FrmTask& w) {
              w.select("ComboRemindMe", "5 Days");
              w.click("ButtonOK");
          },
-         {"This task has no name."}, true},
-        {"CancelWithoutChangeAsksNothing", 2, {}, [](FrmTask& w) { w.click("ButtonCancel"); }, {}, false},
+         {"This task has no name."}, true, EditorOutcome::Cancelled},
+        {"CancelWithoutChangeAsksNothing", 2, {}, [](FrmTask& w) { w.click("ButtonCancel"); }, {}, false,
+         EditorOutcome::Cancelled},
         {"CancelOfANewTaskRefused", 0, {MessageAnswer::No},
          [](FrmTask& w) {
              w.type("TextBoxDescription", "Pay rent");
@@ -124,34 +87,20 @@ TEST(TaskEditor, ChecksAndQuestionsInTheirOrder) {
              EXPECT_EQ(w.TextBoxDescription->text, "Pay rent");
              EXPECT_TRUE(w.hasChanges());
          },
-         {"Cancel this Task?"}, true},
+         {"Cancel this Task?"}, true, EditorOutcome::Cancelled},
         {"CloseBoxOfAnEditAsksAndHides", 2, {MessageAnswer::Yes},
          [](FrmTask& w) {
              w.click("CheckBoxDone");
              EXPECT_FALSE(w.requestClose(UnloadMode::CloseBox));
          },
-         {"Cancel all changes to this Task?"}, false},
+         {"Cancel all changes to this Task?"}, false, EditorOutcome::Cancelled},
         {"DeleteRefused", 2, {MessageAnswer::No},
          [](FrmTask& w) {
              w.click("ButtonDelete");
              EXPECT_EQ(w.TextBoxDescription->text, "Essay outline");
          },
-         {"Are you sure you want to Delete this Task?"}, true},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Tasks tasks(threeTasks());
-        for (MessageAnswer answer : c.answers) tasks.fake.messages.answers.push_back(answer);
-        bool open = false;
-        tasks.run(c.row, [&](FrmTask& w) {
-            c.step(w);
-            open = w.visible;
-            if (open) w.hide();  // hidden by no button of its own: a cancel, so nothing is written
-        });
-        EXPECT_EQ(tasks.messageTexts(), c.messages);
-        EXPECT_EQ(open, c.staysOpen);
-        EXPECT_EQ(tasks.dataFile("Tasks.txt"), threeTasks());
-    }
+         {"Are you sure you want to Delete this Task?"}, true, EditorOutcome::Cancelled},
+    });
 }
 
 // What each showing puts on screen, also after another showing left its controls behind.
@@ -203,8 +152,8 @@ TEST(TaskEditor, TheListScrollsToAndFramesTheSavedTask) {
         file += taskRecord({.recordNo = n, .description = "Chore " + std::to_string(100 + n), .date = "2026/11/20"});
     Tasks tasks(file);
     MainWindow& window = *tasks.window;
-    window.click("MenuTasks");
-    window.select("ComboDateRange", "All");
+    window.click(window.ui.MenuTasks.key());
+    window.select(window.ui.ComboDateRange.key(), "All");
     const auto framed = [&] {
         const int p = window.state.TopRow - 1 + window.state.KeyboardRow;
         return window.state.KeyboardRow > 0 && window.state.ListTaskRows.has(p) ? window.state.ListTaskRows(p) : 0;
@@ -216,10 +165,10 @@ TEST(TaskEditor, TheListScrollsToAndFramesTheSavedTask) {
     });
     EXPECT_EQ(framed(), 41);
     EXPECT_GT(window.state.TopRow, 1);
-    EXPECT_EQ(window.focusedControl, "picGrid");
+    EXPECT_EQ(window.focusedControl, window.ui.picGrid.key());
     tasks.run(3, [](FrmTask& w) { w.click("ButtonOK"); });
     EXPECT_EQ(framed(), 3);
-    EXPECT_EQ(window.c("VSGridScroll").value, window.state.TopRow);
+    EXPECT_EQ(window.ui.VSGridScroll->value, window.state.TopRow);
 }
 
 }  // namespace

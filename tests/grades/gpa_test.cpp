@@ -73,7 +73,7 @@ TEST_F(GradeListTest, ClassesAverageTheirWeightedGradesAndTheTermTheClassAverage
 TEST_F(GradeListTest, TheWindowsListReadsGpaWhenClosedAndATermWithoutGradesShowsTotalAlone) {
     ListWindow window(Mode::Homework);
     window.store = s;
-    const Control& combo = window.window.c("ComboGPA");
+    const Control& combo = *window.window.ui.ComboGPA;
     addAssignment(window.store, {.classLink = 1, .grade = ""});
     window.window.UpdateGradeList();
     EXPECT_EQ(combo.items, (std::vector<std::string>{"GPA", "Total ", "Introduction  ", "Art ", "Math "}));

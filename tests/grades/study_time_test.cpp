@@ -60,13 +60,14 @@ TEST(StudyTimeBoxes, ThePinkBoxRulesTheDay) {
     for (const auto& c : cases) {
         ListWindow list(Mode::Reminders);
         for (const AssignmentFields& f : c.work) addAssignment(list.store, f);
-        list.window.c("TextBoxMinimum").backColor = list.window.c("TextBoxSuggested").backColor = 0x123456;
+        const MainWindowControls& ui = list.window.ui;
+        ui.TextBoxMinimum->backColor = ui.TextBoxSuggested->backColor = 0x123456;
         list.window.UpdateStudyTimeToday(kToday);
-        const auto box = [&](const char* name) {
-            const Color back = list.back(name);
-            return list.text(name) + (back == kOpenWorkPink ? " pink" : back == kWhite ? " white" : " ?");
+        const auto box = [](const ControlRef& box) {
+            const Color back = box->backColor;
+            return box->text + (back == kOpenWorkPink ? " pink" : back == kWhite ? " white" : " ?");
         };
-        EXPECT_EQ(box("TextBoxMinimum") + ", " + box("TextBoxSuggested"), c.boxes);
+        EXPECT_EQ(box(ui.TextBoxMinimum) + ", " + box(ui.TextBoxSuggested), c.boxes);
     }
 }
 
