@@ -68,12 +68,12 @@ protected:
 
 TEST_F(TallTaskList, TheLastRowOfAScrolledGridIsPaintedAndSpoken) {
     ASSERT_EQ(list.window.state.RowsVisible, 10);
-    list.window.scrollTo("VSGridScroll", list.window.c("VSGridScroll").maximum);
+    list.window.scrollTo(list.window.ui.VSGridScroll.key(), list.window.ui.VSGridScroll->maximum);
     EXPECT_EQ(list.window.state.TopRow, 51);
     EXPECT_EQ(list.cell(10, 0), "60");
     EXPECT_EQ(list.cell(10, 1), " Task 60");
     // A screen reader has each painted row by its position and texts.
-    const std::vector<std::string>& rows = list.window.c("picGrid").items;
+    const std::vector<std::string>& rows = list.window.ui.picGrid->items;
     ASSERT_EQ(rows.size(), 10u);
     EXPECT_EQ(rows.back().substr(0, 12), "60, Task 60,");
 }
@@ -86,24 +86,24 @@ TEST_F(TallTaskList, KeysMoveAFramedRowThatEnterOpensAndTheWheelScrolls) {
             if (call.kind == CanvasCall::Line && call.color == kKeyboardRowFrame) ++lines;
         return lines;
     };
-    window.SetFocus("picGrid");
+    window.SetFocus(window.ui.picGrid.key());
     window.pressKey(kKeyEnd);
     EXPECT_EQ(window.state.TopRow, 51);
     EXPECT_EQ(window.state.KeyboardRow, 10);
-    EXPECT_EQ(window.c("VSGridScroll").value, 51);  // the bar follows
-    EXPECT_EQ(framedRows(), 8);                     // two lines on each side of one row
+    EXPECT_EQ(window.ui.VSGridScroll->value, 51);  // the bar follows
+    EXPECT_EQ(framedRows(), 8);                    // two lines on each side of one row
     window.pressKey(kKeyUp);
     EXPECT_EQ(window.state.KeyboardRow, 9);
 
     // Off the grid the frame goes; back on it, it shows again on the same row.
-    window.SetFocus("ComboList");
+    window.SetFocus(window.ui.ComboList.key());
     EXPECT_EQ(framedRows(), 0);
-    window.SetFocus("picGrid");
+    window.SetFocus(window.ui.picGrid.key());
     EXPECT_EQ(framedRows(), 8);
 
-    window.wheel("picGrid", 2);
+    window.wheel(window.ui.picGrid.key(), 2);
     EXPECT_EQ(window.state.TopRow, 45);
-    EXPECT_EQ(window.c("VSGridScroll").value, 45);
+    EXPECT_EQ(window.ui.VSGridScroll->value, 45);
     // Enter opens the record of the framed row as a click on it would: its number, 53
     // here, printed with the row, then white on black while the editor is open, then plain.
     window.pressKey(kKeyReturn);
