@@ -12,12 +12,13 @@ namespace {
 using namespace qh::testing;
 
 TEST(GridKeys, EachKeyMovesTheRowAndTheTopWithinTheList) {
-    // A list of 60 rows in a grid of 10: the scroll bar reaches top 51.
+    // A list of 60 rows unless given, in a grid of 10: the scroll bar reaches top 51.
     const struct {
         const char* name;
         GridView from;
         int key;
         GridView to;
+        int rows = 60;
     } steps[] = {
         {"the first Down shows the row on top", {1, 0}, kKeyDown, {1, 1}},
         {"Down moves the row", {1, 4}, kKeyDown, {1, 5}},
@@ -31,14 +32,11 @@ TEST(GridKeys, EachKeyMovesTheRowAndTheTopWithinTheList) {
         {"Home", {30, 7}, kKeyHome, {1, 1}},
         {"End", {3, 2}, kKeyEnd, {51, 10}},
         {"a key the grid doesn't take", {3, 2}, 'A', {3, 2}},
+        {"End on a list shorter than the grid stands on its last row, the top stays", {1, 1}, kKeyEnd, {1, 4}, 4},
+        {"Down at the end of a short list stays", {1, 4}, kKeyDown, {1, 4}, 4},
+        {"an empty list has no row to stand on", {1, 0}, kKeyDown, {1, 0}, 0},
     };
-    for (const auto& step : steps) EXPECT_EQ(GridKeyStep(step.from, step.key, 60, 10), step.to) << step.name;
-
-    // A list shorter than the grid: End stands on its last row, the top stays 1.
-    EXPECT_EQ(GridKeyStep({1, 1}, kKeyEnd, 4, 10), (GridView{1, 4}));
-    EXPECT_EQ(GridKeyStep({1, 4}, kKeyDown, 4, 10), (GridView{1, 4}));
-    // An empty list has no row to stand on.
-    EXPECT_EQ(GridKeyStep({1, 0}, kKeyDown, 0, 10), (GridView{1, 0}));
+    for (const auto& step : steps) EXPECT_EQ(GridKeyStep(step.from, step.key, step.rows, 10), step.to) << step.name;
     // A list that shrank under the row: the row comes back onto the list.
     EXPECT_EQ(ClampGridView({40, 9}, 45, 10), (GridView{36, 9}));
     EXPECT_EQ(ClampGridView({1, 9}, 3, 10), (GridView{1, 3}));
