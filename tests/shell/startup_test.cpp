@@ -75,8 +75,6 @@ TEST(MainWindowLoad, AFirstRunOnAnEmptyDriveMakesTheFoldersReadsTheFilesAndOpens
     EXPECT_TRUE(main.fake.messages.shown.empty());
 }
 
-// Closing deletes the process file and writes the preferences, which the next run
-// reads; a failure on the way is silent and the window still closes.
 TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
     LoadedMainWindow main;
     main.putDataFile("Terms.txt", termRecord(1, "Fall 2026", "2026/08/31", "2026/12/18"));
@@ -103,6 +101,8 @@ TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
               "[Options]\r\nActiveTerm=Fall 2026\r\n");
 }
 
+// Closing deletes the process file and writes the preferences, which the next run
+// reads; a failure on the way is silent and the window still closes.
 TEST(MainWindowUnload, DeletesTheProcessFileAndWritesThePreferencesSilently) {
     for (bool failing : {false, true}) {
         SCOPED_TRACE(failing);
