@@ -12,12 +12,13 @@ namespace {
 using namespace qh::testing;
 
 TEST(GridKeys, EachKeyMovesTheRowAndTheTopWithinTheList) {
-    // A list of 60 rows in a grid of 10: the scroll bar reaches top 51.
+    // A list of 60 rows unless given, in a grid of 10: the scroll bar reaches top 51.
     const struct {
         const char* name;
         GridView from;
         int key;
         GridView to;
+        int rows = 60;
     } steps[] = {
         {"the first Down shows the row on top", {1, 0}, kKeyDown, {1, 1}},
         {"Down moves the row", {1, 4}, kKeyDown, {1, 5}},
@@ -31,14 +32,11 @@ TEST(GridKeys, EachKeyMovesTheRowAndTheTopWithinTheList) {
         {"Home", {30, 7}, kKeyHome, {1, 1}},
         {"End", {3, 2}, kKeyEnd, {51, 10}},
         {"a key the grid doesn't take", {3, 2}, 'A', {3, 2}},
+        {"End on a list shorter than the grid stands on its last row, the top stays", {1, 1}, kKeyEnd, {1, 4}, 4},
+        {"Down at the end of a short list stays", {1, 4}, kKeyDown, {1, 4}, 4},
+        {"an empty list has no row to stand on", {1, 0}, kKeyDown, {1, 0}, 0},
     };
-    for (const auto& step : steps) EXPECT_EQ(GridKeyStep(step.from, step.key, 60, 10), step.to) << step.name;
-
-    // A list shorter than the grid: End stands on its last row, the top stays 1.
-    EXPECT_EQ(GridKeyStep({1, 1}, kKeyEnd, 4, 10), (GridView{1, 4}));
-    EXPECT_EQ(GridKeyStep({1, 4}, kKeyDown, 4, 10), (GridView{1, 4}));
-    // An empty list has no row to stand on.
-    EXPECT_EQ(GridKeyStep({1, 0}, kKeyDown, 0, 10), (GridView{1, 0}));
+    for (const auto& step : steps) EXPECT_EQ(GridKeyStep(step.from, step.key, step.rows, 10), step.to) << step.name;
     // A list that shrank under the row: the row comes back onto the list.
     EXPECT_EQ(ClampGridView({40, 9}, 45, 10), (GridView{36, 9}));
     EXPECT_EQ(ClampGridView({1, 9}, 3, 10), (GridView{1, 3}));
@@ -68,12 +66,12 @@ protected:
 
 TEST_F(TallTaskList, TheLastRowOfAScrolledGridIsPaintedAndSpoken) {
     ASSERT_EQ(list.window.state.RowsVisible, 10);
-    list.window.scrollTo("VSGridScroll", list.window.c("VSGridScroll").maximum);
+    list.window.scrollTo(list.window.ui.VSGridScroll.key(), list.window.ui.VSGridScroll->maximum);
     EXPECT_EQ(list.window.state.TopRow, 51);
     EXPECT_EQ(list.cell(10, 0), "60");
     EXPECT_EQ(list.cell(10, 1), " Task 60");
     // A screen reader has each painted row by its position and texts.
-    const std::vector<std::string>& rows = list.window.c("picGrid").items;
+    const std::vector<std::string>& rows = list.window.ui.picGrid->items;
     ASSERT_EQ(rows.size(), 10u);
     EXPECT_EQ(rows.back().substr(0, 12), "60, Task 60,");
 }
@@ -86,24 +84,24 @@ TEST_F(TallTaskList, KeysMoveAFramedRowThatEnterOpensAndTheWheelScrolls) {
             if (call.kind == CanvasCall::Line && call.color == kKeyboardRowFrame) ++lines;
         return lines;
     };
-    window.SetFocus("picGrid");
+    window.SetFocus(window.ui.picGrid.key());
     window.pressKey(kKeyEnd);
     EXPECT_EQ(window.state.TopRow, 51);
     EXPECT_EQ(window.state.KeyboardRow, 10);
-    EXPECT_EQ(window.c("VSGridScroll").value, 51);  // the bar follows
-    EXPECT_EQ(framedRows(), 8);                     // two lines on each side of one row
+    EXPECT_EQ(window.ui.VSGridScroll->value, 51);  // the bar follows
+    EXPECT_EQ(framedRows(), 8);                    // two lines on each side of one row
     window.pressKey(kKeyUp);
     EXPECT_EQ(window.state.KeyboardRow, 9);
 
     // Off the grid the frame goes; back on it, it shows again on the same row.
-    window.SetFocus("ComboList");
+    window.SetFocus(window.ui.ComboList.key());
     EXPECT_EQ(framedRows(), 0);
-    window.SetFocus("picGrid");
+    window.SetFocus(window.ui.picGrid.key());
     EXPECT_EQ(framedRows(), 8);
 
-    window.wheel("picGrid", 2);
+    window.wheel(window.ui.picGrid.key(), 2);
     EXPECT_EQ(window.state.TopRow, 45);
-    EXPECT_EQ(window.c("VSGridScroll").value, 45);
+    EXPECT_EQ(window.ui.VSGridScroll->value, 45);
     // Enter opens the record of the framed row as a click on it would: its number, 53
     // here, printed with the row, then white on black while the editor is open, then plain.
     window.pressKey(kKeyReturn);

@@ -4,9 +4,7 @@
 
 #include <map>
 
-#include "record_store/color_vocabulary.h"
-#include "shell/main_window.h"
-#include "support/fake_platform.h"
+#include "list_view/list_fixture.h"
 
 namespace qh {
 namespace {
@@ -100,27 +98,21 @@ TEST(GridPainter, AsksOnlyForRowsThatArePaintedAndInTheList) {
 
 class GridWindowTest : public ::testing::Test {
 protected:
-    GridWindowTest() : window(store, fake.platform) {
-        window.colors->BuildColorValues();
-        window.state.CurrentMode = Mode::Homework;
-    }
-    RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.c("picGrid").canvas); }
-
-    FakePlatform fake;
-    RecordStore store;
-    MainWindow window;
+    testing::ListWindow list{Mode::Homework};
+    MainWindow& window = list.window;
+    RecordingCanvas& grid() { return list.grid(); }
 };
 
 TEST_F(GridWindowTest, LayoutFitsTheGridHeadersAndScrollBarToTheWindow) {
     window.LayoutGrid(Mode::Tasks);
-    const Control& picGrid = window.c("picGrid");
+    const Control& picGrid = *window.ui.picGrid;
     EXPECT_EQ(picGrid.width, window.scaleWidth - 200);
     EXPECT_EQ(picGrid.height, window.scaleHeight - 2650 - 300 - 100);
-    EXPECT_EQ(window.c("VSGridScroll").left, picGrid.width - 255);
-    EXPECT_EQ(window.c("VSGridScroll").height, picGrid.height);
+    EXPECT_EQ(window.ui.VSGridScroll->left, picGrid.width - 255);
+    EXPECT_EQ(window.ui.VSGridScroll->height, picGrid.height);
     for (int i = 0; i < 9; ++i) EXPECT_EQ(window.c("picColHeader", i).visible, i < 6) << i;
     EXPECT_EQ(window.state.RowsVisible, 9);
-    EXPECT_EQ(window.c("picStatusBar").top, window.scaleHeight - 300);
+    EXPECT_EQ(window.ui.picStatusBar->top, window.scaleHeight - 300);
 
     // A taller window has more rows; the homework layout shows all nine headers again.
     window.setOuterSize(9600, 9000);
@@ -149,7 +141,7 @@ TEST_F(GridWindowTest, LayoutRulesTheEmptyLinesLightAndTheNumberColumnDark) {
 
 TEST_F(GridWindowTest, ScrollBarIsOffWhileTheListFitsAndSpansTheRestOtherwise) {
     window.LayoutGrid(Mode::Homework);  // nine rows
-    Control& scroll = window.c("VSGridScroll");
+    Control& scroll = *window.ui.VSGridScroll;
     const auto bar = [&](int rowCount, int value) {
         window.state.RowCount = Int16(rowCount);
         window.state.TopRow = Int16(value);
@@ -189,8 +181,8 @@ TEST_F(GridWindowTest, AClickOpensARowOnlyWhenPressAndReleaseMeetOnIt) {
     // The boxes painted so far on number cells: an opened record marks its number, then
     // unmarks it.
     const auto boxesAfter = [&](int pressX, int pressY, int releaseX, int releaseY) {
-        window.press("picGrid", {1, 0, pressX, pressY});
-        window.release("picGrid", {1, 0, releaseX, releaseY});
+        window.press(window.ui.picGrid.key(), {1, 0, pressX, pressY});
+        window.release(window.ui.picGrid.key(), {1, 0, releaseX, releaseY});
         int boxes = 0;
         for (const CanvasCall& call : grid().calls()) boxes += call.kind == CanvasCall::FilledBox && call.x1 == 15;
         return boxes;

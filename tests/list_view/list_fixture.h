@@ -108,15 +108,15 @@ public:
         window.state.SortDirection = SortDirection::Ascending;
     }
     void filters(const std::string& list, const std::string& range) {
-        window.c("ComboList").text = list;
-        window.c("ComboDateRange").text = range;
+        window.ui.ComboList->text = list;
+        window.ui.ComboDateRange->text = range;
     }
     // Lays out the grid and builds the list, as a refresh does.
     void build() {
         window.LayoutGrid(mode);
         window.BuildList(mode);
     }
-    RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.c("picGrid").canvas); }
+    RecordingCanvas& grid() { return dynamic_cast<RecordingCanvas&>(*window.ui.picGrid->canvas); }
     // What stands in column c of visible row v: the texts printed at the cell's text
     // position, or the check box picture painted in it.
     std::string cell(int v, int c) {

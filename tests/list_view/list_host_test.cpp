@@ -50,7 +50,7 @@ TEST_P(ListBuilderTest, SetsTheScrollBarOnceForItsListBeforePainting) {
     std::vector<Seen> seen;
     ListHost host = l.window.listHost();
     host.updateGridScroll = [&] {
-        seen.push_back({l.window.state.RowCount, l.window.c("picGrid").items.size()});
+        seen.push_back({l.window.state.RowCount, l.window.ui.picGrid->items.size()});
         l.window.UpdateGridScroll();
     };
 
@@ -60,7 +60,7 @@ TEST_P(ListBuilderTest, SetsTheScrollBarOnceForItsListBeforePainting) {
     EXPECT_GT(l.window.state.RowCount, 0);
     EXPECT_EQ(seen[0].rowCount, l.window.state.RowCount);
     EXPECT_EQ(seen[0].paintedRows, 0u);
-    EXPECT_EQ(l.window.c("picGrid").items.size(), std::size_t(l.window.state.RowCount));
+    EXPECT_EQ(l.window.ui.picGrid->items.size(), std::size_t(l.window.state.RowCount));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -79,9 +79,9 @@ TEST(ListHost, LayoutRepaintsTheStatusBarOnceItStandsAtTheFoot) {
         SCOPED_TRACE(int(mode));
         ListWindow l(mode == Mode::None ? Mode::Tasks : mode);
         std::vector<int> statusBarTops;
-        l.window.c("picStatusBar").top = 0;  // wherever it stood, the layout moves it
+        l.window.ui.picStatusBar->top = 0;  // wherever it stood, the layout moves it
         ListHost host = l.window.listHost();
-        host.paintStatusBar = [&] { statusBarTops.push_back(l.window.c("picStatusBar").top); };
+        host.paintStatusBar = [&] { statusBarTops.push_back(l.window.ui.picStatusBar->top); };
 
         LayoutModeGrid(host, mode);
 

@@ -46,19 +46,21 @@ void addEventsAroundTheDay(ListWindow& l) {
 }
 
 // The summary boxes of each mode.
-const std::vector<const char*> kBoxes[] = {
-    {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining"},
-    {"TextBoxStudySessions", "TextBoxStudyTime"},
-    {"TextBoxTotalTasks", "TextBoxFinishedTasks"},
-    {"TextBoxClasses", "TextBoxOtherEvents"},
-    {"TextBoxAssignments", "TextBoxTasks", "TextBoxEvents"}};
+using Ui = MainWindowControls;
+const std::vector<ControlRef Ui::*> kBoxes[] = {
+    {&Ui::TextBoxTotalAssignments, &Ui::TextBoxFinishedAssignments, &Ui::TextBoxTimeRemaining},
+    {&Ui::TextBoxStudySessions, &Ui::TextBoxStudyTime},
+    {&Ui::TextBoxTotalTasks, &Ui::TextBoxFinishedTasks},
+    {&Ui::TextBoxClasses, &Ui::TextBoxOtherEvents},
+    {&Ui::TextBoxAssignments, &Ui::TextBoxTasks, &Ui::TextBoxEvents}};
 
 // The summary boxes as "text colour, ...".
 std::string boxes(ListWindow& list) {
     std::string shown;
-    for (const char* box : kBoxes[int(list.mode) - 1]) {
-        const Color back = list.back(box);
-        shown += (shown.empty() ? "" : ", ") + list.text(box) + " " +
+    for (const auto ref : kBoxes[int(list.mode) - 1]) {
+        const Control& box = *(list.window.ui.*ref);
+        const Color back = box.backColor;
+        shown += (shown.empty() ? "" : ", ") + box.text + " " +
                  (back == kWhite ? "white" : back == kOpenWorkPink ? "pink" : back == kAllDoneGreen ? "green" : "?");
     }
     return shown;
@@ -83,8 +85,8 @@ std::vector<std::string> rows(ListWindow& list) {
 // afterwards: the painted number, then the marked and the plain one around the editor.
 std::string clickRow(ListWindow& list, int k) {
     const int y = 300 + (k - 1) * 330 + 100;
-    list.window.press("picGrid", {1, 0, 500, y});
-    list.window.release("picGrid", {1, 0, 500, y});
+    list.window.press(list.window.ui.picGrid.key(), {1, 0, 500, y});
+    list.window.release(list.window.ui.picGrid.key(), {1, 0, 500, y});
     return list.cell(k, 0);
 }
 
@@ -193,10 +195,10 @@ TEST(Lists, EachListPaintsNamesAndSumsItsRowsAndAClickOpensTheirRecords) {
         list.filters(c.list, c.range);
         list.store.CurrentTermName = "Fall 2026";
         c.setup(list);
-        for (const char* box : kBoxes[int(c.mode) - 1]) list.window.c(box).backColor = 0x123456;
+        for (const auto box : kBoxes[int(c.mode) - 1]) (list.window.ui.*box)->backColor = 0x123456;
         list.build();
         EXPECT_EQ(rows(list), c.rows);
-        EXPECT_EQ(list.window.c("LabelTop").caption + " | " + boxes(list), c.summary);
+        EXPECT_EQ(list.window.ui.LabelTop->caption + " | " + boxes(list), c.summary);
         // A click on a row opens its record, marking the row's number meanwhile; a row
         // without a record and the line below the rows mark nothing.
         for (int v = 1; v <= int(c.rows.size()) + 1; ++v) {
@@ -213,7 +215,7 @@ TEST(Lists, AScrollStepGathersAnewAndAClickMarksTheListPositionOfItsRow) {
     for (int i = 1; i <= 20; ++i) addAssignment(list.store, {.description = "Item " + std::to_string(i)});
     list.build();
     list.store.AssignmentDescriptions(6) = "Changed";
-    list.window.scrollTo("VSGridScroll", 5);
+    list.window.scrollTo(list.window.ui.VSGridScroll.key(), 5);
     EXPECT_EQ(list.cell(2, 3), " Changed");
     EXPECT_EQ(list.cell(9, 3), " Item 13");
     EXPECT_EQ(list.cell(10, 3), "");  // no row is painted below the last whole one
@@ -226,7 +228,7 @@ TEST(Lists, AScrollStepGathersAnewAndAClickMarksTheListPositionOfItsRow) {
     EXPECT_EQ(list.cellFore(2, 0), kBlack);
 
     list.window.click("picColHeader(3)");  // a sort returns to the top
-    EXPECT_EQ(list.window.c("VSGridScroll").value, 1);
+    EXPECT_EQ(list.window.ui.VSGridScroll->value, 1);
     EXPECT_EQ(list.cell(1, 0), "1");
     EXPECT_EQ(list.cell(1, 3), " Changed");
 }
@@ -243,25 +245,27 @@ TEST(Lists, TheCalendarMarksTheDaysOfTheListShownInItsTint) {
     addAssignment(s, {.date = "2026/11/30", .reminder = "1 Day"});  // not yet
     const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);
     const struct {
-        const char *menu, *list;
+        const ControlRef* menu;
+        const char* list;
         std::string MainWindowColors::*tint;
         std::vector<int> days;  // marked days from November 21 on
-    } views[] = {{"MenuEvents", "All", &MainWindowColors::TintBlue, {23, 24, 25, 30}},
-                 {"MenuEvents", "Classes", &MainWindowColors::TintTan, {23, 25, 30}},
-                 {"MenuEvents", "Other Events", &MainWindowColors::TintGreen, {24}},
-                 {"MenuReminders", "All", &MainWindowColors::TintBlue, {23, 24, 27}},
-                 {"MenuReminders", "Homework", &MainWindowColors::TintPink, {27}}};
+    } views[] = {{&window.ui.MenuEvents, "All", &MainWindowColors::TintBlue, {23, 24, 25, 30}},
+                 {&window.ui.MenuEvents, "Classes", &MainWindowColors::TintTan, {23, 25, 30}},
+                 {&window.ui.MenuEvents, "Other Events", &MainWindowColors::TintGreen, {24}},
+                 {&window.ui.MenuReminders, "All", &MainWindowColors::TintBlue, {23, 24, 27}},
+                 {&window.ui.MenuReminders, "Homework", &MainWindowColors::TintPink, {27}}};
     for (const auto& v : views) {
-        window.click(v.menu);
-        window.select("ComboList", v.list);
+        SCOPED_TRACE(v.menu->key() + " " + v.list);
+        window.click(v.menu->key());
+        window.select(window.ui.ComboList.key(), v.list);
         std::vector<int> days;
         for (int d = 21; d <= 30; ++d) {
             const std::size_t cell = std::size_t(dateFromYmd(2026, 11, d) - first);
             if (!window.state.CellMarked[cell]) continue;
             days.push_back(d);
-            EXPECT_EQ(window.state.CellBackColors[cell], window.state.Colors.*v.tint) << v.menu << " " << v.list;
+            EXPECT_EQ(window.state.CellBackColors[cell], window.state.Colors.*v.tint);
         }
-        EXPECT_EQ(days, v.days) << v.menu << " " << v.list;
+        EXPECT_EQ(days, v.days);
     }
 }
 

@@ -90,27 +90,25 @@ TEST(DesktopReminderSettings, ReadsWhatItWritesAndKeepsDefaultsForTheRest) {
     off.enabled = false;
     off.lastDay = dateFromText("2026/11/23");
     off.lastItems = "0123456789abcdef";
-    EXPECT_EQ(DesktopReminderSettingsText(off),
-              "[Desktop Reminders]\r\nEnabled=False\r\nLastDay=2026/11/23\r\nLastItems=0123456789abcdef\r\n");
-    const DesktopReminderSettings read = ReadDesktopReminderSettingsText(DesktopReminderSettingsText(off));
-    EXPECT_FALSE(read.enabled);
-    EXPECT_EQ(read.lastDay, off.lastDay);
-    EXPECT_EQ(read.lastItems, off.lastItems);
-
+    const std::string written = DesktopReminderSettingsText(off);
+    EXPECT_EQ(written, "[Desktop Reminders]\r\nEnabled=False\r\nLastDay=2026/11/23\r\nLastItems=0123456789abcdef\r\n");
     const struct {
-        const char* text;
+        std::string text;
         bool enabled;
         Date lastDay;
+        const char* lastItems;
     } cases[] = {
-        {"", true, 0},
-        {"[Desktop Reminders]\r\nEnabled=True\r\n", true, 0},
-        {"Enabled=maybe\nLastDay=yesterday\nSomethingNew=1\n", true, 0},
-        {"Enabled = False\nLastDay=2026/11/21", false, dateFromText("2026/11/21")},
+        {written, false, off.lastDay, "0123456789abcdef"},
+        {"", true, 0, ""},
+        {"[Desktop Reminders]\r\nEnabled=True\r\n", true, 0, ""},
+        {"Enabled=maybe\nLastDay=yesterday\nSomethingNew=1\n", true, 0, ""},
+        {"Enabled = False\nLastDay=2026/11/21", false, dateFromText("2026/11/21"), ""},
     };
     for (const auto& c : cases) {
         const DesktopReminderSettings settings = ReadDesktopReminderSettingsText(c.text);
         EXPECT_EQ(settings.enabled, c.enabled) << c.text;
         EXPECT_EQ(settings.lastDay, c.lastDay) << c.text;
+        EXPECT_EQ(settings.lastItems, c.lastItems) << c.text;
     }
 }
 
@@ -124,7 +122,7 @@ struct DesktopRemindersWindow : ::testing::Test {
         putReminderDrive(planner);
         MainWindow& window = planner.load();
         planner.fake.windowing.show(window);
-        window.tick("TimerDesktopReminders");
+        window.tick(window.ui.TimerDesktopReminders.key());
         return window;
     }
 };
@@ -132,15 +130,15 @@ struct DesktopRemindersWindow : ::testing::Test {
 TEST_F(DesktopRemindersWindow, ChoosingTheNoticeShowsTodaysRemindersInFront) {
     MainWindow& window = start();
     ASSERT_EQ(planner.fake.notifications.sent.size(), 1u);
-    EXPECT_FALSE(window.c("TimerDesktopReminders").enabled);  // once
-    EXPECT_TRUE(window.c("MenuDesktopReminders").checked);
-    window.click("LabelCalDate(3)");
+    EXPECT_FALSE(window.ui.TimerDesktopReminders->enabled);  // once
+    EXPECT_TRUE(window.ui.MenuDesktopReminders->checked);
+    window.click(window.ui.LabelCalDate.key(3));
     window.windowState = WindowState::Minimized;
     planner.fake.notifications.activateLast();
     EXPECT_EQ(window.CurrentMode(), Mode::Reminders);
     EXPECT_EQ(window.state.ClickedDate, planner.fake.clock.today());
     EXPECT_EQ(window.windowState, WindowState::Normal);
-    EXPECT_EQ(window.c("LabelTop").caption, "Reminders for Monday, November 23, 2026");
+    EXPECT_EQ(window.ui.LabelTop->caption, "Reminders for Monday, November 23, 2026");
     EXPECT_EQ(planner.fake.windowing.log.back(), "raise frmMain");
 }
 
@@ -154,11 +152,11 @@ TEST_F(DesktopRemindersWindow, WithoutTheServiceOneStatusLineAndNothingRemembere
 
 TEST_F(DesktopRemindersWindow, TheMenuEntrySwitchesThemEvenOnADriveThatCannotBeWritten) {
     MainWindow& window = start();
-    window.click("MenuDesktopReminders");
-    EXPECT_FALSE(window.c("MenuDesktopReminders").checked);
+    window.click(window.ui.MenuDesktopReminders.key());
+    EXPECT_FALSE(window.ui.MenuDesktopReminders->checked);
     planner.fake.files.failPath("DesktopReminders.ini");
-    window.click("MenuDesktopReminders");
-    EXPECT_TRUE(window.c("MenuDesktopReminders").checked);
+    window.click(window.ui.MenuDesktopReminders.key());
+    EXPECT_TRUE(window.ui.MenuDesktopReminders->checked);
     EXPECT_TRUE(planner.fake.messages.shown.empty());
 }
 

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <functional>
+
 #include "interchange/frm_import_preview.h"
 #include "interchange/frm_subscription.h"
 #include "interchange/frm_subscriptions.h"
@@ -62,26 +64,32 @@ struct SubscribedPlanner : LoadedMainWindow {
         fake.feeds.answers[kAddress] = fetched(*this, feed, "\"v1\"");
     }
 
-    // Options > Calendar Subscriptions..., Add, the name and address, OK, the answer, the
-    // preview's OK.
-    void subscribe(bool acceptPreview = true) {
+    // Options > Calendar Subscriptions..., Add, the name and address, OK and the answer;
+    // then `answered` has the subscription window, unless the answer closed it.
+    void addFeed(const std::function<void(FrmSubscription&)>& answered = [](FrmSubscription&) {}) {
         drive<FrmSubscriptions>("frmSubscriptions", [](FrmSubscriptions& list) { list.click("ButtonAdd"); });
-        drive<FrmSubscription>("frmSubscription", [this](FrmSubscription& form) {
+        drive<FrmSubscription>("frmSubscription", [this, answered](FrmSubscription& form) {
             form.type("TextBoxName", "School");
             form.type("TextBoxAddress", kAddress);
             form.click("ButtonOK");
             EXPECT_TRUE(form.visible);  // the answer has not come yet
             fake.feeds.settle();
+            answered(form);
         });
+        window->click(window->ui.MenuSubscriptions.key());
+    }
+
+    // The feed added and its preview answered.
+    void subscribe(bool acceptPreview = true) {
         drive<FrmImportPreview>("frmImportPreview", [acceptPreview](FrmImportPreview& preview) {
             EXPECT_EQ(preview.c("ComboCourse(0)").text, "as assignments of Algebra");
             preview.click(acceptPreview ? "ButtonOK" : "ButtonCancel");
         });
-        window->click("MenuSubscriptions");
+        addFeed();
     }
 
     void refresh() {
-        window->tick("TimerSubscriptions");
+        window->tick(window->ui.TimerSubscriptions.key());
         fake.feeds.settle();
     }
 };
@@ -120,18 +128,12 @@ TEST(FeedSubscriptions, ACancelledPreviewOrAnUnreadableFeedSubscribesNothing) {
     notCalendar.body = "<html>Sign in</html>";
     planner.fake.feeds.answers[kAddress] = notCalendar;
     std::string said;
-    planner.drive<FrmSubscriptions>("frmSubscriptions", [](FrmSubscriptions& list) { list.click("ButtonAdd"); });
-    planner.drive<FrmSubscription>("frmSubscription", [&](FrmSubscription& form) {
-        form.type("TextBoxName", "School");
-        form.type("TextBoxAddress", kAddress);
-        form.click("ButtonOK");
-        planner.fake.feeds.settle();
+    planner.addFeed([&](FrmSubscription& form) {
         said = form.c("LabelStatus").caption;
         EXPECT_TRUE(form.visible);
         EXPECT_TRUE(form.c("ButtonOK").enabled);
         form.click("ButtonCancel");
     });
-    planner.window->click("MenuSubscriptions");
     EXPECT_EQ(said, "The calendar could not be read: it is not a calendar.");
     EXPECT_TRUE(planner.window->subscriptions().subscriptions().feeds.empty());
 }
@@ -199,7 +201,7 @@ TEST(FeedSubscriptions, AFeedOutOfReachKeepsItsItemsAndSaysSoWithoutAMessage) {
     std::string listed;
     planner.drive<FrmSubscriptions>("frmSubscriptions",
                                     [&](FrmSubscriptions& list) { listed = list.c("ListSubscriptions").text; });
-    planner.window->click("MenuSubscriptions");
+    planner.window->click(planner.window->ui.MenuSubscriptions.key());
     EXPECT_EQ(listed, "School    " + kAddress + "    refreshed today at 03:00 PM    4 items    up to date");
     EXPECT_EQ(planner.store.AssignmentIDs.count(), 3);
 }
@@ -220,10 +222,10 @@ TEST(FeedSubscriptions, AnAnswerThatComesWhileAnEditorIsOpenWaitsForIt) {
     });
     planner.window->EditEvent(club);
     EXPECT_EQ(whileOpen, 0);
-    EXPECT_TRUE(planner.window->c("TimerSubscriptionAnswers").enabled);
-    planner.window->tick("TimerSubscriptionAnswers");
+    EXPECT_TRUE(planner.window->ui.TimerSubscriptionAnswers->enabled);
+    planner.window->tick(planner.window->ui.TimerSubscriptionAnswers.key());
     EXPECT_NE(rowOf(s.AssignmentDescriptions, "Late addition"), 0);
-    EXPECT_FALSE(planner.window->c("TimerSubscriptionAnswers").enabled);
+    EXPECT_FALSE(planner.window->ui.TimerSubscriptionAnswers->enabled);
 }
 
 TEST(FeedSubscriptions, AnItemDeletedAndHiddenStaysAwayFromLaterRefreshes) {

@@ -48,14 +48,12 @@ std::string missing(const fs::path& from, const std::string& target) {
 // Every window of a run, as the planner makes them: the main window, the tip, the editors
 // the main window loads and About. A window the run gains is visited with them, so its
 // help numbers are checked as well.
-void visitEveryWindow(FakePlatform& fake, const std::function<void(Form&)>& visit) {
-    RecordStore store;
-    MainWindow window(store, fake.platform);
-    window.Form_Load();
+void visitEveryWindow(LoadedMainWindow& planner, const std::function<void(Form&)>& visit) {
+    MainWindow& window = planner.load();
     visit(window);
     visit(window.tipWindow());
     for (Form* editor : window.editors->windows()) visit(*editor);
-    fake.windowing.modalUsers["frmAbout"].push_back([&visit](Form& about) {
+    planner.fake.windowing.modalUsers["frmAbout"].push_back([&visit](Form& about) {
         visit(about);
         about.hide();
     });
@@ -65,8 +63,9 @@ void visitEveryWindow(FakePlatform& fake, const std::function<void(Form&)>& visi
 TEST(HelpMap, EveryControlWithAHelpNumberLeadsToAPageOfTheBook) {
     std::set<int> given;
     std::set<std::string> visited;
-    FakePlatform fake;
-    visitEveryWindow(fake, [&](Form& form) {
+    LoadedMainWindow planner;
+    const FakePlatform& fake = planner.fake;
+    visitEveryWindow(planner, [&](Form& form) {
         visited.insert(form.name());
         for (const std::string& key : form.order()) {
             const int number = form.c(key).helpContextId;
@@ -162,10 +161,8 @@ TEST(HelpMap, EachRecordWindowsPageNamesEveryCaptionOfTheWindow) {
         {"FrmTask", {"task_editor.html"}},
         {"frmEvent", {"event_editor.html"}},
     };
-    FakePlatform fake;
-    RecordStore store;
-    MainWindow window(store, fake.platform);
-    window.Form_Load();
+    LoadedMainWindow planner;
+    MainWindow& window = planner.load();
     std::set<std::string> seen;
     for (Form* editor : window.editors->windows()) {
         const auto pages = pagesOf.find(editor->name());

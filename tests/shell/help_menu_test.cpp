@@ -27,14 +27,14 @@ TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     ASSERT_EQ(pidFiles(main.fake.host), std::vector<std::string>{"4242.PID"});  // the planner's own
-    window.click("MenuHelpDB");
+    window.click(window.ui.MenuHelpDB.key());
     ASSERT_EQ(main.fake.processes.started.size(), 1u);
     EXPECT_EQ(main.fake.processes.started[0], "xdg-open \"" + main.fake.exec + "/help/index.html\"");
     EXPECT_EQ(pidFiles(main.fake.host), (std::vector<std::string>{"4242.PID", "5001.PID"}));
     EXPECT_TRUE(fs::is_empty(main.fake.host + "/5001.PID"));
     // A host folder that takes no mark leaves the page open and the planner running.
     main.fake.files.failPath(".PID");
-    window.click("MenuHelpDB");
+    window.click(window.ui.MenuHelpDB.key());
     EXPECT_EQ(main.fake.processes.started.size(), 2u);
     EXPECT_TRUE(main.fake.messages.shown.empty());
 }
@@ -48,10 +48,10 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
         std::function<void(MainWindow&, FakePlatform&)> act;
         const char* target;  // under the drive's program folder
     } cases[] = {
-        {"help book", [](MainWindow& w, FakePlatform&) { w.click("MenuHelpDB"); }, "/help/index.html"},
-        {"homework help", [](MainWindow& w, FakePlatform&) { w.click("MenuHomeworkHelp"); },
+        {"help book", [](MainWindow& w, FakePlatform&) { w.click(w.ui.MenuHelpDB.key()); }, "/help/index.html"},
+        {"homework help", [](MainWindow& w, FakePlatform&) { w.click(w.ui.MenuHomeworkHelp.key()); },
          "/help/homework/index.html"},
-        {"globe", [](MainWindow& w, FakePlatform&) { w.click("PictureBarWeb"); }, "/help/homework/index.html"},
+        {"globe", [](MainWindow& w, FakePlatform&) { w.click(w.ui.PictureBarWeb.key()); }, "/help/homework/index.html"},
         {"tip's tutorials", [](MainWindow& w, FakePlatform&) { w.tipWindow().click("LabelVideo"); },
          "/help/tutorials.html"},
         {"video tutorial 1", [](MainWindow& w, FakePlatform&) { w.click("MenuVideo1"); },
@@ -66,7 +66,7 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
                  about.click("lblDescription");
                  about.click("cmdOK");
              });
-             w.click("MenuAbout");
+             w.click(w.ui.MenuAbout.key());
          },
          "/help/support.html"},
     };
@@ -118,7 +118,7 @@ TEST(HelpMenu, AboutNamesTheProgramAndTheVersionTheBuildWasMadeWith) {
         about.click("cmdOK");
         seen.push_back(about.visible ? "still shown" : "hidden");
     });
-    window.click("MenuAbout");
+    window.click(window.ui.MenuAbout.key());
     const std::string site = "file://" + main.fake.exec + "/help/support.html";
     EXPECT_EQ(seen, (std::vector<std::string>{
                         "About Quillhollow", "Quillhollow for u3", "Version " + projectVersion(),

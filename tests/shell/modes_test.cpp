@@ -7,65 +7,72 @@
 namespace qh {
 namespace {
 
+using Ui = MainWindowControls;
+
 // The controls a mode switch shows or hides (the menus: enables or disables).
-const char* const kSwitched[] = {"ButtonNewAssignment",     "ButtonNewTask",       "ButtonNewEvent",
-                                 "PictureBoxStudySessions", "PictureBoxReminders", "PictureBoxStudyTime",
-                                 "PictureBoxTerm",          "picLock",             "LabelFinishedAssignments",
-                                 "MenuNewAssignment",       "MenuNewTask",         "MenuNewEvent"};
+ControlRef Ui::*const kSwitched[] = {
+    &Ui::ButtonNewAssignment,      &Ui::ButtonNewTask,       &Ui::ButtonNewEvent, &Ui::PictureBoxStudySessions,
+    &Ui::PictureBoxReminders,      &Ui::PictureBoxStudyTime, &Ui::PictureBoxTerm, &Ui::picLock,
+    &Ui::LabelFinishedAssignments, &Ui::MenuNewAssignment,   &Ui::MenuNewTask,    &Ui::MenuNewEvent};
 
 struct ModeCase {
-    const char* menu;
-    const char* bar;
+    ControlRef Ui::*menu;
+    ControlRef Ui::*bar;
     const char* status;
     std::vector<std::string> listEntries, rangeEntries;
-    std::vector<std::string> on;     // of kSwitched; all others off
-    std::vector<std::string> boxes;  // the summary boxes shown
+    std::vector<ControlRef Ui::*> on;     // of kSwitched; all others off
+    std::vector<ControlRef Ui::*> boxes;  // the summary boxes shown
 };
 
 const ModeCase kModes[] = {
-    {"MenuHomework", "PictureBarHomework", "Homework Mode", {"All", "Done", "Not Done"}, {"Day", "Term"},
-     {"ButtonNewAssignment", "PictureBoxTerm", "LabelFinishedAssignments", "MenuNewAssignment"},
-     {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining"}},
-    {"MenuStudySessions", "PictureBarStudySessions", "Study Session Mode", {"All"}, {"Day", "Term"},
-     {"ButtonNewAssignment", "PictureBoxStudySessions", "PictureBoxTerm"}, {"TextBoxStudySessions", "TextBoxStudyTime"}},
-    {"MenuTasks", "PictureBarTasks", "Task Mode", {"All", "Done", "Not Done"}, {"Day", "All", "With Date", "Without Date"},
-     {"ButtonNewTask", "MenuNewTask"}, {"TextBoxTotalTasks", "TextBoxFinishedTasks"}},
-    {"MenuEvents", "PictureBarEvents", "Event Mode", {"All", "Classes", "Other Events"}, {"Day", "Week", "Month", "Year"},
-     {"ButtonNewEvent", "MenuNewEvent"}, {"TextBoxClasses", "TextBoxOtherEvents"}},
-    {"MenuReminders", "PictureBarReminders", "Today's Reminders", {"All", "Homework", "Tasks", "Events"}, {"Today"},
-     {"PictureBoxReminders", "PictureBoxStudyTime", "picLock", "LabelFinishedAssignments"},
-     {"TextBoxAssignments", "TextBoxTasks", "TextBoxEvents"}},
+    {&Ui::MenuHomework, &Ui::PictureBarHomework, "Homework Mode", {"All", "Done", "Not Done"}, {"Day", "Term"},
+     {&Ui::ButtonNewAssignment, &Ui::PictureBoxTerm, &Ui::LabelFinishedAssignments, &Ui::MenuNewAssignment},
+     {&Ui::TextBoxTotalAssignments, &Ui::TextBoxFinishedAssignments, &Ui::TextBoxTimeRemaining}},
+    {&Ui::MenuStudySessions, &Ui::PictureBarStudySessions, "Study Session Mode", {"All"}, {"Day", "Term"},
+     {&Ui::ButtonNewAssignment, &Ui::PictureBoxStudySessions, &Ui::PictureBoxTerm},
+     {&Ui::TextBoxStudySessions, &Ui::TextBoxStudyTime}},
+    {&Ui::MenuTasks, &Ui::PictureBarTasks, "Task Mode", {"All", "Done", "Not Done"},
+     {"Day", "All", "With Date", "Without Date"}, {&Ui::ButtonNewTask, &Ui::MenuNewTask},
+     {&Ui::TextBoxTotalTasks, &Ui::TextBoxFinishedTasks}},
+    {&Ui::MenuEvents, &Ui::PictureBarEvents, "Event Mode", {"All", "Classes", "Other Events"},
+     {"Day", "Week", "Month", "Year"}, {&Ui::ButtonNewEvent, &Ui::MenuNewEvent},
+     {&Ui::TextBoxClasses, &Ui::TextBoxOtherEvents}},
+    {&Ui::MenuReminders, &Ui::PictureBarReminders, "Today's Reminders", {"All", "Homework", "Tasks", "Events"},
+     {"Today"}, {&Ui::PictureBoxReminders, &Ui::PictureBoxStudyTime, &Ui::picLock, &Ui::LabelFinishedAssignments},
+     {&Ui::TextBoxAssignments, &Ui::TextBoxTasks, &Ui::TextBoxEvents}},
 };
 
 // Twice round, so that each mode is also entered from every other and must undo what it left.
 TEST(Modes, EachModeSetsItsWholeTableAndItsStatusBar) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
-    const auto& statusBar = static_cast<const RecordingCanvas&>(*window.c("picStatusBar").canvas);
+    const Ui& ui = window.ui;
+    const auto& statusBar = static_cast<const RecordingCanvas&>(*ui.picStatusBar->canvas);
     for (int pass = 0; pass < 2; ++pass) {
         for (const ModeCase& mode : kModes) {
-            window.click(mode.menu);
-            SCOPED_TRACE(mode.menu);
+            window.click((ui.*mode.menu).key());
+            SCOPED_TRACE((ui.*mode.menu).key());
             for (const ModeCase& other : kModes) {
-                EXPECT_EQ(window.c(other.menu).checked, &other == &mode) << other.menu;
-                const std::string& picture = window.c(other.bar).picture;
+                EXPECT_EQ((ui.*other.menu)->checked, &other == &mode) << (ui.*other.menu).key();
+                const std::string& picture = (ui.*other.bar)->picture;
                 EXPECT_EQ(picture.ends_with("Down"), &other == &mode) << picture;
             }
             EXPECT_EQ(statusBar.texts(),
                       (std::vector<std::string>{mode.status, "Saturday, November 21, 2026      09:05 PM"}));
             EXPECT_EQ(statusBar.calls().back().x2, statusBar.scaleWidth() - 150);  // right-aligned
-            EXPECT_EQ(window.c("ComboList").items, mode.listEntries);
-            EXPECT_EQ(window.c("ComboDateRange").items, mode.rangeEntries);
-            for (const std::string name : kSwitched) {
-                const Control& control = window.c(name);
-                const bool expected = std::ranges::count(mode.on, name) == 1;
-                EXPECT_EQ(name.starts_with("Menu") ? control.enabled : control.visible, expected) << name;
+            EXPECT_EQ(ui.ComboList->items, mode.listEntries);
+            EXPECT_EQ(ui.ComboDateRange->items, mode.rangeEntries);
+            for (const auto switched : kSwitched) {
+                const ControlRef& control = ui.*switched;
+                const bool expected = std::ranges::count(mode.on, switched) == 1;
+                EXPECT_EQ(control.key().starts_with("Menu") ? control->enabled : control->visible, expected)
+                    << control.key();
             }
-            std::vector<std::string> boxes;
+            std::vector<std::string> boxes, expected;
             for (const std::string& key : window.order())
                 if (key.starts_with("TextBox") && window.c(key).container.empty() && window.c(key).visible)
                     boxes.push_back(key);
-            std::vector<std::string> expected = mode.boxes;
+            for (const auto box : mode.boxes) expected.push_back((ui.*box).key());
             std::ranges::sort(boxes);
             std::ranges::sort(expected);
             EXPECT_EQ(boxes, expected);
@@ -73,7 +80,7 @@ TEST(Modes, EachModeSetsItsWholeTableAndItsStatusBar) {
         }
     }
     main.fake.clock.advanceSeconds(60);  // the status bar's clock goes on
-    window.tick("TimerStatusBar");
+    window.tick(ui.TimerStatusBar.key());
     EXPECT_EQ(statusBar.texts().at(1), "Saturday, November 21, 2026      09:06 PM");
 }
 

@@ -12,43 +12,43 @@ namespace {
 class MonthNavigator : public ::testing::Test {
 protected:
     LoadedMainWindow main;
-    MainWindow* window = nullptr;
-    void SetUp() override { window = &main.load(); }
-    Ymd clicked() const { return ymdOf(window->state.ClickedDate); }
+    MainWindow& window = main.load();
+    const MainWindowControls& ui = window.ui;
+    Ymd clicked() const { return ymdOf(window.state.ClickedDate); }
     void show(Ymd date) {
-        window->state.ClickedDate = window->state.DisplayedDate = dateFromYmd(date.year, date.month, date.day);
-        window->Refresh(RefreshReason::Calendar);
+        window.state.ClickedDate = window.state.DisplayedDate = dateFromYmd(date.year, date.month, date.day);
+        window.Refresh(RefreshReason::Calendar);
     }
 };
 
 TEST_F(MonthNavigator, BuildsTheFortyTwoCellsOfTheSelectedMonth) {
     // Saturday 21 November 2026, week starting on Sunday: 25 October to 5 December, the
     // other months grey, today selected (white on black, bold) and framed.
-    EXPECT_EQ(window->c("LabelMonth").caption, "November 2026");
+    EXPECT_EQ(ui.LabelMonth->caption, "November 2026");
     const struct {
         int cell;
         const char* caption;
         Color fore;
     } cells[] = {{0, "25", 0xA9A9A9}, {7, "1", 0x000000}, {27, "21", 0xFFFFFF}, {41, "5", 0xA9A9A9}};
     for (const auto& cell : cells) {
-        const Control& label = window->c("LabelCalDate", cell.cell);
+        const Control& label = ui.LabelCalDate[cell.cell];
         EXPECT_EQ(std::tie(label.caption, label.foreColor, label.bold),
                   std::make_tuple(cell.caption, cell.fore, cell.cell == 27));
     }
-    const Control& today = window->c("LabelCalDate(27)");
+    const Control& today = ui.LabelCalDate[27];
     EXPECT_EQ(today.backColor, 0x000000u);
-    const Control& frame = window->c("LabelCalTileBorder");
+    const Control& frame = window.c("LabelCalTileBorder");
     EXPECT_EQ(std::tie(frame.visible, frame.left, frame.top), std::make_tuple(true, today.left - 15, today.top - 15));
 
     // A grey day moves the calendar to its month. December 2026 shows 29 and 30 November
     // in its first row: today stands there grey, unframed.
-    window->click("LabelCalDate(0)");
+    window.click(ui.LabelCalDate.key(0));
     EXPECT_EQ(clicked(), (Ymd{2026, 10, 25}));
-    EXPECT_EQ(window->c("LabelMonth").caption, "October 2026");
+    EXPECT_EQ(ui.LabelMonth->caption, "October 2026");
     show({2026, 12, 5});
-    EXPECT_EQ(window->c("LabelCalDate(0)").caption, "29");
+    EXPECT_EQ(ui.LabelCalDate[0].caption, "29");
     EXPECT_FALSE(frame.visible);
-    window->click("LabelToday");
+    window.click(ui.LabelToday.key());
     EXPECT_TRUE(frame.visible);
 }
 
@@ -69,17 +69,17 @@ TEST_F(MonthNavigator, ArrowsStepWhileHeldAndKeepTheDateWithinItsBounds) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.arrow);
         show(c.from);
-        window->press(c.arrow);
+        window.press(c.arrow);
         EXPECT_EQ(clicked(), c.pressed);
-        EXPECT_TRUE(window->c(c.arrow).picture.ends_with("Down"));
-        EXPECT_TRUE(window->c("TimerButton").enabled);
-        EXPECT_EQ(window->c("TimerButton").interval, 300);
-        window->tick("TimerButton");
+        EXPECT_TRUE(window.c(c.arrow).picture.ends_with("Down"));
+        EXPECT_TRUE(ui.TimerButton->enabled);
+        EXPECT_EQ(ui.TimerButton->interval, 300);
+        window.tick(ui.TimerButton.key());
         EXPECT_EQ(clicked(), c.held);
-        window->release(c.arrow);
-        EXPECT_FALSE(window->c("TimerButton").enabled);
-        EXPECT_TRUE(window->c(c.arrow).picture.ends_with("Up"));
-        window->tick("TimerButton");  // released: nothing
+        window.release(c.arrow);
+        EXPECT_FALSE(ui.TimerButton->enabled);
+        EXPECT_TRUE(window.c(c.arrow).picture.ends_with("Up"));
+        window.tick(ui.TimerButton.key());  // released: nothing
         EXPECT_EQ(clicked(), c.held);
     }
 }
@@ -90,31 +90,31 @@ TEST_F(MonthNavigator, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtThe
     for (const test::CalendarBoundCase& c : test::kCalendarBoundCases) {
         SCOPED_TRACE(std::string(c.startDay) + " " + c.caption);
         const std::string day = c.startDay;
-        window->click(day == "Monday" ? "MenuStartMon" : day == "Saturday" ? "MenuStartSat" : "MenuStartSun");
+        window.click((day == "Monday" ? ui.MenuStartMon : day == "Saturday" ? ui.MenuStartSat : ui.MenuStartSun).key());
         show(c.from);
         const char* arrow = c.forward ? "picCalMonthUp" : "picCalMonthDown";
-        window->press(arrow);
+        window.press(arrow);
         EXPECT_EQ(clicked(), c.held);
-        test::expectCalendarBeyondBound(*window, c);
-        window->tick("TimerButton");
-        window->release(arrow);
+        test::expectCalendarBeyondBound(window, c);
+        window.tick(ui.TimerButton.key());
+        window.release(arrow);
         EXPECT_EQ(clicked(), c.held);
-        test::expectCalendarBeyondBound(*window, c);
+        test::expectCalendarBeyondBound(window, c);
     }
 }
 
 TEST_F(MonthNavigator, RemindersModeHoldsTheCalendarOnToday) {
-    window->click("LabelTomorrow");
-    EXPECT_EQ(window->c("picTomorrow").picture + window->c("picToday").picture, "TomorrowDownTodayUp");
-    window->click("MenuReminders");
+    window.click(ui.LabelTomorrow.key());
+    EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowDownTodayUp");
+    window.click(ui.MenuReminders.key());
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
-    EXPECT_EQ(window->c("picTomorrow").picture + window->c("picToday").picture, "TomorrowUpTodayDown");
-    EXPECT_EQ(window->c("LabelTomorrow").foreColor, 0xA9A9A9u);  // DarkGray
+    EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowUpTodayDown");
+    EXPECT_EQ(ui.LabelTomorrow->foreColor, 0xA9A9A9u);  // DarkGray
     // Cells, Tomorrow and the arrows do nothing.
-    window->click("LabelCalDate(3)");
-    window->click("LabelTomorrow");
-    window->press("picCalMonthUp");
-    EXPECT_FALSE(window->c("TimerButton").enabled);
+    window.click(ui.LabelCalDate.key(3));
+    window.click(ui.LabelTomorrow.key());
+    window.press("picCalMonthUp");
+    EXPECT_FALSE(ui.TimerButton->enabled);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 }
 
@@ -122,64 +122,64 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     auto headers = [this] {
         std::string letters, offers;
         for (int i = 0; i < 7; ++i) {
-            letters += window->c("LabelCalDay", i).caption;
-            if (window->c("LabelCalDay", i).underline) offers += std::to_string(i);
+            letters += ui.LabelCalDay[i].caption;
+            if (ui.LabelCalDay[i].underline) offers += std::to_string(i);
         }
         return letters + "/" + offers;
     };
     EXPECT_EQ(headers(), "SMTWTFS/16");
-    window->click("LabelCalDay(2)");  // Tuesday: nothing
-    window->click("LabelCalDay(0)");  // the current start day: nothing
-    EXPECT_EQ(window->lastRefreshReason(), RefreshReason::ModeChange);  // still the load's
-    window->click("LabelCalDay(1)");
+    window.click(ui.LabelCalDay.key(2));  // Tuesday: nothing
+    window.click(ui.LabelCalDay.key(0));  // the current start day: nothing
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ModeChange);  // still the load's
+    window.click(ui.LabelCalDay.key(1));
     EXPECT_EQ(headers(), "MTWTFSS/56");
-    EXPECT_EQ(window->lastRefreshReason(), RefreshReason::StartDayOfWeek);
-    window->click("MenuStartSat");
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::StartDayOfWeek);
+    window.click(ui.MenuStartSat.key());
     EXPECT_EQ(headers(), "SSMTWTF/12");
 
     // The first cell starts the week of the 1st; a month whose 1st is the first day of
     // the week shows the whole week before it.
     const struct {
-        const char* start;
+        const ControlRef* start;
         Ymd month;
         const char* firstCell;
-    } cases[] = {{"MenuStartSun", {2026, 11, 1}, "25"}, {"MenuStartSun", {2026, 12, 1}, "29"},
-                 {"MenuStartMon", {2026, 11, 1}, "26"}, {"MenuStartMon", {2026, 6, 1}, "25"},
-                 {"MenuStartSat", {2026, 11, 1}, "31"}, {"MenuStartSat", {2026, 8, 1}, "25"}};
+    } cases[] = {{&ui.MenuStartSun, {2026, 11, 1}, "25"}, {&ui.MenuStartSun, {2026, 12, 1}, "29"},
+                 {&ui.MenuStartMon, {2026, 11, 1}, "26"}, {&ui.MenuStartMon, {2026, 6, 1}, "25"},
+                 {&ui.MenuStartSat, {2026, 11, 1}, "31"}, {&ui.MenuStartSat, {2026, 8, 1}, "25"}};
     for (const auto& c : cases) {
-        window->click(c.start);
+        window.click(c.start->key());
         show(c.month);
-        EXPECT_EQ(window->c("LabelCalDate(0)").caption, c.firstCell) << c.start << " " << c.month.month;
+        EXPECT_EQ(ui.LabelCalDate[0].caption, c.firstCell) << c.start->key() << " " << c.month.month;
     }
 }
 
 TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSayTheirDay) {
-    window->SetFocus("picCalendar");
-    window->pressKey(kKeyRight);
+    window.SetFocus(ui.picCalendar.key());
+    window.pressKey(kKeyRight);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 22}));
     // A turn over a date cell reaches the calendar it lies in: up a notch is a month back.
-    window->wheel("LabelCalDate(30)", 1);
+    window.wheel(ui.LabelCalDate.key(30), 1);
     EXPECT_EQ(clicked(), (Ymd{2026, 10, 22}));
-    window->wheel("LabelCalDate(30)", -2);
+    window.wheel(ui.LabelCalDate.key(30), -2);
     EXPECT_EQ(clicked(), (Ymd{2026, 12, 22}));
-    window->pressKey(kKeyHome);
+    window.pressKey(kKeyHome);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 
     // Each cell says its whole date; today's, the selected one's and marked ones say so.
     testing::addAssignment(main.store, {.date = "2026/11/24"});
-    window->state.DisplayedMonth = 13;  // the marks are made again when the month is built anew
-    window->Refresh(RefreshReason::Calendar);
-    const Date first = FirstCellDate(2026, 11, window->state.StartDayOfWeek);
+    window.state.DisplayedMonth = 13;  // the marks are made again when the month is built anew
+    window.Refresh(RefreshReason::Calendar);
+    const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);
     const auto nameOf = [&](int day) {
-        return window->c("LabelCalDate", int(dateFromYmd(2026, 11, day) - first)).accessibleName;
+        return ui.LabelCalDate[int(dateFromYmd(2026, 11, day) - first)].accessibleName;
     };
     EXPECT_EQ(nameOf(21), "Saturday, November 21, 2026, today, selected");
     EXPECT_EQ(nameOf(24), "Tuesday, November 24, 2026, homework due");
     EXPECT_EQ(nameOf(25), "Wednesday, November 25, 2026");
 
-    window->click("MenuReminders");
-    window->pressKey(kKeyRight);
-    window->wheel("picCalendar", 1);
+    window.click(ui.MenuReminders.key());
+    window.pressKey(kKeyRight);
+    window.wheel(ui.picCalendar.key(), 1);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 }
 

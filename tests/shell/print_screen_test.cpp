@@ -14,11 +14,11 @@ public:
 
 TEST(PrintScreen, PrintsTheCopiesChosenAndNothingOnCancel) {
     ListWindow view(Mode::Homework);
-    view.window.click("MenuPrintScreen");  // the user cancels
+    view.window.click(view.window.ui.MenuPrintScreen.key());  // the user cancels
     view.fake.dialogs.printerAnswers.push_back({true, 0, "Office Laser", 1});
-    view.window.click("MenuPrintScreen");
+    view.window.click(view.window.ui.MenuPrintScreen.key());
     view.fake.dialogs.printerAnswers.push_back({true, 0, "PDF", 3});
-    view.window.click("MenuPrintScreen");
+    view.window.click(view.window.ui.MenuPrintScreen.key());
     EXPECT_EQ(view.fake.dialogs.printerRequests, 3);
     EXPECT_EQ(view.fake.windowing.printed, (std::vector<std::string>{"frmMain on Office Laser x1", "frmMain on PDF x3"}));
     EXPECT_TRUE(view.fake.messages.shown.empty());
@@ -32,7 +32,7 @@ TEST(PrintScreen, AFailedPrintIsToldAndThePlannerGoesOn) {
     RecordStore store;
     MainWindow window(store, platform);
     fake.dialogs.printerAnswers.push_back({true, 0, "Office Laser", 2});
-    window.click("MenuPrintScreen");
+    window.click(window.ui.MenuPrintScreen.key());
     ASSERT_EQ(fake.messages.shown.size(), 1u);
     EXPECT_EQ(fake.messages.shown[0].title, "Print Screen");
     EXPECT_NE(fake.messages.shown[0].text.find("out of paper"), std::string::npos);

@@ -35,9 +35,9 @@ protected:
 TEST_F(RefreshDisplay, TheMarkedDaysFollowEachChoiceOfList) {
     MainWindow& window = load();
     EXPECT_EQ(markedDays(), (std::vector<int>{10, 12}));
-    window.select("ComboList", "Done");
+    window.select(window.ui.ComboList.key(), "Done");
     EXPECT_EQ(markedDays(), (std::vector<int>{10}));
-    window.select("ComboList", "Not Done");
+    window.select(window.ui.ComboList.key(), "Not Done");
     EXPECT_EQ(markedDays(), (std::vector<int>{12}));
 }
 
@@ -45,15 +45,15 @@ TEST_F(RefreshDisplay, TheMarkedDaysFollowEachChoiceOfList) {
 // reminders the list has just gathered; the other modes keep the selected date.
 TEST_F(RefreshDisplay, RemindersGoToTodayAndTheOtherModesKeepTheSelectedDate) {
     MainWindow& window = load();
-    window.click("LabelCalDate(14)");
+    window.click(window.ui.LabelCalDate.key(14));
     const Date selected = window.state.ClickedDate;
     ASSERT_NE(selected, main.fake.clock.today());
-    window.click("MenuTasks");
+    window.click(window.ui.MenuTasks.key());
     EXPECT_EQ(window.state.ClickedDate, selected);
-    window.click("MenuReminders");
+    window.click(window.ui.MenuReminders.key());
     EXPECT_EQ(window.state.ClickedDate, main.fake.clock.today());
-    EXPECT_EQ(window.c("LabelTop").caption, "Reminders for Saturday, November 21, 2026");
-    window.click("MenuHomework");
+    EXPECT_EQ(window.ui.LabelTop->caption, "Reminders for Saturday, November 21, 2026");
+    window.click(window.ui.MenuHomework.key());
     EXPECT_EQ(window.state.ClickedDate, main.fake.clock.today());
     EXPECT_EQ(markedDays(), (std::vector<int>{10, 12}));
 }
@@ -68,7 +68,7 @@ TEST_F(RefreshDisplay, EachReasonDoesOnlyTheWorkItNeeds) {
     EXPECT_FALSE(ran(window, RefreshStep::BuildCalendar));
     window.Refresh(RefreshReason::NewTerm);
     EXPECT_TRUE(ran(window, RefreshStep::FillGradeList));
-    window.click("MenuTasks");
+    window.click(window.ui.MenuTasks.key());
     window.Refresh(RefreshReason::NewTerm);
     EXPECT_TRUE(window.lastRefreshSteps().empty());
     window.Refresh(RefreshReason::StartDayOfWeek);
@@ -82,25 +82,25 @@ TEST_F(RefreshDisplay, EachReasonDoesOnlyTheWorkItNeeds) {
 
 TEST_F(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderWay) {
     MainWindow& window = load();
-    window.click("LabelCalDate(20)");
+    window.click(window.ui.LabelCalDate.key(20));
     const Date selected = window.state.ClickedDate;
-    window.select("ComboDateRange", "Day");  // keeps the selected date and month
+    window.select(window.ui.ComboDateRange.key(), "Day");  // keeps the selected date and month
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ViewChange);
     EXPECT_EQ(window.state.ClickedDate, selected);
     EXPECT_EQ(window.state.DisplayedDate, selected);
     // The list choice tints the view panel.
     for (const auto& [list, tint] : {std::pair{"Not Done", 0xE5E5FFu}, std::pair{"Done", 0xE2F7E1u}}) {
-        window.select("ComboList", list);
-        EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, tint) << list;
+        window.select(window.ui.ComboList.key(), list);
+        EXPECT_EQ(window.ui.PictureBoxViewMenus->backColor, tint) << list;
     }
     window.Refresh(RefreshReason::Resize);
     window.state.SuppressComboEvents = true;
-    window.select("ComboList", "Not Done");
+    window.select(window.ui.ComboList.key(), "Not Done");
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Resize);
-    EXPECT_EQ(window.c("PictureBoxViewMenus").backColor, 0xE2F7E1u);
+    EXPECT_EQ(window.ui.PictureBoxViewMenus->backColor, 0xE2F7E1u);
     window.state.SuppressComboEvents = false;
     window.state.Refreshing = RefreshReason::Calendar;  // a refresh under way
-    window.select("ComboDateRange", "Term");
+    window.select(window.ui.ComboDateRange.key(), "Term");
     EXPECT_EQ(window.state.Refreshing, RefreshReason::Calendar);
 }
 
@@ -115,9 +115,9 @@ TEST(MainWindow, AMinimisedWindowRaisesNoRefreshAndTheScrollBarHandsOnItsFocus) 
     window.Form_Resize();
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::Resize);
 
-    window.focusedControl = "VSGridScroll";
-    window.fire("VSGridScroll", FormEvent::GotFocus);
-    EXPECT_EQ(window.focusedControl, "picGrid");
+    window.focusedControl = window.ui.VSGridScroll.key();
+    window.fire(window.ui.VSGridScroll.key(), FormEvent::GotFocus);
+    EXPECT_EQ(window.focusedControl, window.ui.picGrid.key());
 }
 
 }  // namespace

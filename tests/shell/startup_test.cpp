@@ -68,15 +68,13 @@ TEST(MainWindowLoad, AFirstRunOnAnEmptyDriveMakesTheFoldersReadsTheFilesAndOpens
     for (const std::string& name : files) EXPECT_EQ(fs::file_size(base + "/Data/" + name), 0u) << name;
     EXPECT_EQ(std::distance(fs::directory_iterator(base + "/Data"), {}), 8);  // and Backup: nothing else
     EXPECT_TRUE(fs::exists(main.fake.host + "/4242.PID"));
-    EXPECT_EQ(window.c("LabelTerm").caption, "No Term Selected");
-    EXPECT_EQ(window.c("LabelDaysLeft").caption, "");
+    EXPECT_EQ(window.ui.LabelTerm->caption, "No Term Selected");
+    EXPECT_EQ(window.ui.LabelDaysLeft->caption, "");
     EXPECT_EQ(window.CurrentMode(), Mode::Homework);
-    EXPECT_TRUE(window.c("TimerTip").enabled);
+    EXPECT_TRUE(window.ui.TimerTip->enabled);
     EXPECT_TRUE(main.fake.messages.shown.empty());
 }
 
-// Closing deletes the process file and writes the preferences, which the next run
-// reads; a failure on the way is silent and the window still closes.
 TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
     LoadedMainWindow main;
     main.putDataFile("Terms.txt", termRecord(1, "Fall 2026", "2026/08/31", "2026/12/18"));
@@ -88,7 +86,7 @@ TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
     EXPECT_TRUE(main.fake.messages.shown.empty());
     EXPECT_EQ(main.store.AssignmentDescriptions, (TextColumn{"Lab report"}));
     EXPECT_EQ(window.caption, std::string("Quillhollow Homework System - ") + kReadOnlyText);
-    EXPECT_TRUE(window.c("picStatusBar").accessibleName.starts_with(kReadOnlyText));
+    EXPECT_TRUE(window.ui.picStatusBar->accessibleName.starts_with(kReadOnlyText));
 
     // A save is refused with the same words before anything is written.
     main.store.AssignmentsChanged = kTrue;  // as a save earlier in the run would leave it
@@ -103,13 +101,15 @@ TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
               "[Options]\r\nActiveTerm=Fall 2026\r\n");
 }
 
+// Closing deletes the process file and writes the preferences, which the next run
+// reads; a failure on the way is silent and the window still closes.
 TEST(MainWindowUnload, DeletesTheProcessFileAndWritesThePreferencesSilently) {
     for (bool failing : {false, true}) {
         SCOPED_TRACE(failing);
         LoadedMainWindow main;
         MainWindow& window = main.load();
-        window.click("MenuStartSat");
-        window.click("MenuEvents");
+        window.click(window.ui.MenuStartSat.key());
+        window.click(window.ui.MenuEvents.key());
         if (failing) main.fake.files.failPath("Preferences.ini");
         main.fake.windowing.close(window, UnloadMode::CloseBox);
         EXPECT_FALSE(window.visible);
@@ -129,8 +129,8 @@ TEST(MainWindowUnload, DeletesTheProcessFileAndWritesThePreferencesSilently) {
         MainWindow second(again, main.fake.platform);
         second.Form_Load();
         EXPECT_EQ(second.CurrentMode(), Mode::Homework);
-        EXPECT_TRUE(second.c("MenuStartSat").checked);
-        EXPECT_EQ(second.c("ComboDateRange").text, "Term");
+        EXPECT_TRUE(second.ui.MenuStartSat->checked);
+        EXPECT_EQ(second.ui.ComboDateRange->text, "Term");
     }
 }
 

@@ -25,8 +25,8 @@ TEST_F(TermPanel, WithoutAPreferenceTheNewestLiveTermOpensAndSelectingATermReads
     MainWindow& window = load();
     EXPECT_EQ(main.store.CurrentTermName, "Winter");
     EXPECT_EQ(main.store.CurrentTermID, 2);
-    EXPECT_EQ(window.c("LabelTerm").caption, "Winter");
-    EXPECT_EQ(window.c("LabelDaysLeft").caption, "119 Days Left in Term");
+    EXPECT_EQ(window.ui.LabelTerm->caption, "Winter");
+    EXPECT_EQ(window.ui.LabelDaysLeft->caption, "119 Days Left in Term");
     ASSERT_EQ(main.store.AssignmentDescriptions.count(), 1);
     EXPECT_EQ(main.store.AssignmentDescriptions(1), "Winter work");
 
@@ -37,8 +37,8 @@ TEST_F(TermPanel, WithoutAPreferenceTheNewestLiveTermOpensAndSelectingATermReads
 
     // Naming the tombstone selects it and reads nothing.
     window.SelectTerm("DELETED RECORD");
-    EXPECT_EQ(window.c("LabelTerm").caption, "No Term Selected");
-    EXPECT_EQ(window.c("LabelDaysLeft").caption, "");
+    EXPECT_EQ(window.ui.LabelTerm->caption, "No Term Selected");
+    EXPECT_EQ(window.ui.LabelDaysLeft->caption, "");
     EXPECT_EQ(main.store.AssignmentRecordNos.count(), 0);
 }
 
@@ -54,7 +54,7 @@ TEST_F(TermPanel, CountsTheDaysLeftAroundTheTermsEnd) {
     for (const auto& c : cases) {
         main.fake.clock.set(c.today.year, c.today.month, c.today.day);
         window.SelectTerm("Fall 2026");
-        EXPECT_EQ(window.c("LabelDaysLeft").caption, c.shown);
+        EXPECT_EQ(window.ui.LabelDaysLeft->caption, c.shown);
     }
 }
 

@@ -28,10 +28,14 @@ std::vector<std::string> walk(FrmTip& tip, Int16 start, int nextClicks) {
     return seen;
 }
 
-TEST(TipOfTheDay, NextTipGoesOnAndAfterTheLastComesTheFirst) {
+// The tip window loaded as the main window loads it.
+struct TipOfTheDay : ::testing::Test {
     FakePlatform fake;
-    FrmTip tip(fake.environment);
-    tip.Form_Load();
+    FrmTip tip{fake.environment};
+    TipOfTheDay() { tip.Form_Load(); }
+};
+
+TEST_F(TipOfTheDay, NextTipGoesOnAndAfterTheLastComesTheFirst) {
     const std::vector<std::string> seen = walk(tip, 29, 3);
     ASSERT_EQ(seen.size(), 4u);
     EXPECT_EQ(seen[1], std::string(kLastTip) + ">0");
@@ -45,10 +49,7 @@ TEST(TipOfTheDay, NextTipGoesOnAndAfterTheLastComesTheFirst) {
     EXPECT_EQ(std::unique(round.begin(), round.end()), round.end());
 }
 
-TEST(TipOfTheDay, ANumberOutsideTheTipsAsksForQuestionsAtTheContactPage) {
-    FakePlatform fake;
-    FrmTip tip(fake.environment);
-    tip.Form_Load();
+TEST_F(TipOfTheDay, ANumberOutsideTheTipsAsksForQuestionsAtTheContactPage) {
     const std::string note =
         "Have any questions? Please ask! Just go to file://" + fake.exec + "/help/contactus.html";
     const struct {
@@ -61,10 +62,7 @@ TEST(TipOfTheDay, ANumberOutsideTheTipsAsksForQuestionsAtTheContactPage) {
     }
 }
 
-TEST(TipOfTheDay, EveryShowingTicksTheBoxAfreshAndCloseOnlyHides) {
-    FakePlatform fake;
-    FrmTip tip(fake.environment);
-    tip.Form_Load();
+TEST_F(TipOfTheDay, EveryShowingTicksTheBoxAfreshAndCloseOnlyHides) {
     EXPECT_EQ(tip.caption, "Quillhollow Tip of the Day");
     EXPECT_FALSE(tip.c("ImageLite").visible);
     EXPECT_GT(tip.c("ImageFull").z, tip.c("ImageLite").z);
@@ -91,16 +89,15 @@ TEST(TipOfTheDay, EveryShowingTicksTheBoxAfreshAndCloseOnlyHides) {
 
 // The main window's side: the first tick of TimerTip shows the tip modally; what the
 // student chose is stored at exit and read at the next start.
-TEST(TipOfTheDay, TheChoiceAndThePlaceGoOnAcrossARestart) {
-    FakePlatform fake;
-    auto run = [&fake](const std::function<void(MainWindow&)>& during) {
+TEST_F(TipOfTheDay, TheChoiceAndThePlaceGoOnAcrossARestart) {
+    auto run = [this](const std::function<void(MainWindow&)>& during) {
         RecordStore store;
         MainWindow window(store, fake.platform);
         window.Form_Load();
         during(window);
         window.Form_Unload();
     };
-    auto shownTips = [&fake] {
+    auto shownTips = [this] {
         return std::count(fake.windowing.log.begin(), fake.windowing.log.end(), "modal frmTip");
     };
     std::string lastShown;
@@ -116,8 +113,8 @@ TEST(TipOfTheDay, TheChoiceAndThePlaceGoOnAcrossARestart) {
     // First run: tips 0, 1, 2 seen, then turned off.
     fake.windowing.modalUsers["frmTip"].push_back(student(false, 2));
     run([](MainWindow& window) {
-        window.tick("TimerTip");
-        window.tick("TimerTip");  // one shot
+        window.tick(window.ui.TimerTip.key());
+        window.tick(window.ui.TimerTip.key());  // one shot
         EXPECT_EQ(window.state.CurrentTip, 3);
         EXPECT_EQ(window.state.ShowTipsAtStartup, "No");
     });
@@ -129,23 +126,21 @@ TEST(TipOfTheDay, TheChoiceAndThePlaceGoOnAcrossARestart) {
     // Second run: no tip at the start; the menu entry turns them on and goes on at tip 3.
     fake.windowing.modalUsers["frmTip"].push_back(student(true, 0));
     run([&](MainWindow& window) {
-        window.tick("TimerTip");
+        window.tick(window.ui.TimerTip.key());
         EXPECT_EQ(shownTips(), 1);
-        window.click("MenuShowTips");
+        window.click(window.ui.MenuShowTips.key());
         EXPECT_EQ(shownTips(), 2);
         EXPECT_EQ(lastShown, FrmTip::TipText(3, fake.environment));
     });
 
     // Third run: on again, from tip 4.
     fake.windowing.modalUsers["frmTip"].push_back(student(true, 0));
-    run([](MainWindow& window) { window.tick("TimerTip"); });
+    run([](MainWindow& window) { window.tick(window.ui.TimerTip.key()); });
     EXPECT_EQ(shownTips(), 3);
     EXPECT_EQ(lastShown, FrmTip::TipText(4, fake.environment));
 }
 
-TEST(TipOfTheDay, EscapeAndEnterCloseTheTipAndAbout) {
-    FakePlatform fake;
-    FrmTip tip(fake.environment);
+TEST_F(TipOfTheDay, EscapeAndEnterCloseTheTipAndAbout) {
     FrmAbout about(fake.platform);
     for (Form* window : std::initializer_list<Form*>{&tip, &about}) {
         for (int key : {kKeyEscape, kKeyReturn}) {
