@@ -14,24 +14,26 @@ namespace qh {
 FrmAbout::FrmAbout(Platform& platform) : Form("frmAbout"), platform_(platform) {
     fixedSize = true;
     setOuterSize(6300, 4200);
-    add(ControlKind::PictureBox, "picIcon", "", 240, 240, 720, 1760).picture = "TipFull";
-    Control& title = add(ControlKind::Label, "lblTitle", "", 1200, 240, 4800, 420);
+    add(ControlKind::PictureBox, picIcon.key(), "", 240, 240, 720, 1760).picture = "TipFull";
+    Control& title = add(ControlKind::Label, lblTitle.key(), "", 1200, 240, 4800, 420);
     title.fontName = "Verdana";
     title.fontSize = 12;
     title.bold = true;
-    add(ControlKind::Label, "lblVersion", "", 1200, 720, 4800, 285).fontName = "Verdana";
-    Control& description = add(ControlKind::Label, "lblDescription", "", 1200, 1140, 4800, 1920);
+    Control& version = add(ControlKind::Label, lblVersion.key(), "", 1200, 720, 4800, 285);
+    version.fontName = "Verdana";
+    Control& description = add(ControlKind::Label, lblDescription.key(), "", 1200, 1140, 4800, 1920);
     description.fontName = "Verdana";
-    add(ControlKind::CommandButton, "cmdOK", "", 4680, 3180, 1320, 375).caption = "OK";
-    for (const char* label : {"lblTitle", "lblVersion", "lblDescription"}) c(label).opaque = false;
+    add(ControlKind::CommandButton, cmdOK.key(), "", 4680, 3180, 1320, 375).caption = "OK";
+    for (Control* label : {&title, &version, &description}) label->opaque = false;
 
     // Enter and Escape both close the window, as its one button does.
-    defaultButton = cancelButton = "cmdOK";
-    on("cmdOK", FormEvent::Click, [this](const EventArgs&) { hide(); });
-    on("lblDescription", FormEvent::Click, [this](const EventArgs&) {
+    defaultButton = cancelButton = cmdOK.key();
+    on(cmdOK.key(), FormEvent::Click, [this](const EventArgs&) { hide(); });
+    on(lblDescription.key(), FormEvent::Click, [this](const EventArgs&) {
         OpenWithDesktop(platform_.processes, platform_.messages,
                         HelpBookAddress(platform_.environment, kProductSitePage));
     });
+    bindControls();
 }
 
 std::string FrmAbout::VersionNumbers() {
@@ -41,10 +43,10 @@ std::string FrmAbout::VersionNumbers() {
 
 void FrmAbout::Form_Load() {
     caption = "About Quillhollow";
-    c("lblTitle").caption = "Quillhollow for u3";
-    c("lblVersion").caption = "Version " + VersionNumbers();
+    lblTitle->caption = "Quillhollow for u3";
+    lblVersion->caption = "Version " + VersionNumbers();
     // The double blank after "organizer" is the program's own text.
-    c("lblDescription").caption =
+    lblDescription->caption =
         "Quillhollow is the essential homework management tool. It combines the best features of a student planner "
         "and homework organizer  into one, easy to use program.\n\nFor questions, orders and upgrades, visit the "
         "website at " +

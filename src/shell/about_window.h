@@ -2,6 +2,7 @@
 // frmAbout: names the program, its version and where to ask. Shown modally; OK hides it.
 #include <string>
 
+#include "platform/control_ref.h"
 #include "platform/form.h"
 
 namespace qh {
@@ -18,6 +19,8 @@ public:
     static std::string VersionNumbers();
 
 private:
+    ControlRef picIcon{this, "picIcon"}, lblTitle{this, "lblTitle"}, lblVersion{this, "lblVersion"},
+        lblDescription{this, "lblDescription"}, cmdOK{this, "cmdOK"};
     Platform& platform_;
 };
 

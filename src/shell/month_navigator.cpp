@@ -53,7 +53,8 @@ void MainWindow::UpdateQuickDateButtons() {
 
 void MainWindow::ApplyStartDayOfWeek() {
     const std::string menu = ApplyDayHeaders(*this, state.StartDayOfWeek);
-    for (const char* item : {"MenuStartSun", "MenuStartMon", "MenuStartSat"}) c(item).checked = item == menu;
+    for (const ControlRef* item : {&ui.MenuStartSun, &ui.MenuStartMon, &ui.MenuStartSat})
+        (*item)->checked = item->key() == menu;
     state.ClickedDate = state.DisplayedDate;
     Refresh(RefreshReason::StartDayOfWeek);
 }

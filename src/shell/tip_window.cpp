@@ -49,49 +49,50 @@ const std::array<const char*, 31> kTips = {
 FrmTip::FrmTip(const Environment& environment) : Form("frmTip"), environment_(environment) {
     fixedSize = true;
     setOuterSize(6600, 3900);
-    add(ControlKind::PictureBox, "ImageFull", "", 120, 120, 1020, 2640).picture = "TipFull";
-    Control& lite = add(ControlKind::PictureBox, "ImageLite", "", 120, 120, 1020, 2640);
+    add(ControlKind::PictureBox, ImageFull.key(), "", 120, 120, 1020, 2640).picture = "TipFull";
+    Control& lite = add(ControlKind::PictureBox, ImageLite.key(), "", 120, 120, 1020, 2640);
     lite.picture = "TipFull";
     // The tip stands on a white sheet beside the picture.
-    Control& sheet = add(ControlKind::PictureBox, "picSheet", "", 1200, 120, 5220, 2640);
+    Control& sheet = add(ControlKind::PictureBox, picSheet.key(), "", 1200, 120, 5220, 2640);
     sheet.backColor = kWhite;
     sheet.border = true;
-    Control& title = add(ControlKind::Label, "LabelTitle", "picSheet", 120, 120, 4980, 420);
+    Control& title = add(ControlKind::Label, LabelTitle.key(), picSheet.key(), 120, 120, 4980, 420);
     title.caption = "Did you know...";
     title.fontName = "Verdana";
     title.fontSize = 12;
     title.bold = true;
-    Control& tip = add(ControlKind::Label, "LabelTip", "picSheet", 120, 660, 4980, 1500);
+    Control& tip = add(ControlKind::Label, LabelTip.key(), picSheet.key(), 120, 660, 4980, 1500);
     tip.fontName = "Verdana";
     tip.fontSize = 10;
-    Control& video = add(ControlKind::Label, "LabelVideo", "picSheet", 120, 2220, 4980, 300);
+    Control& video = add(ControlKind::Label, LabelVideo.key(), picSheet.key(), 120, 2220, 4980, 300);
     video.foreColor = 0xC00000;  // blue, as a link
     video.underline = true;
     for (Control* label : {&title, &tip, &video}) label->opaque = false;
-    add(ControlKind::CheckBox, "CheckBoxShowTips", "", 120, 2940, 2700, 315).caption = "Show Tips at Startup";
-    add(ControlKind::CommandButton, "ButtonNextTip", "", 3480, 2880, 1320, 375).caption = "Next Tip";
-    add(ControlKind::CommandButton, "ButtonClose", "", 4980, 2880, 1320, 375).caption = "Close";
+    add(ControlKind::CheckBox, CheckBoxShowTips.key(), "", 120, 2940, 2700, 315).caption = "Show Tips at Startup";
+    add(ControlKind::CommandButton, ButtonNextTip.key(), "", 3480, 2880, 1320, 375).caption = "Next Tip";
+    add(ControlKind::CommandButton, ButtonClose.key(), "", 4980, 2880, 1320, 375).caption = "Close";
 
     // Escape closes the tip as Close does; Enter presses the focused button, else Close.
-    defaultButton = cancelButton = "ButtonClose";
-    on("ButtonNextTip", FormEvent::Click, [this](const EventArgs&) { ShowNextTip(); });
-    on("CheckBoxShowTips", FormEvent::Click,
-       [this](const EventArgs&) { tempShowTipsAtStartup = c("CheckBoxShowTips").checked ? "Yes" : "No"; });
-    on("ButtonClose", FormEvent::Click, [this](const EventArgs&) { hide(); });
+    defaultButton = cancelButton = ButtonClose.key();
+    on(ButtonNextTip.key(), FormEvent::Click, [this](const EventArgs&) { ShowNextTip(); });
+    on(CheckBoxShowTips.key(), FormEvent::Click,
+       [this](const EventArgs&) { tempShowTipsAtStartup = CheckBoxShowTips->checked ? "Yes" : "No"; });
+    on(ButtonClose.key(), FormEvent::Click, [this](const EventArgs&) { hide(); });
+    bindControls();
 }
 
 void FrmTip::Form_Load() {
     caption = "Quillhollow Tip of the Day";
-    c("ImageLite").visible = false;
-    bringToFront("ImageFull");
+    ImageLite->visible = false;
+    bringToFront(ImageFull.key());
 }
 
 void FrmTip::Form_Activate() {
-    c("LabelVideo").caption = "Don't miss the Video Tutorials in the Help Menu!";
-    c("CheckBoxShowTips").checked = true;
+    LabelVideo->caption = "Don't miss the Video Tutorials in the Help Menu!";
+    CheckBoxShowTips->checked = true;
     tempShowTipsAtStartup = "Yes";
     TotalTips = 30;
-    focusedControl = "ButtonClose";
+    focusedControl = ButtonClose.key();
     ShowNextTip();
 }
 
@@ -102,7 +103,7 @@ bool FrmTip::Form_QueryUnload(UnloadMode mode) {
 }
 
 void FrmTip::ShowNextTip() {
-    c("LabelTip").caption = TipText(tempCurrentTip, environment_);
+    LabelTip->caption = TipText(tempCurrentTip, environment_);
     // A tip number past the last (a hand-edited Preferences.ini says 32767) starts the
     // tips again rather than overflowing.
     tempCurrentTip = tempCurrentTip >= TotalTips ? Int16(0) : toInt16(tempCurrentTip + 1);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/int16.h"
+#include "platform/control_ref.h"
 #include "platform/form.h"
 
 namespace qh {
@@ -35,6 +36,10 @@ public:
     static std::string TipText(int number, const Environment& environment);
 
 private:
+    ControlRef ImageFull{this, "ImageFull"}, ImageLite{this, "ImageLite"}, picSheet{this, "picSheet"},
+        LabelTitle{this, "LabelTitle"}, LabelTip{this, "LabelTip"}, LabelVideo{this, "LabelVideo"},
+        CheckBoxShowTips{this, "CheckBoxShowTips"}, ButtonNextTip{this, "ButtonNextTip"},
+        ButtonClose{this, "ButtonClose"};
     const Environment& environment_;
 };
 
