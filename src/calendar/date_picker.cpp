@@ -14,20 +14,25 @@ constexpr int kRepeatMs = 300;
 DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
                        std::function<std::string()> startDayOfWeek, DateField first, std::optional<DateField> second)
     : form_(form),
+      calendar_(&form),
+      LabelCalMonthDown(&form, "LabelCalMonthDown"),
+      LabelCalMonthUp(&form, "LabelCalMonthUp"),
+      TimerCalendar(&form, "TimerCalendar"),
+      TimerButton(&form, "TimerButton"),
       platform_(platform),
       owner_(owner),
       startDayOfWeek_(std::move(startDayOfWeek)),
       first_(std::move(first)),
       second_(std::move(second)) {
-    AddMonthCalendarControls(form, "", first_.left, first_.top);
+    Control& calendar = AddMonthCalendarControls(calendar_, "", first_.left, first_.top);
     // The month arrows are pressed through labels lying over their pictures.
-    form.add(ControlKind::Label, "LabelCalMonthDown", "picCalMonthDown", 0, 0, 180, 270).opaque = false;
-    form.add(ControlKind::Label, "LabelCalMonthUp", "picCalMonthUp", 0, 0, 330, 270).opaque = false;
-    Control& calendar = form.c("picCalendar");
+    form.add(ControlKind::Label, LabelCalMonthDown.key(), calendar_.picCalMonthDown.key(), 0, 0, 180, 270).opaque =
+        false;
+    form.add(ControlKind::Label, LabelCalMonthUp.key(), calendar_.picCalMonthUp.key(), 0, 0, 330, 270).opaque = false;
     calendar.visible = calendar.enabled = false;
-    form.bringToFront("picCalendar");
-    form.add(ControlKind::Timer, "TimerCalendar", "", 0, 0, 0, 0).interval = kCloseGuardMs;
-    form.add(ControlKind::Timer, "TimerButton", "", 0, 0, 0, 0).interval = kRepeatMs;
+    form.bringToFront(calendar_.picCalendar.key());
+    form.add(ControlKind::Timer, TimerCalendar.key(), "", 0, 0, 0, 0).interval = kCloseGuardMs;
+    form.add(ControlKind::Timer, TimerButton.key(), "", 0, 0, 0, 0).interval = kRepeatMs;
 
     auto onClick = [&form](const std::string& key, std::function<void()> action) {
         form.on(key, FormEvent::Click, [action](const EventArgs&) { action(); });
@@ -38,26 +43,26 @@ DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
         onClick(f.textBox, [this, isFirst] { fieldPressed(isFirst); });
         if (!f.button.empty()) onClick(f.button, [this, isFirst] { fieldPressed(isFirst); });
     }
-    for (int i = 0; i < 42; ++i) onClick("LabelCalDate(" + std::to_string(i) + ")", [this, i] {
+    for (int i = 0; i < 42; ++i) onClick(calendar_.LabelCalDate.key(i), [this, i] {
         pick(cells_.CalendarDates[std::size_t(i)]);
     });
-    onClick("LabelToday", [this] { pick(cells_.CalendarDates[kElementToday]); });
-    onClick("LabelTomorrow", [this] { pick(cells_.CalendarDates[kElementTomorrow]); });
+    onClick(calendar_.LabelToday.key(), [this] { pick(cells_.CalendarDates[kElementToday]); });
+    onClick(calendar_.LabelTomorrow.key(), [this] { pick(cells_.CalendarDates[kElementTomorrow]); });
     for (bool forward : {true, false}) {
-        const std::string label = forward ? "LabelCalMonthUp" : "LabelCalMonthDown";
+        const std::string& label = (forward ? LabelCalMonthUp : LabelCalMonthDown).key();
         form.on(label, FormEvent::MouseDown, [this, forward](const EventArgs&) { arrowPressed(forward); });
         form.on(label, FormEvent::MouseUp, [this, forward](const EventArgs&) { arrowReleased(forward); });
     }
-    form.on("TimerButton", FormEvent::Timer, [this](const EventArgs&) { tickRepeat(); });
-    form.on("TimerCalendar", FormEvent::Timer, [this](const EventArgs&) {
-        form_.c("TimerCalendar").enabled = false;
+    form.on(TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { tickRepeat(); });
+    form.on(TimerCalendar.key(), FormEvent::Timer, [this](const EventArgs&) {
+        TimerCalendar->enabled = false;
         CalendarOpen = false;
     });
-    form.on("picCalendar", FormEvent::LostFocus, [this](const EventArgs&) {
+    form.on(calendar_.picCalendar.key(), FormEvent::LostFocus, [this](const EventArgs&) {
         if (visible()) CloseCalendar();
     });
-    form.c("picCalendar").focusable = true;
-    form.on("picCalendar", FormEvent::KeyDown, [this](const EventArgs& args) { keyPressed(args.keyCode); });
+    calendar.focusable = true;
+    form.on(calendar_.picCalendar.key(), FormEvent::KeyDown, [this](const EventArgs& args) { keyPressed(args.keyCode); });
 }
 
 void DatePicker::keyPressed(int keyCode) {
@@ -70,7 +75,7 @@ void DatePicker::keyPressed(int keyCode) {
             pick(PickerDate);
         }
         // No click closed it, so none needs keeping from opening it again.
-        form_.c("TimerCalendar").enabled = false;
+        TimerCalendar->enabled = false;
         CalendarOpen = false;
     } else if (const auto date = CalendarKeyTarget(cells_.CalendarDates, PickerDate, keyCode)) {
         PickerDate = *date;
@@ -83,7 +88,7 @@ void DatePicker::returnFocus() {
     form_.SetFocus(f.button.empty() ? f.textBox : f.button);
 }
 
-bool DatePicker::visible() const { return form_.c("picCalendar").visible; }
+bool DatePicker::visible() const { return calendar_.picCalendar->visible; }
 
 void DatePicker::fieldPressed(bool firstField) {
     if (CalendarOpen) return;
@@ -93,31 +98,31 @@ void DatePicker::fieldPressed(bool firstField) {
 
 void DatePicker::OpenCalendar() {
     const DateField& f = field(PickFirstField);
-    Control& calendar = form_.c("picCalendar");
+    Control& calendar = *calendar_.picCalendar;
     calendar.left = f.left;
     calendar.top = f.top;
     PickerDate = owner_.pickerFieldDate(PickFirstField);
     build();
     calendar.visible = calendar.enabled = true;
     // Over everything, also over a frame the window brought to the front since.
-    form_.bringToFront("picCalendar");
-    form_.SetFocus("picCalendar");
+    form_.bringToFront(calendar_.picCalendar.key());
+    form_.SetFocus(calendar_.picCalendar.key());
     CalendarOpen = true;
 }
 
 void DatePicker::CloseCalendar() {
-    Control& calendar = form_.c("picCalendar");
+    Control& calendar = *calendar_.picCalendar;
     calendar.visible = calendar.enabled = false;
-    form_.c("TimerCalendar").enabled = true;
+    TimerCalendar->enabled = true;
 }
 
 void DatePicker::reset() {
     CloseCalendar();
-    ApplyDayHeaders(form_, startDayOfWeek_());
+    ApplyDayHeaders(calendar_, startDayOfWeek_());
 }
 
 void DatePicker::windowPressed(const std::string& controlKey) {
-    if (visible() && !form_.isInside(controlKey, "picCalendar")) CloseCalendar();
+    if (visible() && !form_.isInside(controlKey, calendar_.picCalendar.key())) CloseCalendar();
 }
 
 void DatePicker::build() {
@@ -126,8 +131,8 @@ void DatePicker::build() {
     const Date today = platform_.clock.today();
     cells_ = BuildMonthCells(PickerDate, today, startDayOfWeek_(), noMarks, colors);
     PickerDate = cells_.selected;
-    UpdateQuickDateButtons(form_, PickerDate, today);
-    PaintMonthCells(form_, cells_,
+    UpdateQuickDateButtons(calendar_, PickerDate, today);
+    PaintMonthCells(calendar_, cells_,
                     platform_.locale.monthName(cells_.month) + " " + std::to_string(cells_.year));
 }
 
@@ -142,13 +147,14 @@ void DatePicker::pick(Date date) {
 }
 
 void DatePicker::arrowPressed(bool forward) {
-    form_.c(forward ? "picCalMonthUp" : "picCalMonthDown").picture = forward ? "CalMonthRightDown" : "CalMonthLeftDown";
+    (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture =
+        forward ? "CalMonthRightDown" : "CalMonthLeftDown";
     CalButtonUp = false;
     CalButtonForward = forward;
     CalButtonMonth = true;
     PickerDate = cells_.CalendarDates[forward ? kElementMonthOn : kElementMonthBack];
     build();
-    Control& timer = form_.c("TimerButton");
+    Control& timer = *TimerButton;
     timer.interval = kRepeatMs;
     timer.enabled = true;
 }
@@ -161,8 +167,9 @@ void DatePicker::tickRepeat() {
 
 void DatePicker::arrowReleased(bool forward) {
     CalButtonUp = true;
-    form_.c("TimerButton").enabled = false;
-    form_.c(forward ? "picCalMonthUp" : "picCalMonthDown").picture = forward ? "CalMonthRightUp" : "CalMonthLeftUp";
+    TimerButton->enabled = false;
+    (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture =
+        forward ? "CalMonthRightUp" : "CalMonthLeftUp";
 }
 
 }  // namespace qh

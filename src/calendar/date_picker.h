@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 
+#include "calendar/month_calendar_controls.h"
 #include "calendar/month_cells.h"
 #include "platform/platform.h"
 
@@ -71,6 +72,9 @@ private:
     const DateField& field(bool firstField) const { return firstField || !second_ ? first_ : *second_; }
 
     Form& form_;
+    MonthCalendarControls calendar_;
+    // The labels that take the presses on the month arrows, and the two timers.
+    ControlRef LabelCalMonthDown, LabelCalMonthUp, TimerCalendar, TimerButton;
     Platform& platform_;
     DatePickerOwner& owner_;
     std::function<std::string()> startDayOfWeek_;

@@ -4,6 +4,7 @@
 // it lacks fails its construction, which every test of the window runs.
 #include <array>
 
+#include "calendar/month_calendar_controls.h"
 #include "platform/control_ref.h"
 
 namespace qh {
@@ -59,10 +60,8 @@ struct MainWindowControls {
                 &TextBoxOtherEvents,      &TextBoxAssignments,         &TextBoxTasks,         &TextBoxEvents};
     }
 
-    // The month calendar.
-    ControlRef picCalendar{form, "picCalendar"}, LabelMonth{form, "LabelMonth"}, LabelToday{form, "LabelToday"},
-        LabelTomorrow{form, "LabelTomorrow"};
-    ControlArrayRef LabelCalDay{form, "LabelCalDay", 7}, LabelCalDate{form, "LabelCalDate", 42};
+    // The month calendar, as the editors' date pickers have it.
+    MonthCalendarControls calendar{form};
 
     // The list and the status bar under it.
     ControlRef picGrid{form, "picGrid"}, VSGridScroll{form, "VSGridScroll"}, picStatusBar{form, "picStatusBar"};

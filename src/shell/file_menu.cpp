@@ -55,7 +55,7 @@ void MainWindow::ExportCalendar() {
     CalendarFrame frame;
     frame.title = monthName + " " + std::to_string(yearOf(state.ClickedDate)) + form.titleEnding;
     frame.creationNote = CreationNote(platform.locale, platform.clock.today());
-    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = ui.LabelCalDay[d].caption;
+    for (int d = 0; d < 7; ++d) frame.dayNames[std::size_t(d)] = ui.calendar.LabelCalDay[d].caption;
     std::copy_n(state.CalendarDates.begin(), 42, frame.dates.begin());
     const bool written =
         WriteExportPage(platform, TemplatePath(platform, form.templateFile), path, [&](std::string_view templateText) {

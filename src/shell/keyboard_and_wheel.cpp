@@ -9,14 +9,14 @@
 namespace qh {
 
 void MainWindow::bindKeyboardAndWheel() {
-    on(ui.picCalendar.key(), FormEvent::KeyDown, [this](const EventArgs& args) {
+    on(ui.calendar.picCalendar.key(), FormEvent::KeyDown, [this](const EventArgs& args) {
         if (CurrentMode() == Mode::Reminders) return;  // the date stays today
         if (const auto date = CalendarKeyTarget(state.CalendarDates, state.ClickedDate, args.keyCode)) {
             state.ClickedDate = *date;
             Refresh(RefreshReason::Calendar);
         }
     });
-    on(ui.picCalendar.key(), FormEvent::MouseWheel, [this](const EventArgs& args) {
+    on(ui.calendar.picCalendar.key(), FormEvent::MouseWheel, [this](const EventArgs& args) {
         if (CurrentMode() == Mode::Reminders || args.notches == 0) return;
         state.ClickedDate = CalendarWheelTarget(state.CalendarDates, state.ClickedDate, args.notches);
         Refresh(RefreshReason::Calendar);

@@ -98,10 +98,10 @@ void MainWindow::bindHandlers() {
         if (state.Refreshing == RefreshReason::None) Refresh(RefreshReason::ViewChange);
     });
 
-    for (int i = 0; i < 42; ++i) onClick(ui.LabelCalDate.key(i), [this, i] { dateCellClicked(i); });
-    for (int i = 0; i < 7; ++i) onClick(ui.LabelCalDay.key(i), [this, i] { dayHeaderClicked(i); });
-    onClick(ui.LabelToday.key(), [this] { quickDateClicked(42); });
-    onClick(ui.LabelTomorrow.key(), [this] { quickDateClicked(45); });
+    for (int i = 0; i < 42; ++i) onClick(ui.calendar.LabelCalDate.key(i), [this, i] { dateCellClicked(i); });
+    for (int i = 0; i < 7; ++i) onClick(ui.calendar.LabelCalDay.key(i), [this, i] { dayHeaderClicked(i); });
+    onClick(ui.calendar.LabelToday.key(), [this] { quickDateClicked(42); });
+    onClick(ui.calendar.LabelTomorrow.key(), [this] { quickDateClicked(45); });
     for (const char* button : {"picCalMonthUp", "picCalMonthDown", "picCalDayUp", "picCalDayDown"}) {
         const std::string name = button;
         on(name, FormEvent::MouseDown, [this, name](const EventArgs&) { calendarButtonPressed(name); });

@@ -107,12 +107,13 @@ void MainWindow::buildControls() {
     top.accessibleName = "Selected date";
 
     // The month calendar.
-    AddMonthCalendarControls(*this, "", 6760, 30, state.CalendarCellWidth, state.CalendarCellHeight);
-    Control& lock = add(ControlKind::PictureBox, ui.picLock.key(), ui.picCalendar.key(), 2355, 2130, 240, 270);
+    Control& calendar =
+        AddMonthCalendarControls(ui.calendar, "", 6760, 30, state.CalendarCellWidth, state.CalendarCellHeight);
+    Control& lock = add(ControlKind::PictureBox, ui.picLock.key(), ui.calendar.picCalendar.key(), 2355, 2130, 240, 270);
     lock.picture = "Lock";
     lock.visible = false;
     lock.toolTip = "The date stays today in this mode";
-    c(ui.picCalendar.key()).focusable = true;
+    calendar.focusable = true;
 
     // The mode's button and panels at the left.
     const std::pair<const ControlRef*, const char*> buttons[] = {{&ui.ButtonNewAssignment, "New Assignment"},

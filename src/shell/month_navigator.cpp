@@ -28,8 +28,8 @@ void MainWindow::BuildCalendar() {
     state.CalendarDates = cells.CalendarDates;
     state.DisplayedDate = state.ClickedDate;
     UpdateQuickDateButtons();
-    PaintMonthCells(*this, cells, platform.locale.monthName(clicked.month) + " " + std::to_string(clicked.year));
-    NameMonthCells(*this, cells, state.CellMarked, [this](Date date) { return platform.locale.longDate(date); },
+    PaintMonthCells(ui.calendar, cells, platform.locale.monthName(clicked.month) + " " + std::to_string(clicked.year));
+    NameMonthCells(ui.calendar, cells, state.CellMarked, [this](Date date) { return platform.locale.longDate(date); },
                    DayMarkName(CurrentMode()));
 }
 
@@ -48,13 +48,15 @@ std::string DayMarkName(Mode mode) {
 void MainWindow::UpdateQuickDateButtons() {
     std::optional<Color> grey;
     if (CurrentMode() == Mode::Reminders) grey = colors->ColorValues("DarkGray");
-    qh::UpdateQuickDateButtons(*this, state.ClickedDate, platform.clock.today(), grey);
+    qh::UpdateQuickDateButtons(ui.calendar, state.ClickedDate, platform.clock.today(), grey);
 }
 
 void MainWindow::ApplyStartDayOfWeek() {
-    const std::string menu = ApplyDayHeaders(*this, state.StartDayOfWeek);
+    ApplyDayHeaders(ui.calendar, state.StartDayOfWeek);
+    const std::string& day = state.StartDayOfWeek;
+    const ControlRef& ticked = day == "Monday" ? ui.MenuStartMon : day == "Saturday" ? ui.MenuStartSat : ui.MenuStartSun;
     for (const ControlRef* item : {&ui.MenuStartSun, &ui.MenuStartMon, &ui.MenuStartSat})
-        (*item)->checked = item->key() == menu;
+        (*item)->checked = item == &ticked;
     state.ClickedDate = state.DisplayedDate;
     Refresh(RefreshReason::StartDayOfWeek);
 }
@@ -66,7 +68,7 @@ void MainWindow::changeStartDay(const std::string& day) {
 }
 
 void MainWindow::dayHeaderClicked(int index) {
-    const std::string day = ui.LabelCalDay[index].tag;
+    const std::string day = ui.calendar.LabelCalDay[index].tag;
     if (day == "Monday" || day == "Saturday" || day == "Sunday") changeStartDay(day);
 }
 

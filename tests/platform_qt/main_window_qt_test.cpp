@@ -52,7 +52,7 @@ protected:
 // --- The keyboard ----------------------------------------------------------------------
 
 TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
-    QWidget* calendar = widget(ui.picCalendar);
+    QWidget* calendar = widget(ui.calendar.picCalendar);
     calendar->setFocus();
     ASSERT_TRUE(calendar->hasFocus());
     const Date today = main.fake.clock.today();  // Saturday, November 21, 2026
@@ -69,14 +69,14 @@ TEST_F(MainWindowQt, TheCalendarTakesTheFocusAndMovesItsDayByTheKeys) {
     }
     // The keys stay with the calendar: no other control took the focus.
     EXPECT_TRUE(calendar->hasFocus());
-    EXPECT_EQ(window->focusedControl, ui.picCalendar.key());
+    EXPECT_EQ(window->focusedControl, ui.calendar.picCalendar.key());
     // Its cells are named for a screen reader, today's as today.
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), today);
-    EXPECT_EQ(widget(ui.LabelCalDate, cell)->accessibleName(), "Saturday, November 21, 2026, today, selected");
+    EXPECT_EQ(widget(ui.calendar.LabelCalDate, cell)->accessibleName(), "Saturday, November 21, 2026, today, selected");
 }
 
 TEST_F(MainWindowQt, AWheelTurnOverADayCellStepsTheCalendarsMonth) {
-    QWidget* cell = widget(ui.LabelCalDate, 30);
+    QWidget* cell = widget(ui.calendar.LabelCalDate, 30);
     const auto turn = [&](int eighths) {
         const QPointF at(5, 5);
         QWheelEvent event(at, cell->mapToGlobal(at), QPoint(), QPoint(0, eighths), Qt::NoButton, Qt::NoModifier,
@@ -125,7 +125,7 @@ TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
     window->click(ui.MenuStudySessions.key());
     renderer.syncAll();
     std::vector<std::string> visited;
-    widget(ui.picCalendar)->setFocus();
+    widget(ui.calendar.picCalendar)->setFocus();
     for (int i = 0; i < 40; ++i) {
         QWidget* focused = QApplication::focusWidget();
         ASSERT_NE(focused, nullptr);
@@ -135,7 +135,7 @@ TEST_F(MainWindowQt, TabVisitsEveryControlThatActsAndNoReadOnlyOrHiddenOne) {
         key(focused, Qt::Key_Tab);
     }
     for (const ControlRef* wanted :
-         {&ui.picCalendar, &ui.picGrid, &ui.ButtonStart, &ui.ComboList, &ui.ComboDateRange, &ui.ComboGPA})
+         {&ui.calendar.picCalendar, &ui.picGrid, &ui.ButtonStart, &ui.ComboList, &ui.ComboDateRange, &ui.ComboGPA})
         EXPECT_NE(std::find(visited.begin(), visited.end(), wanted->key()), visited.end()) << wanted->key();
     for (const std::string& name : visited) {
         EXPECT_NE(name, ui.ButtonNewAssignment.key()) << "lies under the study panel";
@@ -197,7 +197,7 @@ TEST_F(MainWindowQt, PicturesAndCombosAreCalledByWhatTheyAreNotByWhatTheyShow) {
         {ui.ComboDateRange.key(), "Range", QAccessible::ComboBox},
         {ui.TextBoxTotalAssignments.key(), "Total Assignments", QAccessible::EditableText},
         {"LabelList", "List:", QAccessible::StaticText},
-        {ui.picCalendar.key(), "Calendar", QAccessible::Grouping},
+        {ui.calendar.picCalendar.key(), "Calendar", QAccessible::Grouping},
         {ui.picGrid.key(), "List", QAccessible::List},
     };
     for (const auto& e : expected) {
@@ -280,10 +280,10 @@ TEST(MainWindowLook, TheStatusBarsTextStaysInsideItsFrame) {
 
 TEST_F(MainWindowQt, TodaysCellHasABlackFrameAllRound) {
     const int cell = CellForDate(FirstCellDate(2026, 11, window->state.StartDayOfWeek), main.fake.clock.today());
-    QWidget* calendar = widget(ui.picCalendar);
+    QWidget* calendar = widget(ui.calendar.picCalendar);
     // Looked at in the widget's own pixels, whatever the screen's density.
     const QImage image = calendar->grab().toImage().scaled(calendar->size());
-    const QRect today = widget(ui.LabelCalDate, cell)->geometry();
+    const QRect today = widget(ui.calendar.LabelCalDate, cell)->geometry();
     const QRect ring = today.adjusted(-1, -1, 1, 1);
     int black = 0, around = 0;
     for (int y = ring.top(); y <= ring.bottom(); ++y)

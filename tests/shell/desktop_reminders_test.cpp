@@ -132,7 +132,7 @@ TEST_F(DesktopRemindersWindow, ChoosingTheNoticeShowsTodaysRemindersInFront) {
     ASSERT_EQ(planner.fake.notifications.sent.size(), 1u);
     EXPECT_FALSE(window.ui.TimerDesktopReminders->enabled);  // once
     EXPECT_TRUE(window.ui.MenuDesktopReminders->checked);
-    window.click(window.ui.LabelCalDate.key(3));
+    window.click(window.ui.calendar.LabelCalDate.key(3));
     window.windowState = WindowState::Minimized;
     planner.fake.notifications.activateLast();
     EXPECT_EQ(window.CurrentMode(), Mode::Reminders);

@@ -24,31 +24,31 @@ protected:
 TEST_F(MonthNavigator, BuildsTheFortyTwoCellsOfTheSelectedMonth) {
     // Saturday 21 November 2026, week starting on Sunday: 25 October to 5 December, the
     // other months grey, today selected (white on black, bold) and framed.
-    EXPECT_EQ(ui.LabelMonth->caption, "November 2026");
+    EXPECT_EQ(ui.calendar.LabelMonth->caption, "November 2026");
     const struct {
         int cell;
         const char* caption;
         Color fore;
     } cells[] = {{0, "25", 0xA9A9A9}, {7, "1", 0x000000}, {27, "21", 0xFFFFFF}, {41, "5", 0xA9A9A9}};
     for (const auto& cell : cells) {
-        const Control& label = ui.LabelCalDate[cell.cell];
+        const Control& label = ui.calendar.LabelCalDate[cell.cell];
         EXPECT_EQ(std::tie(label.caption, label.foreColor, label.bold),
                   std::make_tuple(cell.caption, cell.fore, cell.cell == 27));
     }
-    const Control& today = ui.LabelCalDate[27];
+    const Control& today = ui.calendar.LabelCalDate[27];
     EXPECT_EQ(today.backColor, 0x000000u);
     const Control& frame = window.c("LabelCalTileBorder");
     EXPECT_EQ(std::tie(frame.visible, frame.left, frame.top), std::make_tuple(true, today.left - 15, today.top - 15));
 
     // A grey day moves the calendar to its month. December 2026 shows 29 and 30 November
     // in its first row: today stands there grey, unframed.
-    window.click(ui.LabelCalDate.key(0));
+    window.click(ui.calendar.LabelCalDate.key(0));
     EXPECT_EQ(clicked(), (Ymd{2026, 10, 25}));
-    EXPECT_EQ(ui.LabelMonth->caption, "October 2026");
+    EXPECT_EQ(ui.calendar.LabelMonth->caption, "October 2026");
     show({2026, 12, 5});
-    EXPECT_EQ(ui.LabelCalDate[0].caption, "29");
+    EXPECT_EQ(ui.calendar.LabelCalDate[0].caption, "29");
     EXPECT_FALSE(frame.visible);
-    window.click(ui.LabelToday.key());
+    window.click(ui.calendar.LabelToday.key());
     EXPECT_TRUE(frame.visible);
 }
 
@@ -104,15 +104,15 @@ TEST_F(MonthNavigator, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtThe
 }
 
 TEST_F(MonthNavigator, RemindersModeHoldsTheCalendarOnToday) {
-    window.click(ui.LabelTomorrow.key());
+    window.click(ui.calendar.LabelTomorrow.key());
     EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowDownTodayUp");
     window.click(ui.MenuReminders.key());
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
     EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowUpTodayDown");
-    EXPECT_EQ(ui.LabelTomorrow->foreColor, 0xA9A9A9u);  // DarkGray
+    EXPECT_EQ(ui.calendar.LabelTomorrow->foreColor, 0xA9A9A9u);  // DarkGray
     // Cells, Tomorrow and the arrows do nothing.
-    window.click(ui.LabelCalDate.key(3));
-    window.click(ui.LabelTomorrow.key());
+    window.click(ui.calendar.LabelCalDate.key(3));
+    window.click(ui.calendar.LabelTomorrow.key());
     window.press("picCalMonthUp");
     EXPECT_FALSE(ui.TimerButton->enabled);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
@@ -122,16 +122,16 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     auto headers = [this] {
         std::string letters, offers;
         for (int i = 0; i < 7; ++i) {
-            letters += ui.LabelCalDay[i].caption;
-            if (ui.LabelCalDay[i].underline) offers += std::to_string(i);
+            letters += ui.calendar.LabelCalDay[i].caption;
+            if (ui.calendar.LabelCalDay[i].underline) offers += std::to_string(i);
         }
         return letters + "/" + offers;
     };
     EXPECT_EQ(headers(), "SMTWTFS/16");
-    window.click(ui.LabelCalDay.key(2));  // Tuesday: nothing
-    window.click(ui.LabelCalDay.key(0));  // the current start day: nothing
+    window.click(ui.calendar.LabelCalDay.key(2));  // Tuesday: nothing
+    window.click(ui.calendar.LabelCalDay.key(0));  // the current start day: nothing
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ModeChange);  // still the load's
-    window.click(ui.LabelCalDay.key(1));
+    window.click(ui.calendar.LabelCalDay.key(1));
     EXPECT_EQ(headers(), "MTWTFSS/56");
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::StartDayOfWeek);
     window.click(ui.MenuStartSat.key());
@@ -149,18 +149,18 @@ TEST_F(MonthNavigator, DayHeadersOfferTheOtherTwoStartDays) {
     for (const auto& c : cases) {
         window.click(c.start->key());
         show(c.month);
-        EXPECT_EQ(ui.LabelCalDate[0].caption, c.firstCell) << c.start->key() << " " << c.month.month;
+        EXPECT_EQ(ui.calendar.LabelCalDate[0].caption, c.firstCell) << c.start->key() << " " << c.month.month;
     }
 }
 
 TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSayTheirDay) {
-    window.SetFocus(ui.picCalendar.key());
+    window.SetFocus(ui.calendar.picCalendar.key());
     window.pressKey(kKeyRight);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 22}));
     // A turn over a date cell reaches the calendar it lies in: up a notch is a month back.
-    window.wheel(ui.LabelCalDate.key(30), 1);
+    window.wheel(ui.calendar.LabelCalDate.key(30), 1);
     EXPECT_EQ(clicked(), (Ymd{2026, 10, 22}));
-    window.wheel(ui.LabelCalDate.key(30), -2);
+    window.wheel(ui.calendar.LabelCalDate.key(30), -2);
     EXPECT_EQ(clicked(), (Ymd{2026, 12, 22}));
     window.pressKey(kKeyHome);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
@@ -171,7 +171,7 @@ TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSa
     window.Refresh(RefreshReason::Calendar);
     const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);
     const auto nameOf = [&](int day) {
-        return ui.LabelCalDate[int(dateFromYmd(2026, 11, day) - first)].accessibleName;
+        return ui.calendar.LabelCalDate[int(dateFromYmd(2026, 11, day) - first)].accessibleName;
     };
     EXPECT_EQ(nameOf(21), "Saturday, November 21, 2026, today, selected");
     EXPECT_EQ(nameOf(24), "Tuesday, November 24, 2026, homework due");
@@ -179,7 +179,7 @@ TEST_F(MonthNavigator, KeysAndTheWheelMoveTheDateExceptInRemindersModeAndCellsSa
 
     window.click(ui.MenuReminders.key());
     window.pressKey(kKeyRight);
-    window.wheel(ui.picCalendar.key(), 1);
+    window.wheel(ui.calendar.picCalendar.key(), 1);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 }
 

@@ -45,7 +45,7 @@ TEST_F(RefreshDisplay, TheMarkedDaysFollowEachChoiceOfList) {
 // reminders the list has just gathered; the other modes keep the selected date.
 TEST_F(RefreshDisplay, RemindersGoToTodayAndTheOtherModesKeepTheSelectedDate) {
     MainWindow& window = load();
-    window.click(window.ui.LabelCalDate.key(14));
+    window.click(window.ui.calendar.LabelCalDate.key(14));
     const Date selected = window.state.ClickedDate;
     ASSERT_NE(selected, main.fake.clock.today());
     window.click(window.ui.MenuTasks.key());
@@ -82,7 +82,7 @@ TEST_F(RefreshDisplay, EachReasonDoesOnlyTheWorkItNeeds) {
 
 TEST_F(RefreshDisplay, TheCombosRefreshTheViewUnlessAModeRoutineOrARefreshIsUnderWay) {
     MainWindow& window = load();
-    window.click(window.ui.LabelCalDate.key(20));
+    window.click(window.ui.calendar.LabelCalDate.key(20));
     const Date selected = window.state.ClickedDate;
     window.select(window.ui.ComboDateRange.key(), "Day");  // keeps the selected date and month
     EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ViewChange);

@@ -222,11 +222,11 @@ bool ProbeSession::action(const std::string& line) {
         int index = -1;
         words >> index;
         if (index < 0 || index > 41) return false;
-        w.click(w.ui.LabelCalDate.key(index));
+        w.click(w.ui.calendar.LabelCalDate.key(index));
     } else if (verb == "today") {
-        w.click(w.ui.LabelToday.key());
+        w.click(w.ui.calendar.LabelToday.key());
     } else if (verb == "tomorrow") {
-        w.click(w.ui.LabelTomorrow.key());
+        w.click(w.ui.calendar.LabelTomorrow.key());
     } else if (verb == "arrow") {
         std::string which;
         int repeats = 0;
@@ -240,7 +240,7 @@ bool ProbeSession::action(const std::string& line) {
         int index = -1;
         words >> index;
         if (index < 0 || index > 6) return false;
-        w.click(w.ui.LabelCalDay.key(index));
+        w.click(w.ui.calendar.LabelCalDay.key(index));
     } else if (verb == "start-day") {
         const std::string day = restOf(words);
         const ControlRef& menu = day == "Monday"     ? w.ui.MenuStartMon

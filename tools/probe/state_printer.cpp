@@ -122,17 +122,17 @@ void PrintWindowState(const MainWindow& window, std::ostream& out) {
         if (texts.size() > 1) out << "Clock: " << quoted(texts.back()) << "\n";
     }
 
-    out << "Calendar: " << window.ui.LabelMonth->caption << "\n";
+    out << "Calendar: " << window.ui.calendar.LabelMonth->caption << "\n";
     out << "Days:";
     for (int i = 0; i < 7; ++i) {
-        const Control& day = window.ui.LabelCalDay[i];
+        const Control& day = window.ui.calendar.LabelCalDay[i];
         out << " " << day.caption << (day.underline ? "_" : "");
     }
     out << "\n";
     for (int row = 0; row < 6; ++row) {
         for (int col = 0; col < 7; ++col) {
             const int i = row * 7 + col;
-            const Control& cell = window.ui.LabelCalDate[i];
+            const Control& cell = window.ui.calendar.LabelCalDate[i];
             out << (col ? "  " : "") << std::setw(2) << cell.caption << (cell.bold ? "*" : " ")
                 << (window.state.CellIsToday[std::size_t(i)] ? "[" : " ") << colorText(cell.foreColor).substr(2)
                 << "/" << colorText(cell.backColor).substr(2);
