@@ -260,9 +260,8 @@ ImportPlan PlanImport(std::vector<CalendarItem> items, const RecordStore& store,
             ++(deadline ? plan.deadlines : plan.todos);
             if (!item.ruleProblem.empty() || item.rule.frequency != RepeatFrequency::None)
                 line.problem = "repeats, which a task or an assignment cannot";
-            std::vector<std::string> changes;
-            static_cast<void>(taskRecordOf(item, 0, &changes));
-            line.changes = changes;
+            // The record is made here only for what fitting it would change.
+            taskRecordOf(item, 0, &line.changes);
         } else {
             ++plan.events;
             if (item.start == 0)
@@ -271,7 +270,7 @@ ImportPlan PlanImport(std::vector<CalendarItem> items, const RecordStore& store,
                 line.problem = item.ruleProblem;
             else if (!PlannerRuleOf(item))
                 line.problem = "repeats in a way the planner's events cannot";
-            if (item.start != 0) static_cast<void>(eventRecordOf(item, true, &line.changes));
+            if (item.start != 0) eventRecordOf(item, true, &line.changes);
         }
         if (!line.problem.empty()) ++plan.repeatProblems;
         if (const auto linked = uids.find(item.uid); !item.uid.empty() && linked != uids.end()) {
