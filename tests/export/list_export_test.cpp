@@ -37,7 +37,7 @@ protected:
     }
     void exportTo(const std::string& path) {
         view.fake.dialogs.fileAnswers.push_back({true, 0, path, ""});
-        view.window.click("MenuExportList");
+        view.window.click(view.window.ui.MenuExportList.key());
     }
 };
 
@@ -51,7 +51,7 @@ TEST_P(ListExport, WritesTheRowsOfTheListAsShownAndOpensThePage) {
 }
 
 TEST_P(ListExport, CancelWritesNothingAndOpensNothing) {
-    view.window.click("MenuExportList");
+    view.window.click(view.window.ui.MenuExportList.key());
     EXPECT_EQ(view.fake.dialogs.fileRequests.size(), 1u);
     EXPECT_TRUE(view.fake.processes.opened.empty());
     EXPECT_FALSE(std::filesystem::exists(page));

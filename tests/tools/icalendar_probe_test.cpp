@@ -173,7 +173,7 @@ TEST(ProbeICalendar, ARoundTripThroughAnEmptyDriveGivesTheSameFile) {
 TEST(ProbeICalendar, AReadOnlyDriveRefusesAnImportBeforeAskingForAFile) {
     LoadedMainWindow planner;
     planner.load().store.DriveReadOnly = true;
-    planner.window->click("MenuImportICalendar");
+    planner.window->click(planner.window->ui.MenuImportICalendar.key());
     EXPECT_EQ(planner.messageTexts(), std::vector<std::string>{"Read-only: changes cannot be saved"});
     EXPECT_TRUE(planner.fake.dialogs.fileRequests.empty());
 }
