@@ -133,7 +133,8 @@ public:
             ASSERT_EQ(d_.bytesOf(name), baseline_.at(name)) << where;
         }
         for (const OneRecordFile& other : kOneRecordFiles) {
-            const std::size_t key = &other == &kind ? 0 : &kind == &kAssignmentFile && &other == &kStudySessionFile ? 1 : 99;
+            const bool sessionsOfTheAssignment = &kind == &kAssignmentFile && &other == &kStudySessionFile;
+            const std::size_t key = &other == &kind ? 0 : sessionsOfTheAssignment ? 1 : 99;
             auto standing = [&](const S& s) {
                 Rows rows = rowsOf(s, other.columns);
                 std::erase_if(rows, [&](const Row& row) { return key < 99 && row[key] == values[key]; });
