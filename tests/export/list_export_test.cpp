@@ -12,7 +12,7 @@ namespace {
 
 // One mode's list on the fixed planner, exported through the File menu with the test
 // template in the program's folder. The dialog's title and suggested name for each list
-// are the probe's export test.
+// are the probe script export_lists_and_month_sheets.
 struct ListCase {
     const char* name;
     Mode mode;

@@ -5,13 +5,14 @@
 // over, steer the run:
 //   # drive: SEED   the drive starts as a copy of the folder drives/SEED
 //   # restart       the planner is quit and started again on the same drive
-// The drive's folder is written DRIVE in the scripts and in what they print. NAME.out holds
-// what every run printed, a line the probe refused ending it; each file under
-// NAME.after/K/ (named as on the drive) must be on the drive with those bytes after run K.
-// Those files and the seeds are kept as text: one line a record of a record file (else one
-// a line of the file), ended by "$"; "\0{N}" stands for N NULs, "\ {N}" for N spaces, and
-// "\r", "\n" and "\\" for those bytes. With QH_WRITE_REFERENCES set in the environment the
-// .out files and the files under .after/ are written anew from the runs.
+// The drive's folder is written DRIVE in the scripts and in what they print, the source
+// tree SOURCE. NAME.out holds what every run printed, a line the probe refused ending it;
+// each file under NAME.after/K/ (named as on the drive) must be on the drive with those
+// bytes after run K. Those files and the seeds are kept as text: one line a record of a
+// record file (else one a line of the file), ended by "$"; "\0{N}" stands for N NULs,
+// "\ {N}" for N spaces, and "\r", "\n" and "\\" for those bytes. With QH_WRITE_REFERENCES
+// set in the environment the .out files and the files under .after/ are written anew from
+// the runs.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -109,7 +110,8 @@ std::string runScript(const fs::path& script) {
     FakePlatform fake;
     fs::copy(fs::path(QH_SOURCE_DIR) / "templates", fake.exec,
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-    std::istringstream lines(replaced(test::ReadBytes(script.string()), "DRIVE", fake.drive));
+    std::istringstream lines(
+        replaced(replaced(test::ReadBytes(script.string()), "DRIVE", fake.drive), "SOURCE", QH_SOURCE_DIR));
     std::vector<std::string> runs(1);
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with("# drive: ")) seedDrive(kScripts / "drives" / line.substr(9), fake.drive);
@@ -130,7 +132,7 @@ std::string runScript(const fs::path& script) {
             break;
         }
     }
-    return replaced(out.str(), fake.drive, "DRIVE");
+    return replaced(replaced(out.str(), fake.drive, "DRIVE"), QH_SOURCE_DIR, "SOURCE");
 }
 
 TEST(ProbeScripts, EachPrintsItsOutputAndLeavesItsFiles) {
