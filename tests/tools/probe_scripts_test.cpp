@@ -44,6 +44,7 @@ std::size_t recordLength(const fs::path& file) {
     return 0;
 }
 
+// The text form of a file's bytes, a line a record (`recordLength` > 0) or a line a line.
 std::string asText(const std::string& bytes, std::size_t recordLength) {
     std::string text;
     for (std::size_t at = 0; at < bytes.size();) {
@@ -65,6 +66,7 @@ std::string asText(const std::string& bytes, std::size_t recordLength) {
     return text;
 }
 
+// The bytes the text form stands for.
 std::string asBytes(const std::string& text) {
     std::string bytes;
     std::istringstream lines(text);
@@ -96,6 +98,7 @@ void seedDrive(const fs::path& from, const std::string& drive) {
                              asBytes(test::ReadBytes(entry.path().string())));
 }
 
+// Each file under `expected` is on the drive with the bytes its text stands for.
 void expectDriveFiles(const fs::path& expected, const std::string& drive) {
     if (!fs::exists(expected)) return;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(expected)) {
