@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 
 #include "export_fixture.h"
 #include "recurrence/event_records.h"
@@ -42,7 +41,7 @@ protected:
 
 TEST_P(CalendarExport, FillsTheMarkerLinesInTheSheetsOrderAndOpensThePage) {
     view.fake.dialogs.fileAnswers.push_back({true, 0, page, ""});
-    view.window.click("MenuExportCalendar");
+    view.window.click(view.window.ui.MenuExportCalendar.key());
     EXPECT_EQ(view.fake.processes.opened, std::vector<std::string>{page});
     EXPECT_EQ(DiffWithReference(std::string("calendar_") + GetParam().name + ".html", view.fake.bytesOf(page)), "");
 }

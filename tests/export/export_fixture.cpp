@@ -1,28 +1,12 @@
 #include "export_fixture.h"
 
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "recurrence/event_records.h"
+#include "support/reference_files.h"
 
 namespace qh::testing {
 namespace {
 
 std::string referencePath(const std::string& name) { return std::string(QH_SOURCE_DIR) + "/tests/export/reference/" + name; }
-
-std::string readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
-}
-
-void writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 }  // namespace
 
@@ -59,22 +43,10 @@ void AddFixedPlanner(RecordStore& s) {
     test::addEvent(s, {.date = "2026/11/25", .description = kDeletedRecord});
 }
 
-std::string ReferenceBytes(const std::string& name) { return readFile(referencePath(name)); }
+std::string ReferenceBytes(const std::string& name) { return test::ReadBytes(referencePath(name)); }
 
 std::string DiffWithReference(const std::string& name, const std::string& actual) {
-    const std::string path = referencePath(name);
-    if (std::getenv("QH_WRITE_REFERENCES")) writeFile(path, actual);
-    if (readFile(path) == actual) return {};
-    const std::string actualPath = (std::filesystem::temp_directory_path() / ("actual-" + name)).string();
-    writeFile(actualPath, actual);
-    std::string diff;
-    if (FILE* pipe = ::popen(("diff -u '" + path + "' '" + actualPath + "' 2>&1").c_str(), "r")) {
-        char buffer[4096];
-        for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) diff.append(buffer, n);
-        ::pclose(pipe);
-    }
-    std::filesystem::remove(actualPath);
-    return diff.empty() ? "differs from " + path : diff;
+    return test::DiffWithFile(referencePath(name), actual);
 }
 
 }  // namespace qh::testing

@@ -12,7 +12,7 @@ namespace {
 
 // One mode's list on the fixed planner, exported through the File menu with the test
 // template in the program's folder. The dialog's title and suggested name for each list
-// are the probe's export test.
+// are the probe script export_lists_and_month_sheets.
 struct ListCase {
     const char* name;
     Mode mode;
@@ -37,7 +37,7 @@ protected:
     }
     void exportTo(const std::string& path) {
         view.fake.dialogs.fileAnswers.push_back({true, 0, path, ""});
-        view.window.click("MenuExportList");
+        view.window.click(view.window.ui.MenuExportList.key());
     }
 };
 
@@ -51,7 +51,7 @@ TEST_P(ListExport, WritesTheRowsOfTheListAsShownAndOpensThePage) {
 }
 
 TEST_P(ListExport, CancelWritesNothingAndOpensNothing) {
-    view.window.click("MenuExportList");
+    view.window.click(view.window.ui.MenuExportList.key());
     EXPECT_EQ(view.fake.dialogs.fileRequests.size(), 1u);
     EXPECT_TRUE(view.fake.processes.opened.empty());
     EXPECT_FALSE(std::filesystem::exists(page));

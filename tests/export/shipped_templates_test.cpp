@@ -1,29 +1,26 @@
 // The templates installed beside the program: each keeps the rules its export relies on,
 // and a full month sheet prints on one landscape page.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <sstream>
 
 #include "export/calendar_export.h"
 #include "export/list_export.h"
 #include "export/page_text.h"
 #include "export_fixture.h"
+#include "support/reference_files.h"
 
 namespace qh::testing {
 namespace {
 
 namespace fs = std::filesystem;
+const auto& run = test::CommandOutput;
 
 std::string shipped(const std::string& name) {
-    std::ifstream in(std::string(QH_SOURCE_DIR) + "/templates/" + name, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
+    return test::ReadBytes(std::string(QH_SOURCE_DIR) + "/templates/" + name);
 }
 
 int linesHolding(const std::string& text, std::string_view marker) {
@@ -61,17 +58,6 @@ TEST(ShippedTemplates, CalendarTemplatesHaveAMarkerLinePerEntryAndTheSwappedClas
         for (const std::string& name : classes) EXPECT_NE(text.find("." + name), std::string::npos) << name;
         EXPECT_NE(text.find("size: landscape"), std::string::npos);
     }
-}
-
-// Runs a command; its standard output, or nothing when it could not run.
-std::string run(const std::string& command) {
-    std::string out;
-    if (FILE* pipe = ::popen(command.c_str(), "r")) {
-        char buffer[4096];
-        for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) out.append(buffer, n);
-        ::pclose(pipe);
-    }
-    return out;
 }
 
 // A month in which every day is as full as a sheet allows, with long texts.

@@ -1,7 +1,7 @@
 // Calendar files as Google Calendar, Outlook and Apple Calendar write them, read and
 // planned for import: times come into the computer's zone from the file's own VTIMEZONE, a
 // Windows zone name or UTC; repeats the planner holds become its rules, the others are
-// named. Deadlines by course are the probe's import test.
+// named. Deadlines by course are the probe script icalendar_import_once_then_updates.
 #include <gtest/gtest.h>
 
 #include <fstream>

@@ -29,9 +29,19 @@ struct Kind {
     // Saves `values` over record `number` (0: none of its own, Terms and Classes are
     // saved whole from the columns).
     std::function<bool(RecordFiles&, S&, const Row&, Int16 number)> save;
+    std::size_t colourField = 3;  // of a class
 };
 
 const std::string N(int n) { return std::to_string(n); }
+
+// A save of one record of the file, its edited value changed.
+std::function<bool(RecordFiles&, S&, const Row&, Int16)> changing(const OneRecordFile& file) {
+    return [&file](RecordFiles& f, S& s, const Row& values, Int16 number) {
+        Row changed = values;
+        changed[file.edited] = "Changed";
+        return file.save(f, s, changed, number);
+    };
+}
 
 // clang-format off
 const Kind kKinds[] = {
@@ -42,38 +52,17 @@ const Kind kKinds[] = {
      [](RecordFiles& f, S& s, const Row&, Int16) { s.ClassNames(1) = "Renamed"; return f.SaveTermsAndClasses(); }},
     {kAssignmentsLayout, [](int n) { return Row{N(n), N(n), "10", "2026/11/30", "Quiz", "Easy", "00 : 30",
                                                 "Chapter " + N(n), "False", "", "5", "None"}; },
-     3, &S::AssignmentRecordNos,
-     [](RecordFiles& f, S& s, const Row& v, Int16 n) {
-         s.AssignmentRecord = {v[0], v[1], v[2], dateFromText(v[3]), v[4], v[5], v[6], "Changed", v[8], v[9], v[10],
-                               v[11]};
-         return f.SaveAssignment(n);
-     }},
+     3, &S::AssignmentRecordNos, changing(kAssignmentFile)},
     {kNotesLayout, [](int n) { return Row{N(n), N(n), "Note " + N(n)}; }, SIZE_MAX, &S::NoteRecordNos,
-     [](RecordFiles& f, S& s, const Row& v, Int16 n) { s.NoteRecord = {v[0], v[1], "Changed"}; return f.SaveNote(n); }},
+     changing(kOneRecordFiles[1])},
     {kStudySessionsLayout, [](int n) { return Row{N(n), N(n), "00 : 45", "2026/11/0" + N(n)}; }, 3,
-     &S::StudySessionRecordNos,
-     [](RecordFiles& f, S& s, const Row& v, Int16 n) {
-         s.EditStudySessionRecordNos = {v[0]};
-         s.EditStudySessionLinkIDs = {v[1]};
-         s.EditStudySessionLengths = {"01 : 00"};
-         s.EditStudySessionDates = {v[3]};
-         return f.SaveStudySession(n, 1);
-     }},
+     &S::StudySessionRecordNos, changing(kStudySessionFile)},
     {kTasksLayout, [](int n) { return Row{N(n), N(n), "Task " + N(n), "True", "2026/11/2" + N(n), "Home", "Low",
                                           "False", "", "None"}; },
-     4, &S::TaskRecordNos,
-     [](RecordFiles& f, S& s, const Row& v, Int16 n) {
-         s.TaskRecord = {v[0], v[1], v[4], "Changed", v[3], v[5], v[6], v[7], v[8], v[9]};
-         return f.SaveTask(n);
-     }},
+     4, &S::TaskRecordNos, changing(kTaskFile)},
     {kEventsLayout, [](int n) { return Row{N(n), N(n), "2026/12/0" + N(n), "Event " + N(n), "School", "", "None",
                                            "True", "", "", "", "False", "2027/06/01", "", "None"}; },
-     2, &S::EventRecordNos,
-     [](RecordFiles& f, S& s, const Row& v, Int16 n) {
-         s.EventRecord = {v[0], v[1], v[2], "Changed", v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11], v[12], v[13],
-                          v[14]};
-         return f.SaveEvent(n);
-     }},
+     2, &S::EventRecordNos, changing(kEventFile)},
 };
 // clang-format on
 
@@ -83,11 +72,6 @@ std::string goodFile(const Kind& kind, int records = kRecords) {
     return bytes;
 }
 
-std::string withField(const Kind& kind, int n, std::size_t field, const std::string& value) {
-    Row values = kind.values(n);
-    values[field] = value;
-    return rawRecord(kind.layout, values);
-}
 
 // A damage: the file it makes of the good one, and what a load should make of it.
 struct Damage {
@@ -104,6 +88,16 @@ bool dated(const Kind& k) { return k.dateField != SIZE_MAX; }
 
 std::string recordAt(const Kind& k, const std::string& bytes, int n) {
     return bytes.substr(std::size_t(n - 1) * std::size_t(k.layout.length), std::size_t(k.layout.length));
+}
+
+// The good file with one field of its second record holding `value`.
+std::function<std::string(const Kind&, const std::string&)> secondRecordWith(std::size_t Kind::*field,
+                                                                             const std::string& value) {
+    return [field, value](const Kind& k, const std::string& good) {
+        Row values = k.values(2);
+        values[k.*field] = value;
+        return recordAt(k, good, 1) + rawRecord(k.layout, values) + good.substr(2 * std::size_t(k.layout.length));
+    };
 }
 
 const Damage kDamages[] = {
@@ -130,29 +124,11 @@ const Damage kDamages[] = {
          return bytes;
      },
      5, 6, false},
-    {"a date that is no date", dated,
-     [](const Kind& k, const std::string& good) {
-         return recordAt(k, good, 1) + withField(k, 2, k.dateField, "soon") +
-                good.substr(2 * std::size_t(k.layout.length));
-     },
-     4, 5, true},
-    {"the year 1500", dated,
-     [](const Kind& k, const std::string& good) {
-         return recordAt(k, good, 1) + withField(k, 2, k.dateField, "1500/06/01") +
-                good.substr(2 * std::size_t(k.layout.length));
-     },
-     4, 5, true},
-    {"the year 3200", dated,
-     [](const Kind& k, const std::string& good) {
-         return recordAt(k, good, 1) + withField(k, 2, k.dateField, "3200/06/01") +
-                good.substr(2 * std::size_t(k.layout.length));
-     },
-     4, 5, true},
+    {"a date that is no date", dated, secondRecordWith(&Kind::dateField, "soon"), 4, 5, true},
+    {"the year 1500", dated, secondRecordWith(&Kind::dateField, "1500/06/01"), 4, 5, true},
+    {"the year 3200", dated, secondRecordWith(&Kind::dateField, "3200/06/01"), 4, 5, true},
     {"an unknown colour", [](const Kind& k) { return &k.layout == &kClassesLayout; },
-     [](const Kind& k, const std::string& good) {
-         return recordAt(k, good, 1) + withField(k, 2, 3, "Plaid") + good.substr(2 * std::size_t(k.layout.length));
-     },
-     4, 5, true},
+     secondRecordWith(&Kind::colourField, "Plaid"), 4, 5, true},
 };
 
 // The drive: every file good, then one damaged.
@@ -272,14 +248,17 @@ TEST(DamagedFiles, AFileOf200MegabytesIsReadNoFurtherThanTheMostRecordsAndKeptAs
     std::filesystem::remove(d.path("Tasks.damaged-2026-11-25.txt"));
 }
 
+// A drive that refuses writes, and how the messages name the reason.
+const struct RefusingDrive {
+    FileProblem why;
+    const char* words;
+} kRefusingDrives[] = {{FileProblem::NoSpace, "no space left on the drive"},
+                       {FileProblem::ReadOnly, "the drive is read-only"},
+                       {FileProblem::InUse, "the file is in use"}};
+
 TEST(DamagedFiles, ADamagedFileThatCannotBeKeptAsideIsLeftAsItIsAndItsSavesRefused) {
-    const struct {
-        FileProblem why;
-        const char* words;
-    } drives[] = {{FileProblem::NoSpace, "no space left on the drive"},
-                  {FileProblem::ReadOnly, "the drive is read-only"}};
     const Kind& tasks = kKinds[5];
-    for (const auto& drive : drives) {
+    for (const RefusingDrive& drive : {kRefusingDrives[0], kRefusingDrives[1]}) {
         const std::string damaged = goodFile(tasks) + "cut";
         Drive d(&tasks, damaged);
         d.fake.files.refuseWrites(drive.why);
@@ -299,14 +278,8 @@ TEST(DamagedFiles, ADamagedFileThatCannotBeKeptAsideIsLeftAsItIsAndItsSavesRefus
 }
 
 TEST(DamagedFiles, AWriteRefusedSaysWhyWithWriteInTheTitle) {
-    const struct {
-        FileProblem why;
-        const char* words;
-    } drives[] = {{FileProblem::NoSpace, "no space left on the drive"},
-                  {FileProblem::ReadOnly, "the drive is read-only"},
-                  {FileProblem::InUse, "the file is in use"}};
     const Kind& events = kKinds[6];
-    for (const auto& drive : drives) {
+    for (const RefusingDrive& drive : kRefusingDrives) {
         Drive d;
         ASSERT_TRUE(d.loadAll());
         d.fake.files.refuseWrites(drive.why);

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <random>
 #include <set>
@@ -47,67 +46,6 @@ const Columns kTermColumns{&S::TermIDs, &S::TermNames, &S::TermStarts, &S::TermE
 const Columns kClassColumns{&S::ClassIDs,        &S::ClassTermLinks,  &S::ClassNames,
                             &S::ClassForeColors, &S::ClassBackColors, &S::ClassNotes};
 
-// A file written one record at a time.
-struct RecordFileKind {
-    std::string name;
-    const RecordLayout& layout;
-    Int16 S::*next;
-    Columns columns;  // that its load fills, record number first
-    // Puts a record's values (in file order) into the store's buffer and saves it.
-    std::function<bool(RecordFiles&, S&, const Row&, Int16 RecordNumber)> save;
-    std::size_t edited;     // the value a change writes anew...
-    std::string goneValue;  // ...or this, for a delete
-};
-
-// clang-format off
-const RecordFileKind kKinds[] = {
-    {"Assignments.txt", kAssignmentsLayout, &S::NextAssignmentRecord,
-     {&S::AssignmentRecordNos, &S::AssignmentIDs, &S::AssignmentClassLinks, &S::AssignmentDates, &S::AssignmentTypes,
-      &S::AssignmentDifficulties, &S::AssignmentEstTimes, &S::AssignmentDescriptions, &S::AssignmentDones,
-      &S::AssignmentGrades, &S::AssignmentWeights, &S::AssignmentReminders},
-     [](RecordFiles& files, S& s, const Row& v, Int16 number) {
-         s.AssignmentRecord = {v[0], v[1], v[2], dateFromText(v[3]), v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11]};
-         return files.SaveAssignment(number);
-     },
-     7, kDeletedRecord},
-    {"Notes.txt", kNotesLayout, &S::NextNoteRecord, {&S::NoteRecordNos, &S::NoteLinkIDs},
-     [](RecordFiles& files, S& s, const Row& v, Int16 number) {
-         s.NoteRecord = {v[0], v[1], v[2]};
-         return files.SaveNote(number);
-     },
-     1, "0"},
-    {"StudySessions.txt", kStudySessionsLayout, &S::NextStudySessionRecord,
-     {&S::StudySessionRecordNos, &S::StudySessionLinkIDs, &S::StudySessionLengths, &S::StudySessionDates},
-     [](RecordFiles& files, S& s, const Row& v, Int16 number) {
-         s.EditStudySessionRecordNos = {v[0]};
-         s.EditStudySessionLinkIDs = {v[1]};
-         s.EditStudySessionLengths = {v[2]};
-         s.EditStudySessionDates = {v[3]};
-         return files.SaveStudySession(number, 1);
-     },
-     1, "-1"},
-    {"Tasks.txt", kTasksLayout, &S::NextTaskRecord,
-     {&S::TaskRecordNos, &S::TaskIDs, &S::TaskDescriptions, &S::TaskDateExists, &S::TaskDates, &S::TaskTypes,
-      &S::TaskPriorities, &S::TaskDones, &S::TaskNotes, &S::TaskReminders},
-     [](RecordFiles& files, S& s, const Row& v, Int16 number) {
-         s.TaskRecord = {v[0], v[1], v[4], v[2], v[3], v[5], v[6], v[7], v[8], v[9]};
-         return files.SaveTask(number);
-     },
-     2, kDeletedRecord},
-    {"Events.txt", kEventsLayout, &S::NextEventRecord,
-     {&S::EventRecordNos, &S::EventIDs, &S::EventDates, &S::EventDescriptions, &S::EventTypes, &S::EventTimes,
-      &S::EventRecurrences, &S::EventSameDates, &S::EventRepeatNumbers, &S::EventRepeatDays, &S::EventRepeatDailies,
-      &S::EventEnds, &S::EventEndDates, &S::EventNotes, &S::EventReminders},
-     [](RecordFiles& files, S& s, const Row& v, Int16 number) {
-         s.EventRecord = {v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11], v[12], v[13], v[14]};
-         return files.SaveEvent(number);
-     },
-     3, kDeletedRecord},
-};
-// clang-format on
-const RecordFileKind& kAssignments = kKinds[0];
-const RecordFileKind& kSessions = kKinds[2];
-
 // A small drive of every record file and the preferences, made once; each round puts back
 // the files the round before changed.
 class TornDrive {
@@ -135,26 +73,28 @@ public:
         }
         baseline_["Terms.txt"] = wholeFile(kTermsLayout, terms_);
         baseline_["Classes.txt"] = wholeFile(kClassesLayout, classes_);
-        for (const RecordFileKind& kind : kKinds) {
-            baseline_[kind.name] = wholeFile(kind.layout, values_[kind.name]);
+        for (const OneRecordFile& kind : kOneRecordFiles) {
+            const std::string name(kind.layout.fileName);
+            baseline_[name] = wholeFile(kind.layout, values_[name]);
             // From here on each record's values as a load reads them (a grade of " " reads "").
-            for (Row& row : values_[kind.name]) row = parseRecord(kind.layout, buildRecord(kind.layout, row));
+            for (Row& row : values_[name]) row = parseRecord(kind.layout, buildRecord(kind.layout, row));
         }
         for (const auto& [name, bytes] : baseline_) d_.writeFile(name, bytes);
         EXPECT_TRUE(WritePreferences(d_.fake.platform, d_.store, {}, {"Term 1", "Monday", "No", 3}));
         baseline_["Preferences.ini"] = d_.bytesOf("Preferences.ini");
         loaded_ = load();
         // Each value lands in its own column (a note's text stays on disk).
-        for (const RecordFileKind& kind : kKinds) {
-            Rows expected = values_[kind.name];
+        for (const OneRecordFile& kind : kOneRecordFiles) {
+            Rows expected = values_[std::string(kind.layout.fileName)];
             for (Row& row : expected) row.resize(kind.columns.size());
-            EXPECT_EQ(rowsOf(loaded_, kind.columns), expected) << kind.name;
+            EXPECT_EQ(rowsOf(loaded_, kind.columns), expected) << kind.layout.fileName;
         }
     }
 
     // Cuts a save of one record, new or changed, short after a random number of bytes.
-    void tearRecord(const RecordFileKind& kind, bool append, std::mt19937& dice) {
-        const Rows& old = values_.at(kind.name);
+    void tearRecord(const OneRecordFile& kind, bool append, std::mt19937& dice) {
+        const std::string name(kind.layout.fileName);
+        const Rows& old = values_.at(name);
         const Int16 number = append ? Int16(old.size() + 1) : Int16(1 + dice() % old.size());
         // A copy of the first record for a new one; a change or a delete for an old one.
         Row values = old[append ? 0 : std::size_t(number - 1)];
@@ -163,7 +103,7 @@ public:
         const std::string record = buildRecord(kind.layout, values);
         const std::size_t offset = dice() % record.size();
         const std::string where =
-            kind.name + " record " + std::to_string(number) + " torn at " + std::to_string(offset);
+            name + " record " + std::to_string(number) + " torn at " + std::to_string(offset);
 
         // All a save of one record needs of the store: where the files are, and its counter.
         S store;
@@ -174,39 +114,40 @@ public:
         EXPECT_FALSE(kind.save(files, store, values, append ? Int16(0) : number)) << where;
         EXPECT_EQ(d_.fake.messages.shown.size(), 1u) << where;
         d_.fake.messages.shown.clear();
-        touched_.insert(kind.name);
+        touched_.insert(name);
 
         // On the drive: the old file with the record's first bytes written over it.
-        std::string expected = baseline_.at(kind.name);
+        std::string expected = baseline_.at(name);
         if (append)
             expected += record.substr(0, offset);
         else
             expected.replace(std::size_t(number - 1) * record.size(), offset, record, 0, offset);
-        ASSERT_EQ(d_.bytesOf(kind.name), expected) << where;
+        ASSERT_EQ(d_.bytesOf(name), expected) << where;
 
         // Read again: every other record gives the row it gave before, save the sessions
         // of an assignment the torn write may have deleted. A new record cut short is a
         // part record at the end: the file is told damaged and written anew without it; a
         // change cut short may leave a record whose fields don't read, told the same way.
-        const S again = load(kind.name);
+        const S again = load(name);
         if (append) {
-            ASSERT_EQ(d_.bytesOf(kind.name), baseline_.at(kind.name)) << where;
+            ASSERT_EQ(d_.bytesOf(name), baseline_.at(name)) << where;
         }
-        for (const RecordFileKind& other : kKinds) {
-            const std::size_t key = &other == &kind ? 0 : &kind == &kAssignments && &other == &kSessions ? 1 : 99;
+        for (const OneRecordFile& other : kOneRecordFiles) {
+            const bool sessionsOfTheAssignment = &kind == &kAssignmentFile && &other == &kStudySessionFile;
+            const std::size_t key = &other == &kind ? 0 : sessionsOfTheAssignment ? 1 : 99;
             auto standing = [&](const S& s) {
                 Rows rows = rowsOf(s, other.columns);
                 std::erase_if(rows, [&](const Row& row) { return key < 99 && row[key] == values[key]; });
                 return rows;
             };
-            EXPECT_EQ(standing(again), standing(loaded_)) << other.name << " when " << where;
+            EXPECT_EQ(standing(again), standing(loaded_)) << other.layout.fileName << " when " << where;
         }
         EXPECT_EQ(again.*kind.next, Int16(old.size() + 1)) << where;
 
         // A torn new record is no record: the next new record takes its place whole.
         if (append && dice() % 250 == 0) {
             ASSERT_TRUE(kind.save(files, store, values, 0));
-            EXPECT_EQ(d_.bytesOf(kind.name), baseline_.at(kind.name) + record);
+            EXPECT_EQ(d_.bytesOf(name), baseline_.at(name) + record);
         }
     }
 
@@ -291,7 +232,7 @@ TEST(Durability, WritesCutShortAnywhereLeaveEveryOtherRecordAndTheOldWholeFiles)
         drive.restore();
         const unsigned roll = dice() % 1000;
         if (roll < 820)
-            drive.tearRecord(kKinds[roll / 164], roll % 2 == 0, dice);
+            drive.tearRecord(kOneRecordFiles[roll / 164], roll % 2 == 0, dice);
         else if (roll < 902)
             drive.tearTermsAndClasses(roll >= 900, dice);
         else

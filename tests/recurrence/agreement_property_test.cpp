@@ -156,6 +156,32 @@ int expectHits(const RecordStore& store, std::map<int, std::vector<Date>> listed
     return total;
 }
 
+// The range walk from `start` to the end of `range`, and the reminder walk from `start` to
+// each event's advance notice, list exactly the hits of the single-date test; returns how
+// many each listed.
+std::pair<int, int> expectWalksListTheHits(const RecordStore& store, Date start, const std::string& range) {
+    const EventRows rows = ExpandEvents(store, start, range, "All");
+    std::map<int, std::vector<Date>> found;
+    for (int r = 1; r <= rows.ListEventRows.count(); ++r)
+        found[rows.ListEventRows(r)].push_back(rows.ListEventDates(r));
+    const Date end = EventRangeEnd(start, range);
+    const int total = expectHits(store, found, start, [end](int) { return end; });
+    EXPECT_EQ(rows.EventTotal, total);
+    EXPECT_EQ(rows.EventClassCount + rows.EventOtherCount, total);
+
+    ReminderRows reminders;
+    GatherEventReminders(store, start, "All", reminders);
+    found.clear();
+    for (int r = 1; r <= reminders.ReminderRecords.count(); ++r) {
+        EXPECT_EQ(reminders.ReminderDays(r), DaysBetween(start, reminders.ReminderDates(r)));
+        found[reminders.ReminderRecords(r)].push_back(reminders.ReminderDates(r));
+    }
+    const int due =
+        expectHits(store, found, start, [&](int i) { return start - ReminderOffset(store.EventReminders(i)); });
+    EXPECT_EQ(reminders.EventReminderCount, due);
+    return {total, due};
+}
+
 // A store of one to four events and a date near the first of them (or in the 2020s for
 // an event centuries back).
 struct Trial {
@@ -186,28 +212,8 @@ TEST(RuleAgreement, TheWalksAndTheCalendarMarksFindExactlyTheHitsOfTheSingleDate
         SCOPED_TRACE("trial " + std::to_string(trialNo) + ", " + range + " and " + filter + " from " + dateText(start) +
                      "\n" + describe(store));
 
-        // The range walk, from the date to the end of the range.
-        const EventRows rows = ExpandEvents(store, start, range, "All");
-        std::map<int, std::vector<Date>> found;
-        for (int r = 1; r <= rows.ListEventRows.count(); ++r)
-            found[rows.ListEventRows(r)].push_back(rows.ListEventDates(r));
-        const Date end = EventRangeEnd(start, range);
-        const int total = expectHits(store, found, start, [end](int) { return end; });
-        EXPECT_EQ(rows.EventTotal, total);
-        EXPECT_EQ(rows.EventClassCount + rows.EventOtherCount, total);
+        const auto [total, due] = expectWalksListTheHits(store, start, range);
         expanded += total;
-
-        // The reminder walk, from the date to its advance notice.
-        ReminderRows reminders;
-        GatherEventReminders(store, start, "All", reminders);
-        found.clear();
-        for (int r = 1; r <= reminders.ReminderRecords.count(); ++r) {
-            EXPECT_EQ(reminders.ReminderDays(r), DaysBetween(start, reminders.ReminderDates(r)));
-            found[reminders.ReminderRecords(r)].push_back(reminders.ReminderDates(r));
-        }
-        const int due =
-            expectHits(store, found, start, [&](int i) { return start - ReminderOffset(store.EventReminders(i)); });
-        EXPECT_EQ(reminders.EventReminderCount, due);
         reminded += due;
 
         // The calendar marks of the 42 days from the date: the days with a hit that
@@ -261,23 +267,11 @@ TEST(RuleAgreement, LastWeekdayFirstOnAnEarlierSuchWeekdayIsListedEverywhere) {
         if (c.laterSameWeekday) firstWeek.append(dateFromText(c.laterSameWeekday));
         EXPECT_EQ(ExpandEvents(store, first, "Week", "All").ListEventDates, firstWeek);
 
-        for (Date start = first - 10; start <= first + 1; ++start) {
+        for (Date start = first - 10; start <= first + 1; ++start)
             for (const char* range : {"Week", "Month", "Year"}) {
-                SCOPED_TRACE(std::string(range) + " from " + dateText(start));
-                const EventRows rows = ExpandEvents(store, start, range, "All");
-                std::map<int, std::vector<Date>> found;
-                for (int r = 1; r <= rows.ListEventRows.count(); ++r) found[1].push_back(rows.ListEventDates(r));
-                const Date end = EventRangeEnd(start, range);
-                EXPECT_EQ(rows.EventTotal, expectHits(store, found, start, [end](int) { return end; }));
+                SCOPED_TRACE(std::string(range) + " and reminders from " + dateText(start));
+                expectWalksListTheHits(store, start, range);
             }
-            SCOPED_TRACE("reminders on " + dateText(start));
-            ReminderRows reminders;
-            GatherEventReminders(store, start, "All", reminders);
-            std::map<int, std::vector<Date>> found;
-            for (int r = 1; r <= reminders.ReminderRecords.count(); ++r) found[1].push_back(reminders.ReminderDates(r));
-            const Date last = start - ReminderOffset(store.EventReminders(1));
-            EXPECT_EQ(reminders.EventReminderCount, expectHits(store, found, start, [last](int) { return last; }));
-        }
     }
 }
 

@@ -33,10 +33,6 @@ std::string withoutStamps(const std::string& calendar) {
     return std::regex_replace(calendar, std::regex("\r\nDTSTAMP:[0-9TZ]+"), "");
 }
 
-std::string fixture(const std::string& name) {
-    return std::string(QH_SOURCE_DIR) + "/tests/interchange/calendars/" + name;
-}
-
 // A term with two classes; with `records`, also an assignment of each kind.
 struct CalendarDrive {
     FakePlatform fake;
@@ -119,41 +115,6 @@ TEST(ProbeICalendar, NothingIsWrittenWhenTheWindowOrTheDialogIsCancelled) {
     EXPECT_FALSE(std::filesystem::exists(drive.fake.dataDirectory() + "/CalendarLinks.txt"));
 }
 
-TEST(ProbeICalendar, ImportPreviewsThenAddsOnceAndUpdatesWhatChanged) {
-    CalendarDrive drive(false);
-    const std::string first = test::runScript(
-        drive.fake, "clock 2026-11-21 09:05\nstart\nfile " + fixture("canvas_deadlines.ics") +
-                        "\nclick MenuImportICalendar\nprint\nchoose ComboCourse(1) skip\nclick ButtonOK\n"
-                        "mode homework\nrange Term\nprint\n");
-    test::expectLines(first, {"Dialog open \"Import iCalendar\"",
-                              "  LabelSummary \"canvas_deadlines.ics holds 1 event, 0 to-dos and 3 deadlines.\"",
-                              "  ComboCourse(0) \"as assignments of Math 201\" entries=4",
-                              "  ComboCourse(1) \"as tasks\" entries=4", "  ListImport \"\" entries=2",
-                              "Message: \"Import iCalendar\" \"Imported: 3 added, 0 updated, 0 unchanged, 1 skipped.\"",
-                              "Problem set 5 [MATH 201]", "Quiz 4 [MATH 201]"});
-    EXPECT_EQ(first.find("Lab report"), std::string::npos);
-
-    // The same file again: nothing doubled. Then, with a deadline moved at the source,
-    // its record follows and the others stay as they are.
-    const std::string again = test::runScript(
-        drive.fake, "clock 2026-11-21 09:05\nstart\nfile " + fixture("canvas_deadlines.ics") +
-                        "\nclick MenuImportICalendar\nchoose ComboCourse(1) skip\nclick ButtonOK\n");
-    test::expectLines(again, {"Imported: 0 added, 0 updated, 3 unchanged, 1 skipped."});
-    EXPECT_EQ(test::dataFile(drive.fake, "Assignments.txt").size(), 2u * 160u);
-
-    const std::string moved = drive.fake.root + "/canvas_deadlines.ics";
-    drive.fake.writeBytes(moved, std::regex_replace(drive.fake.bytesOf(fixture("canvas_deadlines.ics")),
-                                                    std::regex("20261203T045900Z"), "20261204T045900Z"));
-    const std::string changed = test::runScript(
-        drive.fake, "clock 2026-11-21 09:05\nstart\nfile " + moved +
-                        "\nclick MenuImportICalendar\nchoose ComboCourse(1) skip\nclick ButtonOK\n");
-    test::expectLines(changed, {"Imported: 0 added, 1 updated, 2 unchanged, 1 skipped."});
-    const std::string records = test::dataFile(drive.fake, "Assignments.txt");
-    EXPECT_EQ(records.size(), 2u * 160u);
-    EXPECT_NE(records.find("2026/12/03"), std::string::npos);
-    EXPECT_EQ(records.find("2026/12/02"), std::string::npos);
-}
-
 TEST(ProbeICalendar, ARoundTripThroughAnEmptyDriveGivesTheSameFile) {
     CalendarDrive full;
     const std::string exported = full.fake.root + "/first.ics";
@@ -173,7 +134,7 @@ TEST(ProbeICalendar, ARoundTripThroughAnEmptyDriveGivesTheSameFile) {
 TEST(ProbeICalendar, AReadOnlyDriveRefusesAnImportBeforeAskingForAFile) {
     LoadedMainWindow planner;
     planner.load().store.DriveReadOnly = true;
-    planner.window->click("MenuImportICalendar");
+    planner.window->click(planner.window->ui.MenuImportICalendar.key());
     EXPECT_EQ(planner.messageTexts(), std::vector<std::string>{"Read-only: changes cannot be saved"});
     EXPECT_TRUE(planner.fake.dialogs.fileRequests.empty());
 }
