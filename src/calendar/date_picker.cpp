@@ -148,7 +148,7 @@ void DatePicker::pick(Date date) {
 
 void DatePicker::arrowPressed(bool forward) {
     (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture =
-        forward ? "CalMonthRightDown" : "CalMonthLeftDown";
+        (forward ? kMonthOnArrow : kMonthBackArrow).pressedPicture;
     CalButtonUp = false;
     CalButtonForward = forward;
     CalButtonMonth = true;
@@ -169,7 +169,7 @@ void DatePicker::arrowReleased(bool forward) {
     CalButtonUp = true;
     TimerButton->enabled = false;
     (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture =
-        forward ? "CalMonthRightUp" : "CalMonthLeftUp";
+        (forward ? kMonthOnArrow : kMonthBackArrow).raisedPicture;
 }
 
 }  // namespace qh

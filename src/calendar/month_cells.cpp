@@ -69,18 +69,6 @@ int CellForDate(Date firstCell, Date date) {
     return offset >= 0 && offset < 42 ? int(offset) : -1;
 }
 
-const CalendarButton* FindCalendarButton(const std::string& name) {
-    static const CalendarButton buttons[] = {
-        {"picCalMonthUp", kElementMonthOn, true, true, "CalMonthRightDown", "CalMonthRightUp"},
-        {"picCalMonthDown", kElementMonthBack, false, true, "CalMonthLeftDown", "CalMonthLeftUp"},
-        {"picCalDayUp", kElementDayOn, true, false, "CalDayRightDown", "CalDayRightUp"},
-        {"picCalDayDown", kElementDayBack, false, false, "CalDayLeftDown", "CalDayLeftUp"},
-    };
-    for (const CalendarButton& button : buttons)
-        if (name == button.name) return &button;
-    return nullptr;
-}
-
 int RepeatElement(bool forward, bool month) {
     return month ? (forward ? kElementMonthOn : kElementMonthBack) : (forward ? kElementDayOn : kElementDayBack);
 }

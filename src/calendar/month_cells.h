@@ -68,18 +68,17 @@ MonthCells BuildMonthCells(Date date, Date today, const std::string& startDayOfW
 int CellForDate(Date firstCell, Date date);
 
 // An arrow button of the calendar: the element of CalendarDates it steps to and its images.
-struct CalendarButton {
-    const char* name;
+struct CalendarArrow {
     int element;
     bool forward;
     bool month;
     const char* pressedPicture;
     const char* raisedPicture;
 };
-
-// The arrow button of that control name (picCalMonthUp, picCalMonthDown, picCalDayUp,
-// picCalDayDown), or nullptr.
-const CalendarButton* FindCalendarButton(const std::string& name);
+inline constexpr CalendarArrow kMonthOnArrow{kElementMonthOn, true, true, "CalMonthRightDown", "CalMonthRightUp"};
+inline constexpr CalendarArrow kMonthBackArrow{kElementMonthBack, false, true, "CalMonthLeftDown", "CalMonthLeftUp"};
+inline constexpr CalendarArrow kDayOnArrow{kElementDayOn, true, false, "CalDayRightDown", "CalDayRightUp"};
+inline constexpr CalendarArrow kDayBackArrow{kElementDayBack, false, false, "CalDayLeftDown", "CalDayLeftUp"};
 // The element a held button repeats by its direction flags.
 int RepeatElement(bool forward, bool month);
 

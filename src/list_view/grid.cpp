@@ -266,12 +266,12 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     const Control& statusBar = *window.ui.picStatusBar;
     const int gridWidth = std::max(0, window.form.scaleWidth - 200);
     const int gridHeight = std::max(0, window.form.scaleHeight - kGridTop - statusBar.height - 100);
-    window.form.move("picGrid", 100, kGridTop, gridWidth, gridHeight);
-    window.form.bringToFront("picGrid");
+    window.form.move(window.ui.picGrid.key(), 100, kGridTop, gridWidth, gridHeight);
+    window.form.bringToFront(window.ui.picGrid.key());
     Canvas& canvas = *window.ui.picGrid->canvas;
 
     Control& scroll = *window.ui.VSGridScroll;
-    window.form.move("VSGridScroll", canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
+    window.form.move(window.ui.VSGridScroll.key(), canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
 
     const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.ui.picGrid->width, scroll.width);
     for (int i = 0; i < n; ++i) {
@@ -296,10 +296,10 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     window.state.GridBottom = toInt16(rows.gridBottom());
     window.state.RowsVisible = toInt16(rows.rowsVisible);
 
-    window.form.bringToFront("picGrid");
-    window.form.move("picStatusBar", 0, window.form.scaleHeight - kStatusBarHeight, window.form.scaleWidth,
+    window.form.bringToFront(window.ui.picGrid.key());
+    window.form.move(window.ui.picStatusBar.key(), 0, window.form.scaleHeight - kStatusBarHeight, window.form.scaleWidth,
                      kStatusBarHeight);
-    window.form.bringToFront("picStatusBar");
+    window.form.bringToFront(window.ui.picStatusBar.key());
     window.paintStatusBar();
 }
 
@@ -312,7 +312,7 @@ void PaintList(const ListHost& window, std::span<const char* const> titles,
     const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
                                         window.state.RowsVisible);
     window.state.KeyboardRow = toInt16(view.keyboardRow);
-    if (window.form.focusedControl == "picGrid") PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
+    if (window.form.focusedControl == window.ui.picGrid.key()) PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
 }
 
 }  // namespace qh

@@ -32,6 +32,7 @@ struct MainWindowControls {
         PictureBarStudySessions{form, "PictureBarStudySessions"}, PictureBarTasks{form, "PictureBarTasks"},
         PictureBarEvents{form, "PictureBarEvents"}, PictureBarReminders{form, "PictureBarReminders"},
         PictureBarWeb{form, "PictureBarWeb"}, picHelp{form, "picHelp"};
+    ControlRef picCalDayDown{form, "picCalDayDown"}, picCalDayUp{form, "picCalDayUp"};
     ControlRef LabelTop{form, "LabelTop"}, PictureBoxViewMenus{form, "PictureBoxViewMenus"},
         ComboList{form, "ComboList"}, ComboDateRange{form, "ComboDateRange"};
     ControlRef ButtonNewAssignment{form, "ButtonNewAssignment"}, ButtonNewTask{form, "ButtonNewTask"},

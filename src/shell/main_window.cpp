@@ -102,10 +102,16 @@ void MainWindow::bindHandlers() {
     for (int i = 0; i < 7; ++i) onClick(ui.calendar.LabelCalDay.key(i), [this, i] { dayHeaderClicked(i); });
     onClick(ui.calendar.LabelToday.key(), [this] { quickDateClicked(42); });
     onClick(ui.calendar.LabelTomorrow.key(), [this] { quickDateClicked(45); });
-    for (const char* button : {"picCalMonthUp", "picCalMonthDown", "picCalDayUp", "picCalDayDown"}) {
-        const std::string name = button;
-        on(name, FormEvent::MouseDown, [this, name](const EventArgs&) { calendarButtonPressed(name); });
-        on(name, FormEvent::MouseUp, [this, name](const EventArgs&) { calendarButtonReleased(name); });
+    const std::pair<const ControlRef*, const CalendarArrow*> arrows[] = {
+        {&ui.calendar.picCalMonthUp, &kMonthOnArrow},
+        {&ui.calendar.picCalMonthDown, &kMonthBackArrow},
+        {&ui.picCalDayUp, &kDayOnArrow},
+        {&ui.picCalDayDown, &kDayBackArrow}};
+    for (const auto& [button, arrow] : arrows) {
+        on(button->key(), FormEvent::MouseDown,
+           [this, button, arrow](const EventArgs&) { calendarButtonPressed(**button, *arrow); });
+        on(button->key(), FormEvent::MouseUp,
+           [this, button, arrow](const EventArgs&) { calendarButtonReleased(**button, *arrow); });
     }
     on(ui.TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { repeatCalendarArrow(); });
     onClick(ui.MenuStartMon.key(), [this] { changeStartDay("Monday"); });

@@ -184,8 +184,8 @@ private:
     void showGridView(const GridView& view);
     void bindFileMenu();
     void applyModeTable(Mode mode);
-    void calendarButtonPressed(const std::string& button);
-    void calendarButtonReleased(const std::string& button);
+    void calendarButtonPressed(Control& button, const CalendarArrow& arrow);
+    void calendarButtonReleased(Control& button, const CalendarArrow& arrow);
     void dateCellClicked(int index);
     void dayHeaderClicked(int index);
     void changeStartDay(const std::string& day);

@@ -98,10 +98,10 @@ void MainWindow::buildControls() {
     labelTop.bold = true;
     labelTop.alignment = Alignment::Center;
     // The day arrows lie over the ends of the title bar.
-    Control& dayDown = add(ControlKind::PictureBox, "picCalDayDown", "", 120, 480, 315, 330);
+    Control& dayDown = add(ControlKind::PictureBox, ui.picCalDayDown.key(), "", 120, 480, 315, 330);
     dayDown.picture = "CalDayLeftUp";
     dayDown.toolTip = "Previous day";
-    Control& dayUp = add(ControlKind::PictureBox, "picCalDayUp", "", 6300, 480, 315, 330);
+    Control& dayUp = add(ControlKind::PictureBox, ui.picCalDayUp.key(), "", 6300, 480, 315, 330);
     dayUp.picture = "CalDayRightUp";
     dayUp.toolTip = "Next day";
     top.accessibleName = "Selected date";

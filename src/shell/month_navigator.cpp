@@ -84,14 +84,13 @@ void MainWindow::quickDateClicked(int element) {
     Refresh(RefreshReason::Calendar);
 }
 
-void MainWindow::calendarButtonPressed(const std::string& name) {
+void MainWindow::calendarButtonPressed(Control& button, const CalendarArrow& arrow) {
     if (CurrentMode() == Mode::Reminders) return;
-    const CalendarButton& button = *FindCalendarButton(name);
-    c(name).picture = button.pressedPicture;
+    button.picture = arrow.pressedPicture;
     state.CalButtonUp = false;
-    state.CalButtonForward = button.forward;
-    state.CalButtonMonth = button.month;
-    state.ClickedDate = state.CalendarDates[std::size_t(button.element)];
+    state.CalButtonForward = arrow.forward;
+    state.CalButtonMonth = arrow.month;
+    state.ClickedDate = state.CalendarDates[std::size_t(arrow.element)];
     Refresh(RefreshReason::Calendar);
     Control& timer = *ui.TimerButton;
     timer.interval = state.ButtonRepeatInterval;
@@ -105,10 +104,10 @@ void MainWindow::repeatCalendarArrow() {
     Refresh(RefreshReason::Calendar);
 }
 
-void MainWindow::calendarButtonReleased(const std::string& name) {
+void MainWindow::calendarButtonReleased(Control& button, const CalendarArrow& arrow) {
     state.CalButtonUp = true;
     ui.TimerButton->enabled = false;
-    c(name).picture = FindCalendarButton(name)->raisedPicture;
+    button.picture = arrow.raisedPicture;
 }
 
 }  // namespace qh

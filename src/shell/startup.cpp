@@ -1,5 +1,6 @@
 // The load and the unload of the main window.
 #include <array>
+#include <vector>
 
 #include "common/failure.h"
 #include "editors/editor_windows.h"
@@ -17,23 +18,25 @@ namespace {
 // Context-help numbers of the main window's controls, given in runs from a first number.
 struct HelpRun {
     int first;
-    std::vector<const char*> controls;
+    std::vector<const ControlRef*> controls;
 };
 
-const std::array<HelpRun, 3>& helpRuns() {
-    static const std::array<HelpRun, 3> runs{{
-        {101, {"ButtonNewAssignment", "ButtonNewEvent", "ButtonNewTask", "ButtonSelectTerm", "ComboDateRange",
-               "ComboGPA", "ComboList", "picGrid", "picHelp", "picCalDayDown", "picCalDayUp", "picCalMonthDown",
-               "picCalMonthUp"}},
-        {115, {"LabelCalDayBG", "LabelDaysLeft", "LabelMonth", "LabelTerm", "LabelToday", "LabelTomorrow", "LabelTop",
-               "picCalendar", "PictureBarEvents", "PictureBarHomework", "PictureBarReminders",
-               "PictureBarStudySessions", "PictureBarTasks", "PictureBoxReminders", "PictureBoxStudySessions"}},
-        {133, {"picStatusBar", "TextBoxAssignments", "TextBoxClasses", "TextBoxEvents", "TextBoxFinishedAssignments",
-               "TextBoxFinishedTasks", "TextBoxMinimum", "TextBoxOtherEvents", "TextBoxStudySessions",
-               "TextBoxStudyTime", "TextBoxSuggested", "TextBoxTasks", "TextBoxTimeRemaining",
-               "TextBoxTotalAssignments", "TextBoxTotalTasks", "picLock", "PictureBarWeb"}},
+std::array<HelpRun, 3> helpRuns(const MainWindowControls& ui) {
+    const MonthCalendarControls& calendar = ui.calendar;
+    return {{
+        {101, {&ui.ButtonNewAssignment, &ui.ButtonNewEvent, &ui.ButtonNewTask, &ui.ButtonSelectTerm, &ui.ComboDateRange,
+               &ui.ComboGPA, &ui.ComboList, &ui.picGrid, &ui.picHelp, &ui.picCalDayDown, &ui.picCalDayUp,
+               &calendar.picCalMonthDown, &calendar.picCalMonthUp}},
+        {115, {&calendar.LabelCalDayBG, &ui.LabelDaysLeft, &calendar.LabelMonth, &ui.LabelTerm, &calendar.LabelToday,
+               &calendar.LabelTomorrow, &ui.LabelTop, &calendar.picCalendar, &ui.PictureBarEvents,
+               &ui.PictureBarHomework, &ui.PictureBarReminders, &ui.PictureBarStudySessions, &ui.PictureBarTasks,
+               &ui.PictureBoxReminders, &ui.PictureBoxStudySessions}},
+        {133, {&ui.picStatusBar, &ui.TextBoxAssignments, &ui.TextBoxClasses, &ui.TextBoxEvents,
+               &ui.TextBoxFinishedAssignments, &ui.TextBoxFinishedTasks, &ui.TextBoxMinimum, &ui.TextBoxOtherEvents,
+               &ui.TextBoxStudySessions, &ui.TextBoxStudyTime, &ui.TextBoxSuggested, &ui.TextBoxTasks,
+               &ui.TextBoxTimeRemaining, &ui.TextBoxTotalAssignments, &ui.TextBoxTotalTasks, &ui.picLock,
+               &ui.PictureBarWeb}},
     }};
-    return runs;
 }
 
 }  // namespace
@@ -43,9 +46,9 @@ std::string MainWindow::pidFilePath() const {
 }
 
 void MainWindow::Form_Load() {
-    for (const HelpRun& run : helpRuns()) {
+    for (const HelpRun& run : helpRuns(ui)) {
         int number = run.first;
-        for (const char* control : run.controls) c(control).helpContextId = number++;
+        for (const ControlRef* control : run.controls) (*control)->helpContextId = number++;
     }
 
     ui.TimerButton->enabled = false;
