@@ -50,8 +50,8 @@ Control& AddMonthCalendarControls(const MonthCalendarControls& ui, const std::st
     tile.backColor = kBlack;
     tile.visible = false;
     for (int i = 0; i < 42; ++i) {
-        Control& cell = form.addLabel(ui.LabelCalDate.name(), box, 150 + 330 * (i % 7), 615 + 240 * (i / 7),
-                                      cellWidth, cellHeight, std::to_string(i + 1), i);
+        Control& cell = form.addLabel(ui.LabelCalDate.name(), box, 150 + 330 * (i % 7), 615 + 240 * (i / 7), cellWidth,
+                                      cellHeight, std::to_string(i + 1), i);
         cell.opaque = true;
         cell.backColor = kWhite;
         cell.fontName = "Verdana";

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "calendar/month_cells.h"
 #include "calendar/month_calendar_controls.h"
+#include "calendar/month_cells.h"
 
 namespace qh {
 

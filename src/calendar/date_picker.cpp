@@ -43,9 +43,8 @@ DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
         onClick(f.textBox, [this, isFirst] { fieldPressed(isFirst); });
         if (!f.button.empty()) onClick(f.button, [this, isFirst] { fieldPressed(isFirst); });
     }
-    for (int i = 0; i < 42; ++i) onClick(calendar_.LabelCalDate.key(i), [this, i] {
-        pick(cells_.CalendarDates[std::size_t(i)]);
-    });
+    for (int i = 0; i < 42; ++i)
+        onClick(calendar_.LabelCalDate.key(i), [this, i] { pick(cells_.CalendarDates[std::size_t(i)]); });
     onClick(calendar_.LabelToday.key(), [this] { pick(cells_.CalendarDates[kElementToday]); });
     onClick(calendar_.LabelTomorrow.key(), [this] { pick(cells_.CalendarDates[kElementTomorrow]); });
     for (bool forward : {true, false}) {
@@ -62,7 +61,8 @@ DatePicker::DatePicker(Form& form, Platform& platform, DatePickerOwner& owner,
         if (visible()) CloseCalendar();
     });
     calendar.focusable = true;
-    form.on(calendar_.picCalendar.key(), FormEvent::KeyDown, [this](const EventArgs& args) { keyPressed(args.keyCode); });
+    form.on(calendar_.picCalendar.key(), FormEvent::KeyDown,
+            [this](const EventArgs& args) { keyPressed(args.keyCode); });
 }
 
 void DatePicker::keyPressed(int keyCode) {
@@ -132,8 +132,7 @@ void DatePicker::build() {
     cells_ = BuildMonthCells(PickerDate, today, startDayOfWeek_(), noMarks, colors);
     PickerDate = cells_.selected;
     UpdateQuickDateButtons(calendar_, PickerDate, today);
-    PaintMonthCells(calendar_, cells_,
-                    platform_.locale.monthName(cells_.month) + " " + std::to_string(cells_.year));
+    PaintMonthCells(calendar_, cells_, platform_.locale.monthName(cells_.month) + " " + std::to_string(cells_.year));
 }
 
 void DatePicker::pick(Date date) {

@@ -8,8 +8,7 @@
 namespace qh {
 
 Color colorFromText(std::string_view text) {
-    if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
-        throw TypeMismatch();
+    if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h')) throw TypeMismatch();
     unsigned long value = 0;
     const char* first = text.data() + 2;
     const char* last = text.data() + text.size();

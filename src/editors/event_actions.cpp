@@ -3,13 +3,13 @@
 // from any occurrence of a recurring event arrives here with the one row of its record.
 #include "common/flag_text.h"
 #include "common/text.h"
-#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
+#include "editors/feed_origin.h"
 #include "editors/frm_event.h"
 #include "editors/record_actions.h"
-#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {

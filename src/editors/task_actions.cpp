@@ -2,13 +2,13 @@
 // the row and its one record written, and the refresh.
 #include "common/flag_text.h"
 #include "common/text.h"
-#include "editors/feed_origin.h"
 #include "editors/editor_host.h"
 #include "editors/editor_windows.h"
+#include "editors/feed_origin.h"
 #include "editors/frm_task.h"
 #include "editors/record_actions.h"
-#include "record_store/record_tables.h"
 #include "record_store/record_files.h"
+#include "record_store/record_tables.h"
 
 namespace qh {
 namespace {

@@ -271,7 +271,8 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     Canvas& canvas = *window.ui.picGrid->canvas;
 
     Control& scroll = *window.ui.VSGridScroll;
-    window.form.move(window.ui.VSGridScroll.key(), canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width, canvas.scaleHeight());
+    window.form.move(window.ui.VSGridScroll.key(), canvas.scaleWidth() - kScrollBarWidth, 0, scroll.width,
+                     canvas.scaleHeight());
 
     const std::vector<ColumnSpan> spans = PlaceGridColumns(table, window.ui.picGrid->width, scroll.width);
     for (int i = 0; i < n; ++i) {
@@ -297,8 +298,8 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     window.state.RowsVisible = toInt16(rows.rowsVisible);
 
     window.form.bringToFront(window.ui.picGrid.key());
-    window.form.move(window.ui.picStatusBar.key(), 0, window.form.scaleHeight - kStatusBarHeight, window.form.scaleWidth,
-                     kStatusBarHeight);
+    window.form.move(window.ui.picStatusBar.key(), 0, window.form.scaleHeight - kStatusBarHeight,
+                     window.form.scaleWidth, kStatusBarHeight);
     window.form.bringToFront(window.ui.picStatusBar.key());
     window.paintStatusBar();
 }
@@ -312,7 +313,8 @@ void PaintList(const ListHost& window, std::span<const char* const> titles,
     const GridView view = ClampGridView({window.state.TopRow, window.state.KeyboardRow}, window.state.RowCount,
                                         window.state.RowsVisible);
     window.state.KeyboardRow = toInt16(view.keyboardRow);
-    if (window.form.focusedControl == window.ui.picGrid.key()) PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
+    if (window.form.focusedControl == window.ui.picGrid.key())
+        PaintKeyboardRow(*grid.canvas, frame, view.keyboardRow, grid.width);
 }
 
 }  // namespace qh

@@ -227,8 +227,8 @@ std::vector<int> SortedOrder(const SortKeys& keys, SortDirection direction, cons
     return order;
 }
 
-void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
-                      TextRanks* ranks) {
+void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, SortDirection direction,
+                      const Locale& locale, TextRanks* ranks) {
     const int n = rows.ListAssignmentRows.count();
     if (n < 2 || column < 1 || column > 8) return;
     const auto r = [&](int i) { return rowAt(rows.ListAssignmentRows, i); };

@@ -54,17 +54,19 @@ struct SortKeys {
 
 // The stable order of the rows (0-based indexes into the list as it stands). `ranks`, when
 // given, keeps the order of the texts for the next sort (text_ranks.h).
-std::vector<int> SortedOrder(const SortKeys& keys, SortDirection direction, const Locale& locale, TextRanks* ranks = nullptr);
+std::vector<int> SortedOrder(const SortKeys& keys, SortDirection direction, const Locale& locale,
+                             TextRanks* ranks = nullptr);
 
-void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
-                      TextRanks* ranks = nullptr);
+void SortHomeworkList(HomeworkRows& rows, const RecordStore& store, int column, SortDirection direction,
+                      const Locale& locale, TextRanks* ranks = nullptr);
 void SortStudySessionList(StudySessionRows& rows, const RecordStore& store, int column, SortDirection direction,
                           const Locale& locale, TextRanks* ranks = nullptr);
 void SortTaskList(TaskRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
                   TextRanks* ranks = nullptr);
 void SortEventList(EventRows& rows, const RecordStore& store, int column, SortDirection direction, const Locale& locale,
                    TextRanks* ranks = nullptr);
-void SortReminderList(ReminderRows& rows, int column, SortDirection direction, const Locale& locale, TextRanks* ranks = nullptr);
+void SortReminderList(ReminderRows& rows, int column, SortDirection direction, const Locale& locale,
+                      TextRanks* ranks = nullptr);
 
 // Substitute keys of values that are missing.
 inline constexpr Date kUndatedLast = 438657;    // 3100-12-31

@@ -37,9 +37,9 @@ std::string countsText(const ICalendarItems& items, const ICalendarChoice& choic
 }
 
 std::string resultText(const ImportResult& result) {
-    return "Imported: " + std::to_string(result.added) + " added, " + std::to_string(result.updated) +
-           " updated, " + std::to_string(result.unchanged) + " unchanged, " + std::to_string(result.skipped) +
-           " skipped." + (result.full ? " A record file is full: the items it could not take were skipped." : "") +
+    return "Imported: " + std::to_string(result.added) + " added, " + std::to_string(result.updated) + " updated, " +
+           std::to_string(result.unchanged) + " unchanged, " + std::to_string(result.skipped) + " skipped." +
+           (result.full ? " A record file is full: the items it could not take were skipped." : "") +
            (result.writeFailed ? " The drive refused a write, so the import stopped there." : "");
 }
 

@@ -29,8 +29,9 @@ void MainWindow::BuildCalendar() {
     state.DisplayedDate = state.ClickedDate;
     UpdateQuickDateButtons();
     PaintMonthCells(ui.calendar, cells, platform.locale.monthName(clicked.month) + " " + std::to_string(clicked.year));
-    NameMonthCells(ui.calendar, cells, state.CellMarked, [this](Date date) { return platform.locale.longDate(date); },
-                   DayMarkName(CurrentMode()));
+    NameMonthCells(
+        ui.calendar, cells, state.CellMarked, [this](Date date) { return platform.locale.longDate(date); },
+        DayMarkName(CurrentMode()));
 }
 
 std::string DayMarkName(Mode mode) {
@@ -54,7 +55,9 @@ void MainWindow::UpdateQuickDateButtons() {
 void MainWindow::ApplyStartDayOfWeek() {
     ApplyDayHeaders(ui.calendar, state.StartDayOfWeek);
     const std::string& day = state.StartDayOfWeek;
-    const ControlRef& ticked = day == "Monday" ? ui.MenuStartMon : day == "Saturday" ? ui.MenuStartSat : ui.MenuStartSun;
+    const ControlRef& ticked = day == "Monday"     ? ui.MenuStartMon
+                               : day == "Saturday" ? ui.MenuStartSat
+                                                   : ui.MenuStartSun;
     for (const ControlRef* item : {&ui.MenuStartSun, &ui.MenuStartMon, &ui.MenuStartSat})
         (*item)->checked = item == &ticked;
     state.ClickedDate = state.DisplayedDate;

@@ -4,10 +4,10 @@
 
 #include "common/failure.h"
 #include "editors/editor_windows.h"
+#include "record_store/backups.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
-#include "record_store/backups.h"
 #include "shell/feed_subscriptions.h"
 #include "shell/main_window.h"
 #include "shell/preferences.h"
@@ -24,18 +24,21 @@ struct HelpRun {
 std::array<HelpRun, 3> helpRuns(const MainWindowControls& ui) {
     const MonthCalendarControls& calendar = ui.calendar;
     return {{
-        {101, {&ui.ButtonNewAssignment, &ui.ButtonNewEvent, &ui.ButtonNewTask, &ui.ButtonSelectTerm, &ui.ComboDateRange,
-               &ui.ComboGPA, &ui.ComboList, &ui.picGrid, &ui.picHelp, &ui.picCalDayDown, &ui.picCalDayUp,
-               &calendar.picCalMonthDown, &calendar.picCalMonthUp}},
-        {115, {&calendar.LabelCalDayBG, &ui.LabelDaysLeft, &calendar.LabelMonth, &ui.LabelTerm, &calendar.LabelToday,
-               &calendar.LabelTomorrow, &ui.LabelTop, &calendar.picCalendar, &ui.PictureBarEvents,
-               &ui.PictureBarHomework, &ui.PictureBarReminders, &ui.PictureBarStudySessions, &ui.PictureBarTasks,
-               &ui.PictureBoxReminders, &ui.PictureBoxStudySessions}},
-        {133, {&ui.picStatusBar, &ui.TextBoxAssignments, &ui.TextBoxClasses, &ui.TextBoxEvents,
-               &ui.TextBoxFinishedAssignments, &ui.TextBoxFinishedTasks, &ui.TextBoxMinimum, &ui.TextBoxOtherEvents,
-               &ui.TextBoxStudySessions, &ui.TextBoxStudyTime, &ui.TextBoxSuggested, &ui.TextBoxTasks,
-               &ui.TextBoxTimeRemaining, &ui.TextBoxTotalAssignments, &ui.TextBoxTotalTasks, &ui.picLock,
-               &ui.PictureBarWeb}},
+        {101,
+         {&ui.ButtonNewAssignment, &ui.ButtonNewEvent, &ui.ButtonNewTask, &ui.ButtonSelectTerm, &ui.ComboDateRange,
+          &ui.ComboGPA, &ui.ComboList, &ui.picGrid, &ui.picHelp, &ui.picCalDayDown, &ui.picCalDayUp,
+          &calendar.picCalMonthDown, &calendar.picCalMonthUp}},
+        {115,
+         {&calendar.LabelCalDayBG, &ui.LabelDaysLeft, &calendar.LabelMonth, &ui.LabelTerm, &calendar.LabelToday,
+          &calendar.LabelTomorrow, &ui.LabelTop, &calendar.picCalendar, &ui.PictureBarEvents, &ui.PictureBarHomework,
+          &ui.PictureBarReminders, &ui.PictureBarStudySessions, &ui.PictureBarTasks, &ui.PictureBoxReminders,
+          &ui.PictureBoxStudySessions}},
+        {133,
+         {&ui.picStatusBar, &ui.TextBoxAssignments, &ui.TextBoxClasses, &ui.TextBoxEvents,
+          &ui.TextBoxFinishedAssignments, &ui.TextBoxFinishedTasks, &ui.TextBoxMinimum, &ui.TextBoxOtherEvents,
+          &ui.TextBoxStudySessions, &ui.TextBoxStudyTime, &ui.TextBoxSuggested, &ui.TextBoxTasks,
+          &ui.TextBoxTimeRemaining, &ui.TextBoxTotalAssignments, &ui.TextBoxTotalTasks, &ui.picLock,
+          &ui.PictureBarWeb}},
     }};
 }
 

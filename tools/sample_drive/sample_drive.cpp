@@ -5,11 +5,11 @@
 #include <stdexcept>
 
 #include "common/flag_text.h"
+#include "platform/fake/fake_platform.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "sample_content.h"
 #include "shell/preferences.h"
-#include "platform/fake/fake_platform.h"
 #include "unsynced_file_system.h"
 
 namespace qh::sample {
