@@ -22,11 +22,11 @@ const ControlRef* menuOfMode(const MainWindowControls& ui, const std::string& mo
     return nullptr;
 }
 
-const char* arrowControl(const std::string& arrow) {
-    if (arrow == "month-up") return "picCalMonthUp";
-    if (arrow == "month-down") return "picCalMonthDown";
-    if (arrow == "day-up") return "picCalDayUp";
-    if (arrow == "day-down") return "picCalDayDown";
+const ControlRef* arrowControl(const MainWindowControls& ui, const std::string& arrow) {
+    if (arrow == "month-up") return &ui.calendar.picCalMonthUp;
+    if (arrow == "month-down") return &ui.calendar.picCalMonthDown;
+    if (arrow == "day-up") return &ui.picCalDayUp;
+    if (arrow == "day-down") return &ui.picCalDayDown;
     return nullptr;
 }
 
@@ -231,11 +231,11 @@ bool ProbeSession::action(const std::string& line) {
         std::string which;
         int repeats = 0;
         words >> which >> repeats;
-        const char* control = arrowControl(which);
+        const ControlRef* control = arrowControl(w.ui, which);
         if (!control) return false;
-        w.press(control);
+        w.press(control->key());
         for (int i = 0; i < repeats; ++i) w.tick(w.ui.TimerButton.key());
-        w.release(control);
+        w.release(control->key());
     } else if (verb == "day-header") {
         int index = -1;
         words >> index;
