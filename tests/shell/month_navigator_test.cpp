@@ -37,7 +37,7 @@ TEST_F(MonthNavigator, BuildsTheFortyTwoCellsOfTheSelectedMonth) {
     }
     const Control& today = ui.calendar.LabelCalDate[27];
     EXPECT_EQ(today.backColor, 0x000000u);
-    const Control& frame = window.c("LabelCalTileBorder");
+    const Control& frame = *ui.calendar.LabelCalTileBorder;
     EXPECT_EQ(std::tie(frame.visible, frame.left, frame.top), std::make_tuple(true, today.left - 15, today.top - 15));
 
     // A grey day moves the calendar to its month. December 2026 shows 29 and 30 November
@@ -58,27 +58,27 @@ TEST_F(MonthNavigator, BuildsTheFortyTwoCellsOfTheSelectedMonth) {
 TEST_F(MonthNavigator, ArrowsStepWhileHeldAndKeepTheDateWithinItsBounds) {
     const struct {
         Ymd from;
-        const char* arrow;
+        const ControlRef& arrow;
         Ymd pressed, held;
     } cases[] = {
-        {{2027, 1, 31}, "picCalMonthUp", {2027, 2, 28}, {2027, 3, 28}},
-        {{2026, 11, 21}, "picCalDayDown", {2026, 11, 20}, {2026, 11, 19}},
-        {{1600, 1, 3}, "picCalMonthDown", {1600, 1, 1}, {1600, 1, 1}},
-        {{3100, 12, 30}, "picCalDayUp", {3100, 12, 31}, {3100, 12, 31}},
+        {{2027, 1, 31}, ui.calendar.picCalMonthUp, {2027, 2, 28}, {2027, 3, 28}},
+        {{2026, 11, 21}, ui.picCalDayDown, {2026, 11, 20}, {2026, 11, 19}},
+        {{1600, 1, 3}, ui.calendar.picCalMonthDown, {1600, 1, 1}, {1600, 1, 1}},
+        {{3100, 12, 30}, ui.picCalDayUp, {3100, 12, 31}, {3100, 12, 31}},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.arrow);
+        SCOPED_TRACE(c.arrow.key());
         show(c.from);
-        window.press(c.arrow);
+        window.press(c.arrow.key());
         EXPECT_EQ(clicked(), c.pressed);
-        EXPECT_TRUE(window.c(c.arrow).picture.ends_with("Down"));
+        EXPECT_TRUE(c.arrow->picture.ends_with("Down"));
         EXPECT_TRUE(ui.TimerButton->enabled);
         EXPECT_EQ(ui.TimerButton->interval, 300);
         window.tick(ui.TimerButton.key());
         EXPECT_EQ(clicked(), c.held);
-        window.release(c.arrow);
+        window.release(c.arrow.key());
         EXPECT_FALSE(ui.TimerButton->enabled);
-        EXPECT_TRUE(window.c(c.arrow).picture.ends_with("Up"));
+        EXPECT_TRUE(c.arrow->picture.ends_with("Up"));
         window.tick(ui.TimerButton.key());  // released: nothing
         EXPECT_EQ(clicked(), c.held);
     }
@@ -92,7 +92,7 @@ TEST_F(MonthNavigator, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtThe
         const std::string day = c.startDay;
         window.click((day == "Monday" ? ui.MenuStartMon : day == "Saturday" ? ui.MenuStartSat : ui.MenuStartSun).key());
         show(c.from);
-        const char* arrow = c.forward ? "picCalMonthUp" : "picCalMonthDown";
+        const std::string& arrow = (c.forward ? ui.calendar.picCalMonthUp : ui.calendar.picCalMonthDown).key();
         window.press(arrow);
         EXPECT_EQ(clicked(), c.held);
         test::expectCalendarBeyondBound(window, c);
@@ -105,15 +105,15 @@ TEST_F(MonthNavigator, AStepBeyondTheBoundsShowsTheMonthAskedForWithTheDateAtThe
 
 TEST_F(MonthNavigator, RemindersModeHoldsTheCalendarOnToday) {
     window.click(ui.calendar.LabelTomorrow.key());
-    EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowDownTodayUp");
+    EXPECT_EQ(ui.calendar.picTomorrow->picture + ui.calendar.picToday->picture, "TomorrowDownTodayUp");
     window.click(ui.MenuReminders.key());
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
-    EXPECT_EQ(window.c("picTomorrow").picture + window.c("picToday").picture, "TomorrowUpTodayDown");
+    EXPECT_EQ(ui.calendar.picTomorrow->picture + ui.calendar.picToday->picture, "TomorrowUpTodayDown");
     EXPECT_EQ(ui.calendar.LabelTomorrow->foreColor, 0xA9A9A9u);  // DarkGray
     // Cells, Tomorrow and the arrows do nothing.
     window.click(ui.calendar.LabelCalDate.key(3));
     window.click(ui.calendar.LabelTomorrow.key());
-    window.press("picCalMonthUp");
+    window.press(ui.calendar.picCalMonthUp.key());
     EXPECT_FALSE(ui.TimerButton->enabled);
     EXPECT_EQ(clicked(), (Ymd{2026, 11, 21}));
 }
