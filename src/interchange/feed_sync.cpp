@@ -34,7 +34,7 @@ public:
         r.Done = flagText(true);
         s_.TaskRecord = r;
         kTaskTable.storeRow(s_, row, r);
-        saved(files_.SaveTask(int16OrZero(r.RecordNo)));
+        saves.note(files_.SaveTask(int16OrZero(r.RecordNo)));
     }
 
     void event(int row) {
@@ -42,7 +42,7 @@ public:
         r.Description = kDeletedRecord;
         s_.EventRecord = r;
         kEventTable.storeRow(s_, row, r);
-        saved(files_.SaveEvent(int16OrZero(r.RecordNo)));
+        saves.note(files_.SaveEvent(int16OrZero(r.RecordNo)));
     }
 
     void assignment(int row) {
@@ -57,23 +57,20 @@ public:
             s_.NoteRecord = {s_.NoteRecordNos(note), "0", ""};
             s_.NoteRecordNos.removeAt(note);
             s_.NoteLinkIDs.removeAt(note);
-            saved(files_.SaveNote(noteNumber));
+            saves.note(files_.SaveNote(noteNumber));
             break;
         }
         s_.AssignmentRecord = r;
         kAssignmentTable.storeRow(s_, row, r);
-        saved(files_.SaveAssignment(int16OrZero(r.RecordNo)));
+        saves.note(files_.SaveAssignment(int16OrZero(r.RecordNo)));
     }
 
-    // Whether a write was refused (its file named to the student).
-    bool failed() const { return failed_; }
+    SaveRun saves;
 
 private:
-    void saved(bool written) { failed_ = failed_ || !written; }
 
     RecordStore& s_;
     RecordFiles& files_;
-    bool failed_ = false;
 };
 
 }  // namespace
@@ -143,7 +140,7 @@ FeedSyncResult ApplyFeed(RecordStore& store, RecordFiles& files, const ImportPla
                 break;
             }
         }
-        if (remover.failed()) {
+        if (remover.saves.refused) {
             result.writeFailed = true;
             return result;  // the link stays, so the next refresh deletes it again
         }

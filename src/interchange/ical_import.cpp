@@ -196,9 +196,9 @@ public:
                 store_.NoteRecordNos.append(std::to_string(store_.NextNoteRecord));
                 store_.NoteLinkIDs.append(record.ID);
                 store_.NoteRecord = {std::to_string(store_.NextNoteRecord), record.ID, note};
-                saved(files_.SaveNote(0));
+                saves.note(files_.SaveNote(0));
             }
-            saved(files_.SaveAssignment(0));
+            saves.note(files_.SaveAssignment(0));
             return int16OrZero(record.ID);
         }
         // An update takes the name and the due day from the source; the class, Done, the
@@ -208,15 +208,14 @@ public:
         record.Description = fitted(kAssignmentTable.width("Description"), summaryOf(item), "name", nullptr);
         store_.AssignmentRecord = record;
         kAssignmentTable.storeRow(store_, row, record);
-        saved(files_.SaveAssignment(int16OrZero(record.RecordNo)));
+        saves.note(files_.SaveAssignment(int16OrZero(record.RecordNo)));
         return int16OrZero(record.ID);
     }
 
-    // Whether a write was refused; the refused row stays for this run, as an editor's does.
-    bool failed() const { return failed_; }
+    // A refused write's row stays for this run, as an editor's does.
+    SaveRun saves;
 
 private:
-    void saved(bool written) { failed_ = failed_ || !written; }
 
     // A new record at the kind's next number, or the record of row `row` written over.
     template <class Buffer>
@@ -231,13 +230,12 @@ private:
             table.appendRow(store_, record);
         else
             table.storeRow(store_, row, record);
-        saved((files_.*save)(row == 0 ? Int16{0} : int16OrZero(record.RecordNo)));
+        saves.note((files_.*save)(row == 0 ? Int16{0} : int16OrZero(record.RecordNo)));
         return int16OrZero(record.ID);
     }
 
     RecordStore& store_;
     RecordFiles& files_;
-    bool failed_ = false;
 };
 
 }  // namespace
@@ -319,7 +317,7 @@ ImportResult ApplyImport(RecordStore& store, RecordFiles& files, const ImportPla
             case LinkedKind::Task: id = writer.task(item, today, row); break;
             case LinkedKind::Assignment: id = writer.assignment(item, classLink, row); break;
         }
-        if (writer.failed()) {
+        if (writer.saves.refused) {
             // The drive refused it and would refuse the rest, each with its own message.
             result.writeFailed = true;
             break;

@@ -113,4 +113,11 @@ private:
                                const std::function<Values()>& values);
 };
 
+// The saves of one run over many records (an import, a feed's refresh). A refused save has
+// named its file to the student; the run stops there rather than meet the refusal again.
+struct SaveRun {
+    bool refused = false;
+    void note(bool saved) { refused = refused || !saved; }
+};
+
 }  // namespace qh
