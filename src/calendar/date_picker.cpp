@@ -146,12 +146,12 @@ void DatePicker::pick(Date date) {
 }
 
 void DatePicker::arrowPressed(bool forward) {
-    (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture =
-        (forward ? kMonthOnArrow : kMonthBackArrow).pressedPicture;
+    const CalendarArrow& arrow = forward ? kMonthOnArrow : kMonthBackArrow;
+    (forward ? calendar_.picCalMonthUp : calendar_.picCalMonthDown)->picture = arrow.pressedPicture;
     CalButtonUp = false;
     CalButtonForward = forward;
     CalButtonMonth = true;
-    PickerDate = cells_.CalendarDates[forward ? kElementMonthOn : kElementMonthBack];
+    PickerDate = cells_.CalendarDates[std::size_t(arrow.element)];
     build();
     Control& timer = *TimerButton;
     timer.interval = kRepeatMs;

@@ -100,8 +100,8 @@ void MainWindow::bindHandlers() {
 
     for (int i = 0; i < 42; ++i) onClick(ui.calendar.LabelCalDate.key(i), [this, i] { dateCellClicked(i); });
     for (int i = 0; i < 7; ++i) onClick(ui.calendar.LabelCalDay.key(i), [this, i] { dayHeaderClicked(i); });
-    onClick(ui.calendar.LabelToday.key(), [this] { quickDateClicked(42); });
-    onClick(ui.calendar.LabelTomorrow.key(), [this] { quickDateClicked(45); });
+    onClick(ui.calendar.LabelToday.key(), [this] { quickDateClicked(kElementToday); });
+    onClick(ui.calendar.LabelTomorrow.key(), [this] { quickDateClicked(kElementTomorrow); });
     const std::pair<const ControlRef*, const CalendarArrow*> arrows[] = {
         {&ui.calendar.picCalMonthUp, &kMonthOnArrow},
         {&ui.calendar.picCalMonthDown, &kMonthBackArrow},
