@@ -9,10 +9,12 @@
 #include <QMessageBox>
 #include <QSysInfo>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
 #include "common/failure.h"
+#include "platform/qt/loaded_feed_fetcher.h"
 #include "platform/qt/qt_platform.h"
 #include "qt_test_support.h"
 
@@ -110,6 +112,29 @@ void whenShown(std::function<void(Dialog*)> user) {
 }
 
 // A question with its answer, and a notice whose exclamation shows as Qt's warning.
+// The test program has no network part beside it, as a drive that lost the file would not.
+TEST(LoadedFeedFetcher, WithoutItsNetworkPartEveryFetchIsRefusedLaterWithTheReason) {
+    testApplication();
+    int handedOver = 0;
+    LoadedFeedFetcher feeds([&](const std::function<void()>& answer) {
+        ++handedOver;
+        answer();
+    });
+    FeedRequest request;
+    request.address = "https://school.example/feed.ics";
+    std::vector<FeedAnswer> answers;
+    for (int i = 0; i < 2; ++i) feeds.fetch(request, [&](const FeedAnswer& a) { answers.push_back(a); });
+    EXPECT_TRUE(answers.empty());  // never from inside the call
+    for (int wait = 0; wait < 100 && answers.size() < 2; ++wait) QTest::qWait(10);
+    ASSERT_EQ(answers.size(), 2u);
+    EXPECT_EQ(handedOver, 2);
+    for (const FeedAnswer& answer : answers) {
+        EXPECT_EQ(answer.outcome, FeedAnswer::Outcome::Refused);
+        EXPECT_NE(answer.why.find("the planner's network part could not be loaded ("), std::string::npos) << answer.why;
+        EXPECT_NE(answer.why.find(kNetworkModuleFile), std::string::npos) << answer.why;
+    }
+}
+
 TEST(QtMessageBoxes, ShowTitleTextIconAndButtonsAndReturnTheAnswer) {
     testApplication();
     QtMessageBoxes messages;

@@ -5,13 +5,13 @@
 #include <QPrinter>
 #include <memory>
 
-#include "platform/platform.h"
 #include "platform/ical/ical_codec.h"
+#include "platform/platform.h"
 #include "platform/posix_file_system.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/host_collation.h"
+#include "platform/qt/loaded_feed_fetcher.h"
 #include "platform/qt/qt_canvas.h"
-#include "platform/qt/network/qt_feed_fetcher.h"
 #include "platform/qt/qt_notifications.h"
 
 namespace qh {
@@ -130,7 +130,7 @@ private:
     QtCanvasFactory canvases_;
     IcalCodec calendars_;
     QtNotifications notifications_;
-    QtFeedFetcher feeds_;
+    LoadedFeedFetcher feeds_;
     Platform platform_;
 };
 
