@@ -5,6 +5,7 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSslError>
+#include <QSslSocket>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -103,13 +104,18 @@ void QtFeedFetcher::fetch(const FeedRequest& request, Answered answered) {
     ++waiting_;
     const QUrl url(QString::fromStdString(FeedTransportAddress(request.address)), QUrl::StrictMode);
     const QString scheme = url.scheme().toLower();
-    if (!url.isValid() || url.host().isEmpty() || (scheme != "https" && scheme != "http")) {
+    const auto refuseLater = [this, &answered](std::string why) {
         // Answered later all the same, as the interface promises.
-        QTimer::singleShot(0, this, [this, answered] {
-            answer(answered, failure(FeedAnswer::Outcome::Refused, "the address is not a web address"));
+        QTimer::singleShot(0, this, [this, answered, why = std::move(why)] {
+            answer(answered, failure(FeedAnswer::Outcome::Refused, why));
         });
-        return;
-    }
+    };
+    if (!url.isValid() || url.host().isEmpty() || (scheme != "https" && scheme != "http"))
+        return refuseLater("the address is not a web address");
+    // Without a TLS library every secure feed would look like a server that is down, and
+    // the planner would wait quietly for it for ever: say what is missing instead.
+    if (scheme == "https" && !QSslSocket::supportsSsl())
+        return refuseLater("this computer has no library for secure connections");
     QNetworkRequest http(url);
     http.setMaximumRedirectsAllowed(kMostRedirects);
     http.setRawHeader("Accept", "text/calendar, */*;q=0.5");
