@@ -21,8 +21,6 @@ constexpr std::array<float, 6> kTaskWidths{28, 0.995f, 75, 70, 70, 45};
 constexpr std::array<float, 6> kEventWidths{28, 0.995f, 75, 75, 70, 90};
 constexpr std::array<float, 7> kReminderWidths{28, 75, 0.3f, 80, 0.695f, 90, 70};
 
-constexpr int kHeaderCount = 9;
-
 // Where a row's parts sit, in twips from the cell's left edge and the row's top.
 constexpr int kNumberRightEdge = 345;  // the row numbers end here, right-aligned
 constexpr int kNumberDrop = 60;
@@ -215,7 +213,7 @@ std::string HeaderPicture(int column, int sortColumn, SortDirection sortDirectio
 
 GridFrame CurrentGridFrame(const ListHost& window, int columnCount) {
     GridFrame frame;
-    for (int i = 0; i < columnCount && i < kHeaderCount; ++i) {
+    for (int i = 0; i < columnCount && i < kGridHeaderCount; ++i) {
         const Control& header = window.form.c(GridHeaderKey(i));
         frame.columns.push_back({header.left, header.width});
     }
@@ -230,7 +228,7 @@ void PaintGridHeaders(const ListHost& window, std::span<const char* const> title
     font.name = "Verdana";
     font.size = 8;
     font.bold = true;
-    for (std::size_t c = 0; c < titles.size() && c < std::size_t(kHeaderCount); ++c) {
+    for (std::size_t c = 0; c < titles.size() && c < std::size_t(kGridHeaderCount); ++c) {
         Control& header = window.form.c(GridHeaderKey(int(c)));
         header.picture = HeaderPicture(int(c), window.state.SortColumn, window.state.SortDirection);
         Canvas& canvas = *header.canvas;
@@ -257,7 +255,7 @@ void LayoutModeGrid(const ListHost& window, Mode mode) {
     const std::span<const float> table = GridWidthTable(mode);
     if (table.empty()) return;
     const int n = int(table.size());
-    for (int i = 0; i < kHeaderCount; ++i) {
+    for (int i = 0; i < kGridHeaderCount; ++i) {
         Control& header = window.form.c(GridHeaderKey(i));
         header.visible = header.enabled = i < n;
     }

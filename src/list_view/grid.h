@@ -136,7 +136,9 @@ std::string HeaderPicture(int column, int sortColumn, SortDirection sortDirectio
 // ---------------------------------------------------------------------------------------
 // Window glue, used by the list builders; the window is seen through a ListHost.
 
-// The key of header c ("picColHeader(c)").
+// The grid's header pictures, one per column of the widest list; the key of header c
+// ("picColHeader(c)").
+inline constexpr int kGridHeaderCount = 9;
 std::string GridHeaderKey(int index);
 // The vertical measures of the grid as the window stands.
 GridRows CurrentGridRows(const ListHost& window);

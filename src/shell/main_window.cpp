@@ -7,6 +7,7 @@
 #include "editors/record_actions.h"
 #include "interchange/frm_export_icalendar.h"
 #include "interchange/frm_import_preview.h"
+#include "list_view/grid.h"
 #include "record_store/color_vocabulary.h"
 #include "record_store/record_files.h"
 #include "recurrence/occurrence.h"
@@ -146,7 +147,7 @@ void MainWindow::bindHandlers() {
 
     on(ui.picGrid.key(), FormEvent::MouseDown, [this](const EventArgs& args) { picGridMouseDown(args); });
     on(ui.picGrid.key(), FormEvent::MouseUp, [this](const EventArgs& args) { picGridMouseUp(args); });
-    for (int i = 0; i < 9; ++i) onClick("picColHeader(" + std::to_string(i) + ")", [this, i] { headerClicked(i); });
+    for (int i = 0; i < kGridHeaderCount; ++i) onClick(GridHeaderKey(i), [this, i] { headerClicked(i); });
     on(ui.VSGridScroll.key(), FormEvent::Change, [this](const EventArgs&) { RefillGrid(); });
     on(ui.VSGridScroll.key(), FormEvent::Scroll, [this](const EventArgs&) { RefillGrid(); });
     // The keyboard belongs to the grid: the scroll bar hands on the focus it gets.

@@ -1,6 +1,7 @@
 // The controls and menus of the main window at their load places (twips, client area).
 #include "calendar/calendar_binder.h"
 #include "common/text.h"
+#include "list_view/grid.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -195,7 +196,7 @@ void MainWindow::buildControls() {
     Control& grid = addDrawable(ui.picGrid.key(), "", 100, 2650, 9280, 3355);
     grid.focusable = true;
     grid.accessibleName = "List";
-    for (int i = 0; i < 9; ++i) addDrawable("picColHeader", ui.picGrid.key(), 0, 0, 600, 300, i);
+    for (int i = 0; i < kGridHeaderCount; ++i) addDrawable("picColHeader", ui.picGrid.key(), 0, 0, 600, 300, i);
     Control& scroll = add(ControlKind::ScrollBar, ui.VSGridScroll.key(), ui.picGrid.key(), 9025, 0, 255, 3355);
     scroll.minimum = 1;
     scroll.maximum = 1;
