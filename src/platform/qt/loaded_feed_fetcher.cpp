@@ -1,6 +1,7 @@
 #include "platform/qt/loaded_feed_fetcher.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibrary>
 #include <QTimer>
 
@@ -16,10 +17,14 @@ FeedFetcher* LoadedFeedFetcher::loaded() {
     if (tried_) return fetcher_.get();
     tried_ = true;
     // Beside the program, wherever the drive is mounted; never from the computer's paths.
-    QLibrary module(QCoreApplication::applicationDirPath() + '/' + kNetworkModuleFile);
+    const QString path = QCoreApplication::applicationDirPath() + '/' + kNetworkModuleFile;
+    QLibrary module(path);
     const auto make = reinterpret_cast<MakeFeedFetcher>(module.resolve(kMakeFeedFetcherEntry));
     if (make)
         fetcher_.reset(make(run_));
+    else if (!QFile::exists(path))
+        // A drive copied by hand without it: the likely case, told in words.
+        missing_ = std::string("the planner's network part (") + kNetworkModuleFile + ") is not beside the program";
     else
         missing_ = "the planner's network part could not be loaded (" + module.errorString().toStdString() + ")";
     return fetcher_.get();
