@@ -22,4 +22,10 @@ std::string twoDigits(long long number) {
     return rightChars(text, 2);
 }
 
+std::size_t lastCharacterStart(std::string_view text) {
+    std::size_t pos = text.size() - 1;
+    while (pos > 0 && (static_cast<unsigned char>(text[pos]) & 0xC0) == 0x80) --pos;
+    return pos;
+}
+
 }  // namespace qh

@@ -14,5 +14,8 @@ std::string rightChars(std::string_view text, std::size_t n);
 // Two digits: the last two characters of "0" followed by the number, as the planner
 // shows hours and minutes; 123 gives "23", 7 gives "07".
 std::string twoDigits(long long number);
+// Where the last whole UTF-8 character of a non-empty text starts: a text cut there keeps
+// no half of a character.
+std::size_t lastCharacterStart(std::string_view text);
 
 }  // namespace qh

@@ -32,14 +32,6 @@ constexpr int kFillInsetLeft = 15, kFillInsetRight = 30;  // the coloured fill k
 // And in pixels from the row's top: the fill's top and bottom, the text's top.
 constexpr int kFillTopPixel = 1, kFillBottomPixel = 21, kTextTopPixel = 4;
 
-
-// The start of the last whole UTF-8 character of a non-empty text.
-std::size_t lastCharacterStart(const std::string& text) {
-    std::size_t pos = text.size() - 1;
-    while (pos > 0 && (static_cast<unsigned char>(text[pos]) & 0xC0) == 0x80) --pos;
-    return pos;
-}
-
 }  // namespace
 
 std::string GridHeaderKey(int index) { return "picColHeader(" + std::to_string(index) + ")"; }

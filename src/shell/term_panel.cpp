@@ -1,6 +1,7 @@
 // The term panel (which term is active and how many days are left of it) and the status bar.
 #include <algorithm>
 
+#include "common/text.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "shell/main_window.h"
@@ -46,6 +47,19 @@ void MainWindow::SelectTerm(std::string termName) {
     Refresh(RefreshReason::NewTerm);
 }
 
+namespace {
+
+// A status longer than its room ends in "..." instead of running under the date; the bar's
+// accessible name keeps the whole of it.
+std::string FitText(const Canvas& bar, const std::string& text, int room) {
+    if (bar.textWidth(text) <= room) return text;
+    std::string shown = text;
+    while (!shown.empty() && bar.textWidth(shown + "...") > room) shown.erase(lastCharacterStart(shown));
+    return shown + "...";
+}
+
+}  // namespace
+
 void MainWindow::PaintStatusBar() {
     Canvas& bar = *ui.picStatusBar->canvas;
     bar.clear(kButtonFace);
@@ -66,10 +80,11 @@ void MainWindow::PaintStatusBar() {
     // The line sits in the middle of the frame, so its descenders stay inside it whatever
     // height the desktop's font gives the line.
     const int top = t + std::max(15, (b - t - bar.textHeight()) / 2);
-    bar.printText(150, top, text);
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
-    bar.printText(w - bar.textWidth(right) - 150, top, right);
+    const int textLeft = 150, dateLeft = w - bar.textWidth(right) - 150, gap = 300;
+    bar.printText(textLeft, top, FitText(bar, text, dateLeft - gap - textLeft));
+    bar.printText(dateLeft, top, right);
     ui.picStatusBar->accessibleName = text + ", " + right;
 }
 

@@ -2,9 +2,10 @@
 
 #include <filesystem>
 
-#include "shell/main_window.h"
+#include "platform/fake/recording_canvas.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
+#include "shell/main_window.h"
 #include "shell/planner_run.h"
 #include "support/main_window_fixture.h"
 
@@ -87,6 +88,20 @@ TEST(MainWindowLoad, AReadOnlyDriveLoadsEveryRecordSaysSoAndWritesNothing) {
     EXPECT_EQ(main.store.AssignmentDescriptions, (TextColumn{"Lab report"}));
     EXPECT_EQ(window.caption, std::string("Quillhollow Homework System - ") + kReadOnlyText);
     EXPECT_TRUE(window.ui.picStatusBar->accessibleName.starts_with(kReadOnlyText));
+    // With a long status behind it, the bar's line ends in "..." before the date instead of
+    // running under it; a screen reader still hears all of it.
+    const std::string status = "School: refused: " + std::string(150, 'x') + " the end";
+    window.state.StatusBarText = status;
+    window.PaintStatusBar();
+    std::vector<CanvasCall> lines;
+    for (const CanvasCall& call : static_cast<const RecordingCanvas&>(*window.ui.picStatusBar->canvas).calls())
+        if (call.kind == CanvasCall::Text) lines.push_back(call);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_TRUE(lines[0].text.starts_with(std::string(kReadOnlyText) + "      School: refused: xxx")) << lines[0].text;
+    EXPECT_TRUE(lines[0].text.ends_with("x...")) << lines[0].text;
+    EXPECT_LE(lines[0].x2, lines[1].x1 - 300);  // a gap before the date
+    EXPECT_GT(lines[0].x2, lines[1].x1 - 500);  // and not much more
+    EXPECT_TRUE(window.ui.picStatusBar->accessibleName.ends_with(status + ", " + lines[1].text));
 
     // A save is refused with the same words before anything is written.
     main.store.AssignmentsChanged = kTrue;  // as a save earlier in the run would leave it
