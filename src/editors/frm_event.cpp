@@ -123,6 +123,9 @@ void FrmEvent::showRecord() {
         fillForNew();
     else
         fillForEdit();
+    // The student comes to name the event: the description takes the keys at once, as in
+    // the task editor, rather than the date's "..." button that stands first.
+    SetFocus(TextBoxEvent.key());
     picker_->reset();
 }
 
