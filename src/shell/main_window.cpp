@@ -83,7 +83,8 @@ void MainWindow::bindHandlers() {
         {Mode::Events, &ui.MenuEvents, &ui.PictureBarEvents},
         {Mode::Reminders, &ui.MenuReminders, &ui.PictureBarReminders}};
     for (const auto& [mode, menu, bar] : switches) {
-        auto action = [this, mode] {
+        // Copied by name: a structured binding cannot be captured by every compiler yet.
+        auto action = [this, mode = mode] {
             if (CurrentMode() != mode) applyModeTable(mode);
         };
         onClick(menu->key(), action);
@@ -110,9 +111,9 @@ void MainWindow::bindHandlers() {
         {&ui.picCalDayDown, &kDayBackArrow}};
     for (const auto& [button, arrow] : arrows) {
         on(button->key(), FormEvent::MouseDown,
-           [this, button, arrow](const EventArgs&) { calendarButtonPressed(**button, *arrow); });
+           [this, button = button, arrow = arrow](const EventArgs&) { calendarButtonPressed(**button, *arrow); });
         on(button->key(), FormEvent::MouseUp,
-           [this, button, arrow](const EventArgs&) { calendarButtonReleased(**button, *arrow); });
+           [this, button = button, arrow = arrow](const EventArgs&) { calendarButtonReleased(**button, *arrow); });
     }
     on(ui.TimerButton.key(), FormEvent::Timer, [this](const EventArgs&) { repeatCalendarArrow(); });
     onClick(ui.MenuStartMon.key(), [this] { changeStartDay("Monday"); });

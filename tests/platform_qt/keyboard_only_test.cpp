@@ -143,7 +143,7 @@ TEST(KeyboardOnly, AnAssignmentATaskAnEventAndATermWithTwoClassesAreMadeWithKeys
         RenderedPlanner run;
         std::vector<std::string> shown;
         for (const auto& [name, keys] : flow.windows)
-            run.onScreen(name, [&shown, name, keys](FormWindow&) {
+            run.onScreen(name, [&shown, name = name, keys = keys](FormWindow&) {
                 shown.push_back(name);
                 EXPECT_EQ(unseenFocus(), "");
                 play(keys);
