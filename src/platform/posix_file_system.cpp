@@ -70,9 +70,11 @@ void writeAll(int fd, const char* data, std::size_t size, const std::string& pat
     }
 }
 
-// Reads from the descriptor until its end or until `limit` bytes are in.
-std::string readUpTo(int fd, std::size_t limit, const std::string& path) {
+// Reads from the descriptor until its end or until `limit` bytes are in; room for
+// `expected` bytes is made first, so a large file is not copied as its string grows.
+std::string readUpTo(int fd, std::size_t limit, const std::string& path, std::size_t expected = 0) {
     std::string bytes;
+    bytes.reserve(std::min(limit, expected));
     char buffer[65536];
     while (bytes.size() < limit) {
         const ssize_t n = ::read(fd, buffer, std::min(sizeof buffer, limit - bytes.size()));
@@ -182,7 +184,9 @@ std::unique_ptr<RecordFile> PosixFileSystem::openRecords(const std::string& path
 std::string PosixFileSystem::readAll(const std::string& path) {
     Descriptor fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (fd.get() < 0) fail("Cannot open", path);
-    return readUpTo(fd.get(), std::string::npos, path);
+    struct stat info {};
+    const bool sized = ::fstat(fd.get(), &info) == 0 && S_ISREG(info.st_mode);
+    return readUpTo(fd.get(), std::string::npos, path, sized ? std::size_t(info.st_size) : 0);
 }
 
 std::string PosixFileSystem::readHead(const std::string& path, std::size_t maxBytes) {
@@ -192,7 +196,7 @@ std::string PosixFileSystem::readHead(const std::string& path, std::size_t maxBy
     struct stat info {};
     if (::fstat(fd.get(), &info) != 0) fail("Cannot stat", path);
     if (!S_ISREG(info.st_mode)) throw FileFailure("Not a plain file: " + path);
-    return readUpTo(fd.get(), maxBytes, path);
+    return readUpTo(fd.get(), maxBytes, path, std::size_t(info.st_size));
 }
 
 void PosixFileSystem::writeWhole(const std::string& path, const std::string& bytes) {

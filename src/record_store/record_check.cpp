@@ -127,10 +127,11 @@ bool startsRecord(const RecordLayout& layout, std::string_view record) {
     return writtenNumber(record.substr(std::size_t(first.width), std::size_t(second.width))).has_value();
 }
 
-void setRecordNo(std::string& record, int number, int width) {
+// Writes a record's place as its RecordNo, over the field at `at`.
+void setRecordNo(std::string& records, std::size_t at, int number, int width) {
     std::string text = std::to_string(number);
     text.resize(std::size_t(width), ' ');
-    record.replace(0, std::size_t(width), text);
+    records.replace(at, std::size_t(width), text);
 }
 
 }  // namespace
@@ -150,27 +151,37 @@ bool RecordReadable(const RecordLayout& layout, std::string_view record) {
     return true;
 }
 
-CheckedRecords CheckRecords(const RecordLayout& layout, std::string_view bytes, std::int64_t fileSize) {
+CheckedRecords CheckRecords(const RecordLayout& layout, std::string bytes, std::int64_t fileSize) {
     CheckedRecords out;
     const std::size_t length = std::size_t(layout.length);
     const int numberWidth = layout.fields.front().width;
     const bool hasRecordNo = numbered(layout);
     int lastNumber = 0;
     std::size_t offset = 0;
+    // While every record stands in its place the records are the file's own head and are
+    // kept without a copy; the first record found elsewhere or renumbered starts one.
+    bool copying = false;
+    const auto startCopy = [&] {
+        if (copying) return;
+        out.records.reserve(bytes.size());
+        out.records.assign(bytes, 0, std::size_t(out.count()) * length);
+        copying = true;
+    };
     while (offset + length <= bytes.size() && out.count() < kMostRecords) {
-        const std::string_view here = bytes.substr(offset, length);
+        const std::string_view here = std::string_view(bytes).substr(offset, length);
         // A record numbered by its own place is in place, whatever its other fields hold.
         const std::optional<int> lead = writtenNumber(here.substr(0, std::size_t(numberWidth)));
         const bool inPlace = hasRecordNo && offset == std::size_t(out.count()) * length && lead == out.count() + 1;
         if (!inPlace && !startsRecord(layout, here)) {
             // Stray bytes: the records go on at the first place that reads as the start of
             // one (numbered past the last one found, where records are numbered).
+            startCopy();
             out.rewrite = true;
             std::size_t next = offset + 1;
             // The record must read whole: numbers where numbers belong and dates where
             // dates do, so that a record shifted by a field is not taken for one.
             for (; next + length <= bytes.size(); ++next) {
-                const std::string_view candidate = bytes.substr(next, length);
+                const std::string_view candidate = std::string_view(bytes).substr(next, length);
                 if (!startsRecord(layout, candidate)) continue;
                 if (hasRecordNo && *writtenNumber(candidate.substr(0, std::size_t(numberWidth))) <= lastNumber)
                     continue;
@@ -180,19 +191,24 @@ CheckedRecords CheckRecords(const RecordLayout& layout, std::string_view bytes, 
             offset = next;
             continue;
         }
-        std::string record(here);
-        if (hasRecordNo) {
-            const int number = *writtenNumber(here.substr(0, std::size_t(numberWidth)));
-            const int place = out.count() + 1;
-            if (number != place) {
-                out.rewrite = true;
-                setRecordNo(record, place, numberWidth);
-            }
-            lastNumber = number;
+        const int place = out.count() + 1;
+        const int number = hasRecordNo ? *writtenNumber(here.substr(0, std::size_t(numberWidth))) : place;
+        if (number != place) {
+            startCopy();
+            out.rewrite = true;
         }
-        out.readable.push_back(RecordReadable(layout, record));
-        out.records += record;
+        // Its number is a number either way, so the record reads as it will be kept.
+        out.readable.push_back(RecordReadable(layout, here));
+        if (copying) {
+            out.records.append(here);
+            if (number != place) setRecordNo(out.records, out.records.size() - length, place, numberWidth);
+        }
+        lastNumber = number;
         offset += length;
+    }
+    if (!copying) {
+        bytes.resize(std::size_t(out.count()) * length);
+        out.records = std::move(bytes);
     }
     // What is left over is a part record, stray bytes or records past the most a file holds.
     if (std::int64_t(offset) != fileSize) out.rewrite = true;

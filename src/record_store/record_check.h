@@ -42,8 +42,9 @@ struct CheckedRecords {
 };
 
 // Checks the bytes of a file (`bytes` is its head: all of it, or at least enough for
-// kMostRecords + 1 records; `fileSize` its whole length).
-CheckedRecords CheckRecords(const RecordLayout& layout, std::string_view bytes, std::int64_t fileSize);
+// kMostRecords + 1 records; `fileSize` its whole length). A file whose records all stand
+// in their places hands its bytes on as `records` without a copy.
+CheckedRecords CheckRecords(const RecordLayout& layout, std::string bytes, std::int64_t fileSize);
 
 // Whether every field of one record that the planner reads converts: dates are dates of
 // the calendar's years where the record says it has one, colours are named colours,
