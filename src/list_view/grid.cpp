@@ -111,9 +111,7 @@ int RowReleasedAt(const GridRows& rows, int y) {
 }
 
 std::string ClipToCell(const Canvas& canvas, const std::string& value, int cellWidth) {
-    std::string text = " " + value;
-    while (!text.empty() && canvas.textWidth(text) > cellWidth - kClippedTextRoom) text.erase(lastCharacterStart(text));
-    return text;
+    return FitToWidth(canvas, " " + value, cellWidth - kClippedTextRoom);
 }
 
 bool PaintNumberCell(Canvas& canvas, const GridFrame& frame, int v, int p) {

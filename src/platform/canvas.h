@@ -4,6 +4,7 @@
 // What is drawn stays until the next clear.
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "common/color.h"
 
@@ -53,5 +54,10 @@ public:
     virtual ~CanvasFactory() = default;
     virtual std::shared_ptr<Canvas> create() = 0;
 };
+
+// The text as it fits in `width` on the canvas: whole when it fits, else cut at a whole
+// character and ended by `ending` ("..." for a line that says it goes on, nothing for a
+// cell that simply clips).
+std::string FitToWidth(const Canvas& canvas, std::string text, int width, std::string_view ending = "");
 
 }  // namespace qh

@@ -1,7 +1,6 @@
 // The term panel (which term is active and how many days are left of it) and the status bar.
 #include <algorithm>
 
-#include "common/text.h"
 #include "record_store/record_files.h"
 #include "record_store/storage_locations.h"
 #include "shell/main_window.h"
@@ -47,19 +46,6 @@ void MainWindow::SelectTerm(std::string termName) {
     Refresh(RefreshReason::NewTerm);
 }
 
-namespace {
-
-// A status longer than its room ends in "..." instead of running under the date; the bar's
-// accessible name keeps the whole of it.
-std::string FitText(const Canvas& bar, const std::string& text, int room) {
-    if (bar.textWidth(text) <= room) return text;
-    std::string shown = text;
-    while (!shown.empty() && bar.textWidth(shown + "...") > room) shown.erase(lastCharacterStart(shown));
-    return shown + "...";
-}
-
-}  // namespace
-
 void MainWindow::PaintStatusBar() {
     Canvas& bar = *ui.picStatusBar->canvas;
     bar.clear(kButtonFace);
@@ -83,7 +69,9 @@ void MainWindow::PaintStatusBar() {
     const Moment now = platform.clock.now();
     const std::string right = platform.locale.longDate(now.date) + "      " + platform.locale.mediumTime(now.seconds);
     const int textLeft = 150, dateLeft = w - bar.textWidth(right) - 150, gap = 300;
-    bar.printText(textLeft, top, FitText(bar, text, dateLeft - gap - textLeft));
+    // A status longer than its room ends in "..." instead of running under the date; the
+    // bar's accessible name keeps the whole of it.
+    bar.printText(textLeft, top, FitToWidth(bar, text, dateLeft - gap - textLeft, "..."));
     bar.printText(dateLeft, top, right);
     ui.picStatusBar->accessibleName = text + ", " + right;
 }
