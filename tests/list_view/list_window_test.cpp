@@ -1,12 +1,12 @@
 // Each list in the window: the rows it paints in their colours, the records a click on them
-// opens, the title over the list and the summary boxes beside it; scrolling; the calendar.
+// opens, the title over the list and the summary boxes beside it; scrolling. The calendar's
+// tint for each list is in the probe script calendar_tint_of_each_list.
 #include <gtest/gtest.h>
 
 #include <functional>
 
 #include "list_view/list_fixture.h"
 #include "recurrence/event_records.h"
-#include "shell/month_navigator.h"
 #include "support/main_window_fixture.h"
 
 namespace qh {
@@ -231,42 +231,6 @@ TEST(Lists, AScrollStepGathersAnewAndAClickMarksTheListPositionOfItsRow) {
     EXPECT_EQ(list.window.ui.VSGridScroll->value, 1);
     EXPECT_EQ(list.cell(1, 0), "1");
     EXPECT_EQ(list.cell(1, 3), " Changed");
-}
-
-TEST(Lists, TheCalendarMarksTheDaysOfTheListShownInItsTint) {
-    LoadedMainWindow main;
-    MainWindow& window = main.load();
-    RecordStore& s = main.store;
-    addClass(s, 1, "Biology");
-    addEvent(s, {.date = "2026/11/02", .recurrence = "Day", .repeatDaily = "TFTFFFF", .type = "Class"});
-    addEvent(s, {.date = "2026/11/24", .type = "Holiday", .reminder = "7 Days"});
-    addTask(s, {.date = "2026/11/23", .reminder = "3 Days"});
-    addAssignment(s, {.date = "2026/11/27", .reminder = "7 Days"});
-    addAssignment(s, {.date = "2026/11/30", .reminder = "1 Day"});  // not yet
-    const Date first = FirstCellDate(2026, 11, window.state.StartDayOfWeek);
-    const struct {
-        const ControlRef* menu;
-        const char* list;
-        std::string MainWindowColors::*tint;
-        std::vector<int> days;  // marked days from November 21 on
-    } views[] = {{&window.ui.MenuEvents, "All", &MainWindowColors::TintBlue, {23, 24, 25, 30}},
-                 {&window.ui.MenuEvents, "Classes", &MainWindowColors::TintTan, {23, 25, 30}},
-                 {&window.ui.MenuEvents, "Other Events", &MainWindowColors::TintGreen, {24}},
-                 {&window.ui.MenuReminders, "All", &MainWindowColors::TintBlue, {23, 24, 27}},
-                 {&window.ui.MenuReminders, "Homework", &MainWindowColors::TintPink, {27}}};
-    for (const auto& v : views) {
-        SCOPED_TRACE(v.menu->key() + " " + v.list);
-        window.click(v.menu->key());
-        window.select(window.ui.ComboList.key(), v.list);
-        std::vector<int> days;
-        for (int d = 21; d <= 30; ++d) {
-            const std::size_t cell = std::size_t(dateFromYmd(2026, 11, d) - first);
-            if (!window.state.CellMarked[cell]) continue;
-            days.push_back(d);
-            EXPECT_EQ(window.state.CellBackColors[cell], window.state.Colors.*v.tint);
-        }
-        EXPECT_EQ(days, v.days);
-    }
 }
 
 }  // namespace
