@@ -23,13 +23,15 @@ std::vector<std::string> pidFiles(const std::string& folder) {
     return names;
 }
 
-TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
+// The pages each entry opens, and the About window, are the help_menu_opens_the_help_book
+// probe script. The host folder's marks, a desktop that cannot open them and the version
+// the build was made with are told here.
+TEST(HelpMenu, HelpLeavesThePidFileOfTheProcessItStarted) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
     ASSERT_EQ(pidFiles(main.fake.host), std::vector<std::string>{"4242.PID"});  // the planner's own
     window.click(window.ui.MenuHelpDB.key());
     ASSERT_EQ(main.fake.processes.started.size(), 1u);
-    EXPECT_EQ(main.fake.processes.started[0], "xdg-open \"" + main.fake.exec + "/help/index.html\"");
     EXPECT_EQ(pidFiles(main.fake.host), (std::vector<std::string>{"4242.PID", "5001.PID"}));
     EXPECT_TRUE(fs::is_empty(main.fake.host + "/5001.PID"));
     // A host folder that takes no mark leaves the page open and the planner running.
@@ -40,7 +42,7 @@ TEST(HelpMenu, HelpOpensTheBooksIndexAndLeavesThePidFileOfTheProcessItStarted) {
 }
 
 // Help, the web entries, the tutorials (the menu's and the tip's line) and About's link lead
-// to their pages of the book; when the desktop can't follow, the student reads what could not be opened,
+// to pages the book holds; when the desktop can't follow, the student reads what could not be opened,
 // nothing is left behind for a process that never started, and the planner goes on.
 TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
     const struct {
@@ -78,20 +80,10 @@ TEST(HelpMenu, WhatTheDesktopCannotOpenIsToldByNameAndThePlannerGoesOn) {
         EXPECT_NO_THROW(c.act(window, main.fake));
         ASSERT_EQ(main.fake.messages.shown.size(), 1u);
         const ShownMessage& shown = main.fake.messages.shown[0];
-        const bool started = c.name == std::string("help book");  // the others go to the default handler
-        const std::string target = (started ? "" : "file://") + main.fake.exec + c.target;
         EXPECT_TRUE(shown.text.starts_with("Could not open \"" + main.fake.exec + c.target + "\"")) << shown.text;
         EXPECT_EQ(shown.title, "Quillhollow");
         EXPECT_EQ(shown.icon, MessageIcon::Exclamation);
         EXPECT_EQ(pidFiles(main.fake.host), std::vector<std::string>{"4242.PID"});
-        // Once the desktop can, the same entry opens it.
-        main.fake.processes.startFails = main.fake.processes.openFails = false;
-        c.act(window, main.fake);
-        EXPECT_EQ(main.fake.messages.shown.size(), 1u);
-        const auto& tried = started ? main.fake.processes.started : main.fake.processes.opened;
-        ASSERT_EQ(tried.size(), 2u);
-        EXPECT_NE(tried[1].find(target), std::string::npos) << tried[1];
-        EXPECT_EQ(pidFiles(main.fake.host).size(), started ? 2u : 1u);
         EXPECT_TRUE(fs::exists(std::string(QH_SOURCE_DIR) + c.target));  // the book holds the page
     }
 }
@@ -108,26 +100,17 @@ std::string projectVersion() {
     return match[1];
 }
 
-TEST(HelpMenu, AboutNamesTheProgramAndTheVersionTheBuildWasMadeWith) {
+// The script's About shows the version of today's build; this follows CMakeLists.txt.
+TEST(HelpMenu, AboutNamesTheVersionTheBuildWasMadeWith) {
     LoadedMainWindow main;
     MainWindow& window = main.load();
-    std::vector<std::string> seen;
-    main.fake.windowing.modalUsers["frmAbout"].push_back([&seen](Form& about) {
-        seen = {about.caption, about.c("lblTitle").caption, about.c("lblVersion").caption,
-                about.c("lblDescription").caption};
+    std::string version;
+    main.fake.windowing.modalUsers["frmAbout"].push_back([&version](Form& about) {
+        version = about.c("lblVersion").caption;
         about.click("cmdOK");
-        seen.push_back(about.visible ? "still shown" : "hidden");
     });
     window.click(window.ui.MenuAbout.key());
-    const std::string site = "file://" + main.fake.exec + "/help/support.html";
-    EXPECT_EQ(seen, (std::vector<std::string>{
-                        "About Quillhollow", "Quillhollow for u3", "Version " + projectVersion(),
-                        "Quillhollow is the essential homework management tool. It combines the best features of a "
-                        "student planner and homework organizer  into one, easy to use program.\n\nFor questions, "
-                        "orders and upgrades, visit the website at " +
-                            site,
-                        "hidden"}));
-    EXPECT_EQ(main.fake.windowing.log.back(), "modal frmAbout");
+    EXPECT_EQ(version, "Version " + projectVersion());
 }
 
 }  // namespace
