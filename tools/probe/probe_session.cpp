@@ -72,7 +72,46 @@ struct ScriptStop {
     bool failed;
 };
 
+std::string fileName(const std::string& path) { return path.substr(path.find_last_of('/') + 1); }
+
+// A record file whose writes are noted as they happen.
+class NotedRecordFile : public RecordFile {
+public:
+    NotedRecordFile(std::unique_ptr<RecordFile> real, std::string name, std::vector<std::string>& writes)
+        : real_(std::move(real)), name_(std::move(name)), writes_(writes) {}
+    bool read(std::int32_t n, std::string& bytes) override { return real_->read(n, bytes); }
+    void write(std::int32_t n, const std::string& bytes) override {
+        writes_.push_back("write " + name_ + " record " + std::to_string(n));
+        real_->write(n, bytes);
+    }
+    std::int32_t recordCount() override { return real_->recordCount(); }
+
+private:
+    std::unique_ptr<RecordFile> real_;
+    std::string name_;
+    std::vector<std::string>& writes_;
+};
+
 }  // namespace
+
+std::unique_ptr<RecordFile> WriteNotingFileSystem::openRecords(const std::string& path, int recordLength) {
+    return std::make_unique<NotedRecordFile>(PosixFileSystem::openRecords(path, recordLength), fileName(path), writes);
+}
+
+void WriteNotingFileSystem::writeWhole(const std::string& path, const std::string& bytes) {
+    writes.push_back("write " + fileName(path) + " whole");
+    PosixFileSystem::writeWhole(path, bytes);
+}
+
+void WriteNotingFileSystem::writeWholeUnsynced(const std::string& path, const std::string& bytes) {
+    writes.push_back("write " + fileName(path) + " whole");
+    PosixFileSystem::writeWholeUnsynced(path, bytes);
+}
+
+void WriteNotingFileSystem::writeWholePrivate(const std::string& path, const std::string& bytes) {
+    writes.push_back("write " + fileName(path) + " whole");
+    PosixFileSystem::writeWholePrivate(path, bytes);
+}
 
 ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out,
                            FeedFetcher& feeds)
@@ -198,6 +237,12 @@ bool ProbeSession::action(const std::string& line) {
     if (verb == "print") {
         PrintWindowState(w, out_);
         for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
+        return true;
+    }
+    if (verb == "writes") {
+        for (const std::string& write : files_.writes) out_ << write << "\n";
+        if (files_.writes.empty()) out_ << "No writes\n";
+        files_.writes.clear();
         return true;
     }
     if (verb == "wait" && !windowing_.modalStack.empty()) {

@@ -3,17 +3,31 @@
 // comes from the script, message boxes and dialogs are answered from it, and what the
 // window shows is printed on request.
 #include <istream>
-#include <sstream>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <string>
+#include <vector>
 
+#include "platform/fake/fake_platform.h"
 #include "platform/posix_file_system.h"
 #include "record_store/columns.h"
 #include "shell/main_window.h"
-#include "platform/fake/fake_platform.h"
 
 namespace qh {
+
+// The real file layer, unsynced, noting each write ("write Notes.txt record 1", "write
+// Preferences.ini whole") so that a script can show the order in which records are written.
+class WriteNotingFileSystem : public PosixFileSystem {
+public:
+    WriteNotingFileSystem() : PosixFileSystem(Durability::Unsynced) {}
+    std::unique_ptr<RecordFile> openRecords(const std::string& path, int recordLength) override;
+    void writeWhole(const std::string& path, const std::string& bytes) override;
+    void writeWholeUnsynced(const std::string& path, const std::string& bytes) override;
+    void writeWholePrivate(const std::string& path, const std::string& bytes) override;
+
+    std::vector<std::string> writes;  // since the last `writes` action
+};
 
 class ProbeSession {
 public:
@@ -52,7 +66,7 @@ private:
     FakeClock clock_;
     FakeLocale locale_;
     FakeMessageBoxes messages_;
-    PosixFileSystem files_{PosixFileSystem::Durability::Unsynced};
+    WriteNotingFileSystem files_;
     FakeProcesses processes_;
     FakeDialogs dialogs_;
     FakeWindowing windowing_;
