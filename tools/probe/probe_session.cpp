@@ -239,6 +239,20 @@ bool ProbeSession::action(const std::string& line) {
         for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
         return true;
     }
+    if (verb == "focus") {
+        out_ << "Focus: " << frontWindow().name() << " " << frontWindow().focusedControl << "\n";
+        return true;
+    }
+    if (verb == "items") {
+        Form& form = frontWindow();
+        const std::string name = restOf(words);
+        if (!form.has(name) ||
+            (form.c(name).kind != ControlKind::ComboBox && form.c(name).kind != ControlKind::ListBox))
+            return false;
+        out_ << "Items " << name << "\n";
+        for (const std::string& item : form.c(name).items) out_ << "  " << quotedText(item) << "\n";
+        return true;
+    }
     if (verb == "writes") {
         for (const std::string& write : files_.writes) out_ << write << "\n";
         if (files_.writes.empty()) out_ << "No writes\n";
