@@ -243,6 +243,19 @@ bool ProbeSession::action(const std::string& line) {
         out_ << "Focus: " << frontWindow().name() << " " << frontWindow().focusedControl << "\n";
         return true;
     }
+    if (verb == "show") {
+        // The front window's print cut down to the controls named.
+        Form& form = frontWindow();
+        std::vector<std::string> names;
+        for (std::string name; words >> name;) {
+            if (!form.has(name)) return false;
+            names.push_back(name);
+        }
+        out_ << "Window " << form.name() << " " << quotedText(form.caption) << " " << form.width << " x " << form.height
+             << "\n";
+        for (const std::string& name : names) PrintControlLine(form.c(name), out_);
+        return true;
+    }
     if (verb == "items") {
         Form& form = frontWindow();
         const std::string name = restOf(words);

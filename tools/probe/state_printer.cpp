@@ -166,21 +166,21 @@ void PrintFormControls(const Form& window, std::ostream& out) {
     std::sort(controls.begin(), controls.end(), [](const Control* a, const Control* b) {
         return a->name != b->name ? a->name < b->name : a->index < b->index;
     });
-    for (const Control* control : controls) {
-        const bool textual = control->kind == ControlKind::TextBox || control->kind == ControlKind::ComboBox ||
-                             control->kind == ControlKind::ListBox;
-        out << "  " << control->key() << " " << quotedText(textual ? control->text : control->caption);
-        if (control->checked) out << " checked";
-        if (!control->enabled) out << " disabled";
-        if (!control->visible) out << " hidden";
-        if (control->kind == ControlKind::ComboBox || control->kind == ControlKind::ListBox)
-            out << " entries=" << control->items.size();
-        const bool plain =
-            control->foreColor == kBlack && (control->backColor == kWhite || control->backColor == kButtonFace);
-        if (!plain)
-            out << " fore=" << colorWord(control->foreColor) << " back=" << colorWord(control->backColor);
-        out << "\n";
-    }
+    for (const Control* control : controls) PrintControlLine(*control, out);
+}
+
+void PrintControlLine(const Control& control, std::ostream& out) {
+    const bool textual = control.kind == ControlKind::TextBox || control.kind == ControlKind::ComboBox ||
+                         control.kind == ControlKind::ListBox;
+    out << "  " << control.key() << " " << quotedText(textual ? control.text : control.caption);
+    if (control.checked) out << " checked";
+    if (!control.enabled) out << " disabled";
+    if (!control.visible) out << " hidden";
+    if (control.kind == ControlKind::ComboBox || control.kind == ControlKind::ListBox)
+        out << " entries=" << control.items.size();
+    const bool plain = control.foreColor == kBlack && (control.backColor == kWhite || control.backColor == kButtonFace);
+    if (!plain) out << " fore=" << colorWord(control.foreColor) << " back=" << colorWord(control.backColor);
+    out << "\n";
 }
 
 }  // namespace qh
