@@ -14,16 +14,21 @@ namespace {
 
 struct Events : test::RecordEditor<FrmEvent> {
     explicit Events(const std::string& file = "")
-        : RecordEditor("Events.txt", "frmEvent",
-                       [](MainWindow& w, int row) { row == 0 ? w.NewEvent() : w.EditEvent(row); }, file) {}
+        : RecordEditor(
+              "Events.txt", "frmEvent", [](MainWindow& w, int row) { row == 0 ? w.NewEvent() : w.EditEvent(row); },
+              file) {}
 };
 
 // The frame of the chosen rule lies on top of the others, since they share one place in
 // the window: as a radio chooses it, as a stored monthly event opens, and the date
 // picker over the frame just brought to the front.
 TEST(EventEditor, TheChosenRulesFrameLiesInFront) {
-    Events events(eventRecord({.date = "2026/10/30", .description = "Chess club", .recurrence = "Month",
-                               .sameDate = "False", .repeatNumber = "Last", .repeatDay = "Friday"}));
+    Events events(eventRecord({.date = "2026/10/30",
+                               .description = "Chess club",
+                               .recurrence = "Month",
+                               .sameDate = "False",
+                               .repeatNumber = "Last",
+                               .repeatDay = "Friday"}));
     events.run(0, [](FrmEvent& w) {
         w.click("LabelViewRecurring");
         w.click("RadioRepeatMonthly");
