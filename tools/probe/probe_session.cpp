@@ -251,8 +251,7 @@ bool ProbeSession::action(const std::string& line) {
             if (!form.has(name)) return false;
             names.push_back(name);
         }
-        out_ << "Window " << form.name() << " " << quotedText(form.caption) << " " << form.width << " x " << form.height
-             << "\n";
+        PrintWindowHeader(form, out_);
         for (const std::string& name : names) PrintControlLine(form.c(name), out_);
         return true;
     }

@@ -155,9 +155,13 @@ std::string colorWord(Color color) {
 
 }  // namespace
 
-void PrintFormControls(const Form& window, std::ostream& out) {
+void PrintWindowHeader(const Form& window, std::ostream& out) {
     out << "Window " << window.name() << " " << quotedText(window.caption) << " " << window.width << " x "
         << window.height << "\n";
+}
+
+void PrintFormControls(const Form& window, std::ostream& out) {
+    PrintWindowHeader(window, out);
     std::vector<const Control*> controls;
     for (const std::string& key : window.order()) {
         const Control& control = window.c(key);

@@ -14,6 +14,8 @@ void PrintWindowState(const MainWindow& window, std::ostream& out);
 // that apply and, unless it is black on white or on the window's face colour, `fore=` and `back=` with the
 // colour's name in the vocabulary, else #RRGGBB.
 void PrintFormControls(const Form& window, std::ostream& out);
+// The first line of PrintFormControls: the window's name, caption and size.
+void PrintWindowHeader(const Form& window, std::ostream& out);
 // One control's line of PrintFormControls.
 void PrintControlLine(const Control& control, std::ostream& out);
 
