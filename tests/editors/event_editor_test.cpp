@@ -3,20 +3,29 @@
 // recurrence frame lies in front, and where the controls of both editor windows lie.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "editors/editor_windows.h"
 #include "editors/frm_event.h"
 #include "editors/frm_task.h"
-#include "editors/record_editor.h"
+#include "support/main_window_fixture.h"
 #include "support/record_fields.h"
 
 namespace qh {
 namespace {
 
-struct Events : test::RecordEditor<FrmEvent> {
-    explicit Events(const std::string& file = "")
-        : RecordEditor(
-              "Events.txt", "frmEvent", [](MainWindow& w, int row) { row == 0 ? w.NewEvent() : w.EditEvent(row); },
-              file) {}
+// The main window on 21 November 2026 with `file` as its events.
+struct Events : LoadedMainWindow {
+    explicit Events(const std::string& file = "") {
+        if (!file.empty()) putDataFile("Events.txt", file);
+        fake.clock.set(2026, 11, 21);
+        load();
+    }
+    // Opens the event of list row `row`, 0 for a new one, and drives the editor with `step`.
+    void run(int row, const std::function<void(FrmEvent&)>& step) {
+        drive<FrmEvent>("frmEvent", step);
+        row == 0 ? window->NewEvent() : window->EditEvent(row);
+    }
 };
 
 // The frame of the chosen rule lies on top of the others, since they share one place in
