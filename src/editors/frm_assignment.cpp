@@ -199,6 +199,9 @@ void FrmAssignment::showRecord() {
         showEdit();
     setSessionDate(platform_.clock.today());
     ButtonShare->caption = "Share";
+    // Each showing starts at the class, the first thing a student picks, as the window on
+    // the screen does, not at the control that ended the last showing.
+    SetFocus(ComboClassNameList.key());
     picker_->reset();
 }
 
