@@ -47,7 +47,7 @@ TEST(ICalendarImport, AGoogleTimetableComesInAsWeeklyEventsAndNamesWhatCannotRep
     EXPECT_EQ(weekly->end, "True");
     EXPECT_EQ(weekly->endDate, dateFromYmd(2026, 12, 18));
 
-    EXPECT_EQ(lineOf(plan, "Robotics club").problem, "repeats only every 2th time");
+    EXPECT_EQ(lineOf(plan, "Robotics club").problem, "repeats only every 2 weeks");
     EXPECT_EQ(lineOf(plan, "Parents' evening").problem, "");
     EXPECT_EQ(PlannerRuleOf(plan.items[lineOf(plan, "Parents' evening").item])->repeatNumber, "First");
     EXPECT_EQ(plan.items[lineOf(plan, "Thanksgiving break").item].startMinutes, std::nullopt);

@@ -182,7 +182,13 @@ private:
             case ICAL_YEARLY_RECURRENCE: out.frequency = RepeatFrequency::Yearly; break;
             default: return "repeats more often than daily";
         }
-        if (rule.interval > 1) return "repeats only every " + std::to_string(rule.interval) + "th time";
+        if (rule.interval > 1) {
+            const char* unit = rule.freq == ICAL_DAILY_RECURRENCE    ? " days"
+                               : rule.freq == ICAL_WEEKLY_RECURRENCE ? " weeks"
+                               : rule.freq == ICAL_MONTHLY_RECURRENCE ? " months"
+                                                                      : " years";
+            return "repeats only every " + std::to_string(rule.interval) + unit;
+        }
         if (rule.by_second[0] != ICAL_RECURRENCE_ARRAY_MAX || rule.by_minute[0] != ICAL_RECURRENCE_ARRAY_MAX ||
             rule.by_hour[0] != ICAL_RECURRENCE_ARRAY_MAX)
             return "repeats at several times of a day";
