@@ -1,5 +1,6 @@
-// The templates installed beside the program: each keeps the rules its export relies on,
-// and a full month sheet prints on one landscape page.
+// A full month sheet from the template installed beside the program prints on one
+// landscape page. The templates' markers, row place and styles are in every page of the
+// probe script export_lists_and_month_sheets.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -8,9 +9,7 @@
 #include <regex>
 
 #include "export/calendar_export.h"
-#include "export/list_export.h"
-#include "export/page_text.h"
-#include "export_fixture.h"
+#include "list_view/list_fixture.h"
 #include "support/reference_files.h"
 
 namespace qh::testing {
@@ -21,43 +20,6 @@ const auto& run = test::CommandOutput;
 
 std::string shipped(const std::string& name) {
     return test::ReadBytes(std::string(QH_SOURCE_DIR) + "/templates/" + name);
-}
-
-int linesHolding(const std::string& text, std::string_view marker) {
-    int count = 0;
-    for (const std::string_view line : TemplateLines(text)) count += ContainsIgnoringCase(line, marker);
-    return count;
-}
-
-TEST(ShippedTemplates, ListTemplatesHaveOneNoteLineOneRowPlaceAndTheRowStyle) {
-    for (const Mode mode : {Mode::Homework, Mode::StudySessions, Mode::Tasks, Mode::Reminders, Mode::Events}) {
-        const ListExportForm& form = *ListExportFormOf(mode);
-        const std::string text = shipped(form.templateFile);
-        SCOPED_TRACE(form.templateFile);
-        ASSERT_FALSE(text.empty());
-        EXPECT_EQ(linesHolding(text, "~"), 1);
-        EXPECT_EQ(linesHolding(text, "INSERT"), 1);
-        // The row place is a comment, harmless where it stays.
-        EXPECT_TRUE(std::regex_search(text, std::regex("<!--[^\n]*INSERT[^\n]*-->", std::regex::icase)));
-        const std::string rowClass = std::regex_replace(std::string(form.otherCell), std::regex(".*class=(xl\\d+).*"), "$1");
-        EXPECT_NE(text.find("td." + rowClass), std::string::npos) << rowClass;
-        EXPECT_NE(text.find("@media print"), std::string::npos);
-    }
-}
-
-TEST(ShippedTemplates, CalendarTemplatesHaveAMarkerLinePerEntryAndTheSwappedClasses) {
-    for (const CalendarSheet sheet : {CalendarSheet::Homework, CalendarSheet::Tasks}) {
-        const std::string text = shipped(CalendarSheetFormOf(sheet).templateFile);
-        SCOPED_TRACE(CalendarSheetFormOf(sheet).templateFile);
-        EXPECT_EQ(linesHolding(text, "~"), kCalendarMarkers);
-        EXPECT_EQ(linesHolding(text, "INSERT"), 0);
-        std::vector<std::string> classes = {"xredbg", "xblackbg", "xwhite1", "xgray1", "xwhite2", "xgray2",
-                                            "xwhite3", "xgray3"};
-        if (sheet == CalendarSheet::Homework)
-            classes.insert(classes.end(), {"xgreenbg", "xwhitebg", "xwhite4", "xgray4"});
-        for (const std::string& name : classes) EXPECT_NE(text.find("." + name), std::string::npos) << name;
-        EXPECT_NE(text.find("size: landscape"), std::string::npos);
-    }
 }
 
 // A month in which every day is as full as a sheet allows, with long texts.
