@@ -113,12 +113,9 @@ void WriteNotingFileSystem::writeWholePrivate(const std::string& path, const std
     PosixFileSystem::writeWholePrivate(path, bytes);
 }
 
-ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out,
-                           FeedFetcher& feeds)
-    : out_(out),
-      platform_{environment_, clock_,     locale_,    messages_, files_,
-                processes_,   dialogs_,   windowing_, canvases_, calendars_,
-                notifications_, feeds} {
+ProbeSession::ProbeSession(const std::string& drive, const std::string& host, std::ostream& out, FeedFetcher& feeds)
+    : out_(out), feeds_(feeds), platform_{environment_, clock_,     locale_,   messages_,  files_,         processes_,
+                                          dialogs_,     windowing_, canvases_, calendars_, notifications_, feeds_} {
     environment_.values = {{"U3_DEVICE_PATH", drive},
                            {"U3_DEVICE_EXEC_PATH", drive + "/exec"},
                            {"U3_DEVICE_DOCUMENT_PATH", drive + "/Documents"},
@@ -226,6 +223,25 @@ bool ProbeSession::action(const std::string& line) {
             if (printer.copies < 1) return false;
         }
         dialogs_.printerAnswers.push_back(printer);
+        return true;
+    }
+    if (verb == "feed") {
+        // The answer to the later reads of a calendar feed's address.
+        std::string address, what;
+        words >> address >> what;
+        FeedAnswer answer;
+        if (what == "unchanged") {
+            answer.outcome = FeedAnswer::Outcome::Unchanged;
+        } else if (what == "unreachable" || what == "refused") {
+            if (what == "refused") answer.outcome = FeedAnswer::Outcome::Refused;
+            answer.why = restOf(words);
+        } else {
+            if (what.empty() || !files_.exists(what)) return false;
+            answer.outcome = FeedAnswer::Outcome::Fetched;
+            answer.body = files_.readAll(what);
+            words >> answer.etag;
+        }
+        feeds_.answers[address] = answer;
         return true;
     }
     if (verb == "start") {

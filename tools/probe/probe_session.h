@@ -12,6 +12,7 @@
 #include "platform/fake/fake_platform.h"
 #include "platform/posix_file_system.h"
 #include "record_store/columns.h"
+#include "scripted_feeds.h"
 #include "shell/main_window.h"
 
 namespace qh {
@@ -73,6 +74,7 @@ private:
     RecordingCanvasFactory canvases_;
     IcalCodec calendars_{kFakeTimeZone};
     FakeNotifications notifications_;
+    ScriptedFeeds feeds_;
     Platform platform_;
     RecordStore store_;
     std::unique_ptr<MainWindow> window_;
