@@ -255,6 +255,14 @@ bool ProbeSession::action(const std::string& line) {
         for (const Form* modal : windowing_.modalStack) PrintFormControls(*modal, out_);
         return true;
     }
+    if (verb == "cells") {
+        // Read only, so it may look at the list while a record's editor is open over it.
+        int k = 0;
+        words >> k;
+        if (k < 1 || k > 100) return false;
+        PrintGridRowCells(w, k, out_);
+        return true;
+    }
     if (verb == "focus") {
         out_ << "Focus: " << frontWindow().name() << " " << frontWindow().focusedControl << "\n";
         return true;

@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <iomanip>
 
-#include "record_store/color_vocabulary.h"
-
+#include "list_view/grid.h"
 #include "platform/fake/recording_canvas.h"
+#include "record_store/color_vocabulary.h"
 
 namespace qh {
 namespace {
@@ -86,6 +86,15 @@ void printGrid(const MainWindow& window, std::ostream& out) {
         }
         out << "\n";
     }
+}
+
+// The last call of a kind inside a box, as the cell shows it now: what a later paint
+// covered (a row's number marked, then plain again) no longer counts.
+const CanvasCall* lastCallIn(const RecordingCanvas& canvas, CanvasCall::Kind kind, int x1, int y1, int x2, int y2) {
+    const CanvasCall* last = nullptr;
+    for (const CanvasCall& call : canvas.calls())
+        if (call.kind == kind && call.x1 >= x1 && call.x1 <= x2 && call.y1 >= y1 && call.y1 <= y2) last = &call;
+    return last;
 }
 
 }  // namespace
@@ -185,6 +194,28 @@ void PrintControlLine(const Control& control, std::ostream& out) {
     const bool plain = control.foreColor == kBlack && (control.backColor == kWhite || control.backColor == kButtonFace);
     if (!plain) out << " fore=" << colorWord(control.foreColor) << " back=" << colorWord(control.backColor);
     out << "\n";
+}
+
+void PrintGridRowCells(const MainWindow& window, int v, std::ostream& out) {
+    const RecordingCanvas* grid = recording(*window.ui.picGrid);
+    const MainWindowState& s = window.state;
+    const int pitch = s.RowPitch * 15, top = (v - 1) * pitch + s.HeaderHeight * 15, bottom = top + pitch - 1;
+    out << "Cells " << v << ":";
+    for (int i = 0; grid && i < 9 && window.c("picColHeader", i).visible; ++i) {
+        const Control& header = window.c("picColHeader", i);
+        const int x1 = header.left, x2 = header.left + header.width - 1;
+        out << (i ? " |" : "");
+        if (const CanvasCall* text = lastCallIn(*grid, CanvasCall::Text, x1, top, x2, bottom))
+            out << " " << quotedText(text->text) << " " << colorWord(text->color);
+        if (const CanvasCall* fill = lastCallIn(*grid, CanvasCall::FilledBox, x1, top, x2, bottom))
+            out << " on " << colorWord(fill->color);
+    }
+    bool framed = false;
+    if (grid)
+        for (const CanvasCall& call : grid->calls())
+            if (call.kind == CanvasCall::Line && call.color == kKeyboardRowFrame && call.y1 > top && call.y1 < bottom)
+                framed = true;
+    out << (framed ? " framed" : "") << "\n";
 }
 
 }  // namespace qh

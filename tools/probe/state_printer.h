@@ -8,6 +8,10 @@
 namespace qh {
 
 void PrintWindowState(const MainWindow& window, std::ostream& out);
+// Visible row V of the list as painted now: each cell's last text in quotes with its
+// colour's name, and "on" the colour of the cell's fill, "|" between cells; "framed" at the
+// end when the keyboard's frame stands on the row.
+void PrintGridRowCells(const MainWindow& window, int v, std::ostream& out);
 // A window other than the main one: a header line `Window NAME "caption" WIDTH x HEIGHT`,
 // then one line a control (timers and menus aside), sorted by name and index: the key, its
 // text or caption in quotes, then those of `checked`, `disabled`, `hidden`, `entries=N`
