@@ -3,7 +3,8 @@
 //
 // NAME.probe runs on a drive of its own. Two comment lines, which the probe itself passes
 // over, steer the run:
-//   # drive: SEED   the drive starts as a copy of the folder drives/SEED
+//   # drive: SEED   the drive starts as a copy of the folder drives/SEED (several such
+//                   lines lay their seeds one over the other)
 //   # restart       the planner is quit and started again on the same drive
 // The drive's folder is written DRIVE in the scripts and in what they print, the source
 // tree SOURCE. NAME.out holds what every run printed, a line the probe refused ending it;
