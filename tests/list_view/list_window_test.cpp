@@ -1,6 +1,7 @@
 // The lists over records whose class or assignment is gone, whose row columns run short
-// (list_rows.h), set up straight in the store. Each list's rows in their colours, its
-// title and summary boxes, and the record a click on a row opens are the probe scripts
+// (list_rows.h), set up straight in the store, and a scroll step over a record changed
+// without a refresh. Each list's rows in their colours, its title and summary boxes, and
+// the record a click on a row opens are the probe scripts
 // lists_paint_sum_and_open_their_records and scrolled_list_marks_and_sorts; the calendar's
 // tint for each list is calendar_tint_of_each_list.
 #include <gtest/gtest.h>
@@ -79,6 +80,18 @@ TEST(Lists, RowsWhoseClassOrAssignmentIsGone) {
             EXPECT_EQ(clickRow(list, v), opens ? n + "|" + n + "|" + n : n) << "a click on row " << v;
         }
     }
+}
+
+// A scroll step gathers its rows from the records again, so a record changed without a
+// refresh of its own shows at the next step.
+TEST(Lists, AScrollStepGathersTheRowsAnew) {
+    ListWindow list(Mode::Homework);
+    list.filters("All", "Term");
+    for (int i = 1; i <= 20; ++i) addAssignment(list.store, {.description = "Item " + std::to_string(i)});
+    list.build();
+    list.store.AssignmentDescriptions(6) = "Changed";
+    list.window.scrollTo(list.window.ui.VSGridScroll.key(), 5);
+    EXPECT_EQ(list.cell(2, 3), " Changed");
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 // The month calendar's widgets that a probe script does not print: today's frame, the
 // arrows' pressed pictures and their repeat timer, the Today and Tomorrow buttons in
-// Reminders mode, and the name each cell gives a screen reader. The dates, captions,
-// colours and start days are in the probe scripts calendar_month_grid_and_start_days,
-// calendar_arrows_and_bounds and calendar_in_reminders_mode.
+// Reminders mode, the name each cell gives a screen reader, and the refresh a header click
+// spares. The dates, captions, colours and start days are in the probe scripts
+// calendar_month_grid_and_start_days, calendar_arrows_and_bounds and
+// calendar_in_reminders_mode.
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -35,6 +36,16 @@ TEST_F(MonthNavigator, TodaysFrameStandsAroundTodaysCell) {
     EXPECT_FALSE(frame.visible);
     window.click(ui.calendar.LabelToday.key());
     EXPECT_TRUE(frame.visible);
+}
+
+// A click on a day header that offers no start day, or on the current start day, changes
+// nothing, so it refreshes nothing either: the last refresh is still the load's.
+TEST_F(MonthNavigator, AHeaderThatChangesNoStartDayRefreshesNothing) {
+    window.click(ui.calendar.LabelCalDay.key(2));  // Tuesday
+    window.click(ui.calendar.LabelCalDay.key(0));  // Sunday, the start day already
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::ModeChange);
+    window.click(ui.calendar.LabelCalDay.key(1));
+    EXPECT_EQ(window.lastRefreshReason(), RefreshReason::StartDayOfWeek);
 }
 
 // A pressed arrow shows pressed and runs the repeat timer every 300 ms; released, it
